@@ -1,0 +1,46 @@
+# A room is one static library with one folder below src/. Other targets see its headers as "room/Name.h", and only when
+# they link it: each room's include directory holds nothing but a link to that room's own folder, so that an arrow that
+# is not drawn in a CMakeLists.txt does not compile.
+
+# orvik_room_include(<folder> <out-var>): the include directory that shows the folder src/<folder> and nothing else.
+function(orvik_room_include folder out)
+  string(REPLACE "/" "_" flat "${folder}")
+  set(directory ${CMAKE_BINARY_DIR}/rooms/${flat})
+  if(CMAKE_HOST_WIN32)
+    # Making links needs a privilege there; the arrows are checked by the builds on other systems.
+    set(directory ${CMAKE_SOURCE_DIR}/src)
+  else()
+    get_filename_component(parent ${directory}/${folder} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${directory}/${folder} SYMBOLIC)
+  endif()
+  set(${out} ${directory} PARENT_SCOPE)
+endfunction()
+
+# orvik_room(<target> FOLDER <folder> SOURCES <files...> [LINKS <targets...>])
+function(orvik_room target)
+  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;LINKS" ${ARGN})
+  add_library(${target} STATIC ${ROOM_SOURCES})
+  orvik_room_include(${ROOM_FOLDER} include)
+  target_include_directories(${target} PUBLIC ${include})
+  target_link_libraries(${target} PUBLIC ${ROOM_LINKS} PRIVATE orvik_options orvik_warnings)
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# orvik_program(<target> SOURCES <files...> [LINKS <targets...>] [AT_TOP])
+# AT_TOP puts the program at the top of the build folder, beside the data that it reads.
+function(orvik_program target)
+  cmake_parse_arguments(PROGRAM "AT_TOP" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${target} ${PROGRAM_SOURCES})
+  target_link_libraries(${target} PRIVATE ${PROGRAM_LINKS} orvik_options orvik_warnings)
+  if(PROGRAM_AT_TOP)
+    set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+  endif()
+endfunction()
+
+# orvik_test(<target> SOURCES <files...> [LINKS <targets...>]): one GoogleTest program, one CTest entry.
+function(orvik_test target)
+  cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
+  orvik_program(${target} SOURCES ${TEST_SOURCES} LINKS ${TEST_LINKS} orvik_test_support GTest::gmock GTest::gtest_main)
+  add_test(NAME ${target} COMMAND ${target} WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()

@@ -1,0 +1,195 @@
+#include "base/NumberText.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "base/RuntimeErrors.h"
+#include "base/Text.h"
+
+namespace orvik {
+namespace {
+
+constexpr int kSmallestDecimalExponent = -7;  // smaller magnitudes are written in exponent form
+
+// Significant digits without trailing zeros, the exponent of the first one, and the sign.
+struct Decimal {
+  bool negative;
+  std::string digits;
+  int exponent;
+};
+
+template <typename Number>
+Decimal ToDecimal(Number value, int significantDigits) {
+  // "-d.ddddde+xx": the rounding is exact (round half to even on the binary value).
+  std::array<char, 40> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                 std::chars_format::scientific, significantDigits - 1)
+                       .ptr;
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  const auto e = text.find('e');
+  Decimal result{std::signbit(value), std::string(1, text[0]), 0};
+  if (e > 2) result.digits += text.substr(2, e - 2);
+  result.digits.erase(result.digits.find_last_not_of('0') + 1);
+  const std::string_view exponent = text.substr(text[e + 1] == '+' ? e + 2 : e + 1);
+  std::from_chars(exponent.data(), exponent.data() + exponent.size(), result.exponent);
+  return result;
+}
+
+std::string ExponentForm(const Decimal& number) {
+  std::string text = number.digits.substr(0, 1);
+  if (number.digits.size() > 1) text += "." + number.digits.substr(1);
+  const int magnitude = std::abs(number.exponent);
+  text += number.exponent < 0 ? "E-" : "E+";
+  if (magnitude < 10) text += '0';
+  return text + std::to_string(magnitude);
+}
+
+std::string DecimalForm(const Decimal& number) {
+  const int count = static_cast<int>(number.digits.size());
+  if (number.exponent < 0) {
+    return "." + std::string(static_cast<std::size_t>(-number.exponent - 1), '0') + number.digits;
+  }
+  if (count <= number.exponent + 1) {
+    return number.digits + std::string(static_cast<std::size_t>(number.exponent + 1 - count), '0');
+  }
+  const auto whole = static_cast<std::size_t>(number.exponent) + 1;
+  return number.digits.substr(0, whole) + "." + number.digits.substr(whole);
+}
+
+template <typename Number>
+std::string Format(Number value, int significantDigits) {
+  if (!std::isfinite(value)) throw OverflowError();
+  if (value == 0) return "0";
+  const Decimal number = ToDecimal(value, significantDigits);
+  const bool plain =
+      number.exponent >= kSmallestDecimalExponent && number.exponent < significantDigits;
+  return (number.negative ? "-" : "") + (plain ? DecimalForm(number) : ExponentForm(number));
+}
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// The parts of a numeric prefix: [begin, end) as std::from_chars reads it, the sign taken off.
+struct Prefix {
+  bool negative = false;
+  std::string_view number;   // empty when there is no numeric prefix
+  std::size_t consumed = 0;  // characters up to the prefix's end, leading blanks and sign included
+};
+
+std::size_t SkipDigits(std::string_view text, std::size_t at) {
+  while (at < text.size() && IsDigit(text[at])) ++at;
+  return at;
+}
+
+std::size_t SkipExponent(std::string_view text, std::size_t at) {
+  if (at >= text.size() || (text[at] != 'e' && text[at] != 'E')) return at;
+  std::size_t digits = at + 1;
+  if (digits < text.size() && (text[digits] == '+' || text[digits] == '-')) ++digits;
+  const std::size_t end = SkipDigits(text, digits);
+  return end > digits ? end : at;
+}
+
+Prefix NumericPrefix(std::string_view text) {
+  Prefix prefix;
+  std::size_t at = 0;
+  while (at < text.size() && text[at] == ' ') ++at;
+  if (at < text.size() && (text[at] == '+' || text[at] == '-')) prefix.negative = text[at++] == '-';
+  const std::size_t begin = at;
+  at = SkipDigits(text, at);
+  std::size_t digits = at - begin;
+  if (at < text.size() && text[at] == '.') {
+    const std::size_t end = SkipDigits(text, at + 1);
+    digits += end - at - 1;
+    at = end;
+  }
+  if (digits == 0) return {};
+  at = SkipExponent(text, at);
+  prefix.number = text.substr(begin, at - begin);
+  prefix.consumed = at;
+  return prefix;
+}
+
+// True when a number that a double cannot hold is too large rather than too small: the sign of the
+// decimal exponent of its first significant digit decides, which is never near zero for such a
+// number.
+bool IsHuge(std::string_view number) {
+  const auto e = number.find_first_of("eE");
+  const std::string_view mantissa = number.substr(0, e);
+  const auto first = mantissa.find_first_of("123456789");
+  const auto point = std::min(mantissa.find('.'), mantissa.size());
+  double exponent = static_cast<double>(point) - static_cast<double>(first);
+  if (e != std::string_view::npos) {
+    std::string_view power = number.substr(e + 1);
+    const bool negative = power.front() == '-';
+    if (power.front() == '+' || power.front() == '-') power.remove_prefix(1);
+    double magnitude = 0;
+    for (const char c : power) magnitude = magnitude * 10 + (c - '0');
+    exponent += negative ? -magnitude : magnitude;
+  }
+  return exponent > 0;
+}
+
+double ValueOf(const Prefix& prefix) {
+  double value = 0;
+  const auto* end = prefix.number.data() + prefix.number.size();
+  const auto result = std::from_chars(prefix.number.data(), end, value);
+  if (result.ec == std::errc::result_out_of_range) {
+    value = IsHuge(prefix.number) ? std::numeric_limits<double>::infinity() : 0.0;
+  }
+  return prefix.negative ? -value : value;
+}
+
+}  // namespace
+
+std::string ToDecimalText(float value) {
+  return Format(value, std::numeric_limits<float>::digits10 + 1);
+}
+
+std::string ToDecimalText(double value) {
+  return Format(value, std::numeric_limits<double>::digits10);
+}
+
+std::string AddZeroPrefix(std::string text) {
+  if (!text.empty() && text.front() == '.' && IsNumericText(text)) text.insert(0, 1, '0');
+  return text;
+}
+
+std::string ConvertToString(float value) {
+  return AddZeroPrefix(ToDecimalText(value));
+}
+
+std::string ConvertToString(double value) {
+  return AddZeroPrefix(ToDecimalText(value));
+}
+
+double ParseNumber(std::string_view text) {
+  const Prefix prefix = NumericPrefix(text);
+  return prefix.number.empty() ? 0.0 : ValueOf(prefix);
+}
+
+bool IsNumericText(std::string_view text) {
+  const Prefix prefix = NumericPrefix(text);
+  if (prefix.number.empty() || !Trim(text.substr(prefix.consumed)).empty()) return false;
+  return std::isfinite(ValueOf(prefix));
+}
+
+bool IsWholeNumberText(std::string_view text) {
+  text = Trim(text);
+  if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
+  return !text.empty() && SkipDigits(text, 0) == text.size();
+}
+
+std::optional<std::int16_t> ParseWholeNumber(std::string_view text) {
+  if (!IsWholeNumberText(text)) return std::nullopt;
+  const double value = ParseNumber(text);
+  if (value < std::numeric_limits<std::int16_t>::min() ||
+      value > std::numeric_limits<std::int16_t>::max()) {
+    return std::nullopt;
+  }
+  return static_cast<std::int16_t>(value);
+}
+
+}  // namespace orvik

@@ -1,0 +1,31 @@
+#include "base/Paths.h"
+
+namespace orvik {
+
+std::filesystem::path PathFromUtf8(std::string_view text) {
+  return {std::u8string(text.begin(), text.end())};
+}
+
+std::string PathToUtf8(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::string WithEndingSeparator(std::string folder) {
+  if (!folder.empty() && folder.back() != '/' && folder.back() != kPathSeparator) {
+    folder += kPathSeparator;
+  }
+  return folder;
+}
+
+bool FolderExists(std::string_view path) {
+  std::error_code error;
+  return std::filesystem::is_directory(PathFromUtf8(path), error);
+}
+
+bool FileExists(std::string_view path) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(PathFromUtf8(path), error);
+}
+
+}  // namespace orvik

@@ -1,0 +1,23 @@
+// Paths as UTF-8 text, and the two questions that the module asks the file system.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace orvik {
+
+// The separator that ends a folder's text: "\" on Windows, "/" elsewhere.
+inline constexpr char kPathSeparator = std::filesystem::path::preferred_separator;
+
+std::filesystem::path PathFromUtf8(std::string_view text);
+std::string PathToUtf8(const std::filesystem::path& path);
+
+// `folder` with a separator at its end; the empty text stays empty.
+std::string WithEndingSeparator(std::string folder);
+
+// False also where the question itself fails (no permission, a path that the system cannot read).
+bool FolderExists(std::string_view path);
+bool FileExists(std::string_view path);
+
+}  // namespace orvik

@@ -1,0 +1,73 @@
+#include "base/TextEncoding.h"
+
+#include <array>
+#include <cstdint>
+
+namespace orvik {
+namespace {
+
+// Code points of the bytes 0x80...0x9F in Windows-1252 (Unicode's CP1252.TXT); the rest of Latin-1
+// maps to itself.
+constexpr std::array<std::uint16_t, 32> kWindows1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void AppendUtf8(std::string& out, std::uint16_t code) {
+  if (code < 0x80) {
+    out += static_cast<char>(code);
+  } else if (code < 0x800) {
+    out += static_cast<char>(0xC0 | (code >> 6));
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  } else {
+    out += static_cast<char>(0xE0 | (code >> 12));
+    out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (code & 0x3F));
+  }
+}
+
+// Length of the well-formed sequence at the front of `bytes`, 0 if there is none (RFC 3629, section
+// 4).
+std::size_t SequenceLength(std::string_view bytes) {
+  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  const unsigned char lead = at(0);
+  if (lead < 0x80) return 1;
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((at(i) & 0xC0) != 0x80) return 0;
+  }
+  const unsigned char second = at(1);
+  const bool overlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
+  const bool outside = (lead == 0xED && second > 0x9F) || (lead == 0xF4 && second > 0x8F);
+  return overlong || outside ? 0 : length;
+}
+
+}  // namespace
+
+bool IsUtf8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::size_t length = SequenceLength(bytes);
+    if (length == 0) return false;
+    bytes.remove_prefix(length);
+  }
+  return true;
+}
+
+std::string DecodeFileText(std::string_view bytes) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
+  if (IsUtf8(bytes)) {
+    if (bytes.starts_with(mark)) bytes.remove_prefix(mark.size());
+    return std::string(bytes);
+  }
+  std::string text;
+  text.reserve(bytes.size() * 2);
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool special = byte >= 0x80 && byte < 0xA0;
+    AppendUtf8(text, special ? kWindows1252[byte - 0x80U] : byte);
+  }
+  return text;
+}
+
+}  // namespace orvik

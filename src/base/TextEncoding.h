@@ -1,0 +1,18 @@
+// Bytes of a text file and UTF-8.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvik {
+
+// True when `bytes` are well-formed UTF-8 (no overlong forms, no surrogates, nothing above
+// U+10FFFF).
+bool IsUtf8(std::string_view bytes);
+
+// The text of a file as UTF-8: a byte-order mark is skipped; bytes that are not UTF-8 are read as
+// Windows-1252, in which every byte has a meaning (the five unassigned ones become the control
+// characters of the same number).
+std::string DecodeFileText(std::string_view bytes);
+
+}  // namespace orvik

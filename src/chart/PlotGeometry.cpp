@@ -1,0 +1,95 @@
+#include "chart/PlotGeometry.h"
+
+#include <algorithm>
+
+#include "base/Rounding.h"
+#include "base/RuntimeErrors.h"
+
+namespace orvik {
+namespace {
+
+constexpr double kAspectRatio = 4.0 / 3.0;  // width to height of the frame
+constexpr double kMargin = 20;              // pixels on each side of the control
+constexpr double kAboveFactor = 1.01;       // band above the frame, in title heights
+constexpr double kBelowFactor =
+    1.2;  // band below the frame, in title heights, beside one label height
+
+double Quotient(double dividend, double divisor) {
+  if (divisor == 0) throw DivisionByZeroError();
+  return dividend / divisor;
+}
+
+// Extents in pixels before rounding.
+struct Extents {
+  double above;
+  double frameHeight;
+  double frameWidth;
+  double below;
+};
+
+Extents FitExtents(double usableWidth, double usableHeight, double aboveUnits, double plotUnits,
+                   double belowUnits) {
+  const double sum = aboveUnits + plotUnits + belowUnits;
+  double height = usableHeight * (plotUnits / sum);
+  double width = height * kAspectRatio;
+  if (width > usableWidth) {  // the width is the limit; the heights follow from it
+    width = usableWidth;
+    height = width / kAspectRatio;
+  }
+  const double pixelsPerUnit = height / plotUnits;
+  return {aboveUnits * pixelsPerUnit, height, width, belowUnits * pixelsPerUnit};
+}
+
+}  // namespace
+
+FrameLayout LayoutFrame(int width, int height, const clsPlotWindow& window,
+                        const LayoutHeights& heights) {
+  const double usableWidth = std::max(1.0, width - 2 * kMargin);
+  const double usableHeight = std::max(1.0, height - 2 * kMargin);
+  const double title = heights.Title;
+  const Extents extents =
+      FitExtents(usableWidth, usableHeight, kAboveFactor * title, window.YMax - window.YMin,
+                 kBelowFactor * title + heights.Label);
+
+  const double freeWidth = usableWidth - extents.frameWidth;
+  const double freeHeight = usableHeight - (extents.above + extents.frameHeight + extents.below);
+  const double left = kMargin + freeWidth / 2;
+  const double titleTop = kMargin + freeHeight / 2;
+  const double top = titleTop + extents.above;
+  const double bottom = top + extents.frameHeight;
+
+  FrameLayout layout;
+  layout.Frame = {ToInt16(left), ToInt16(left + extents.frameWidth), ToInt16(top), ToInt16(bottom)};
+  const clsRectangle_Integer& frame = layout.Frame;
+  layout.Title = {frame.Left, frame.Right, ToInt16(titleTop), frame.Top};
+  layout.HorizontalAxis = {frame.Left, frame.Right, frame.Bottom, ToInt16(bottom + extents.below)};
+  layout.VerticalAxis = {ToInt16(kMargin), frame.Left, frame.Top, frame.Bottom};
+  return layout;
+}
+
+std::int16_t PlotGeometry::XPlotToXFrame(double x) const {
+  const double t = Quotient(x - window_.XMin, window_.XMax - window_.XMin);
+  return ToInt16(t * (frame_.Right - frame_.Left) + frame_.Left);
+}
+
+std::int16_t PlotGeometry::YPlotToYFrame(double y) const {
+  const double t = Quotient(y - window_.YMin, window_.YMax - window_.YMin);
+  return ToInt16(t * (frame_.Top - frame_.Bottom) + frame_.Bottom);
+}
+
+double PlotGeometry::XFrameToXPlot(std::int16_t X) const {
+  return Quotient(X - frame_.Left, frame_.Right - frame_.Left) * (window_.XMax - window_.XMin) +
+         window_.XMin;
+}
+
+double PlotGeometry::YFrameToYPlot(std::int16_t Y) const {
+  return Quotient(Y - frame_.Bottom, frame_.Top - frame_.Bottom) * (window_.YMax - window_.YMin) +
+         window_.YMin;
+}
+
+Boolean16 PlotGeometry::IsPointInFrame(std::int16_t X, std::int16_t Y) const {
+  return ToBoolean16(frame_.Left <= X && X <= frame_.Right && frame_.Top <= Y &&
+                     Y <= frame_.Bottom);
+}
+
+}  // namespace orvik

@@ -1,0 +1,30 @@
+// What every command of kav is made of: options bound to a parser, and the run after parsing.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <string>
+
+#include "cli/Console.h"
+
+namespace orvik {
+
+// Options that every command takes.
+struct CommonOptions {
+  std::string data;   // folder that holds "KAV Data"; empty: the program's own folder
+  bool json = false;  // print one JSON object
+};
+
+// A command adds itself to the parser and returns what is run when the user names it.
+using CommandRun = std::function<ExitCode(Console&, const CommonOptions&)>;
+
+CommandRun AddStationsCommand(CLI::App& app);
+CommandRun AddSolveCommand(CLI::App& app);
+
+// The folder that holds "KAV Data", with a separator at its end.
+std::string DataFolder(const Console& console, const CommonOptions& options);
+
+// Refuses a text that is not a number, so that a slip of the finger is never calculated with.
+std::string ValidateNumber(const std::string& text);
+
+}  // namespace orvik

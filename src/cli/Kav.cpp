@@ -1,0 +1,75 @@
+#include "cli/Kav.h"
+
+#include <algorithm>
+#include <exception>
+#include <memory>
+#include <utility>
+
+#include "base/ModuleVersion.h"
+#include "base/NumberText.h"
+#include "base/Paths.h"
+#include "cli/Command.h"
+
+namespace orvik {
+namespace {
+
+using Commands = std::vector<std::pair<CLI::App*, CommandRun>>;
+
+void AddCommand(CLI::App& app, Commands& commands, CommandRun (*add)(CLI::App&)) {
+  CommandRun run = add(app);
+  commands.emplace_back(app.get_subcommands([](const CLI::App*) { return true; }).back(),
+                        std::move(run));
+}
+
+ExitCode RunChosen(const Commands& commands, Console& console, const CommonOptions& options) {
+  const auto chosen =
+      std::ranges::find_if(commands, [](const auto& c) { return c.first->parsed(); });
+  return chosen->second(console, options);
+}
+
+ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console) {
+  CLI::App app{"Sizes stormwater reuse ponds: reuse rate R, storage volume V and efficiency E.",
+               "kav"};
+  CommonOptions options;
+  app.set_version_flag("--version", "kav " + std::string(kModuleVersion));
+  app.add_option("--data", options.data,
+                 "Folder that holds \"KAV Data\"; otherwise the program's own folder")
+      ->type_name("DIR");
+  app.add_flag("--json", options.json, "Print one JSON object instead of text");
+  app.require_subcommand(1);
+  app.fallthrough();  // the common options may stand behind the command
+
+  Commands commands;
+  AddCommand(app, commands, AddStationsCommand);
+  AddCommand(app, commands, AddSolveCommand);
+
+  try {
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+  } catch (const CLI::ParseError& error) {
+    const bool asked = error.get_exit_code() == 0;  // --help, --version
+    app.exit(error, asked ? console.out : console.err, console.err);
+    return asked ? ExitCode::Done : ExitCode::WrongUsage;
+  }
+  return RunChosen(commands, console, options);
+}
+
+}  // namespace
+
+std::string DataFolder(const Console& console, const CommonOptions& options) {
+  return WithEndingSeparator(options.data.empty() ? console.programFolder : options.data);
+}
+
+std::string ValidateNumber(const std::string& text) {
+  return IsNumericText(text) ? std::string() : "\"" + text + "\" is not a number";
+}
+
+int RunKav(const std::vector<std::string>& arguments, Console& console) {
+  try {
+    return static_cast<int>(ParseAndRun(arguments, console));
+  } catch (const std::exception& error) {
+    PrintMessage(console, std::string("The command could not be finished: ") + error.what());
+  }
+  return static_cast<int>(ExitCode::FileTrouble);
+}
+
+}  // namespace orvik

@@ -1,0 +1,41 @@
+// The region between two neighbouring curves as a polygon of whole pixels, and the test whether a
+// pixel lies in it.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "engine/EfficiencyCurve.h"
+
+namespace orvik {
+
+// Turns chart coordinates into pixels. The chart provides it; see PlotGeometry for the rules.
+class PlotToFrame {
+ public:
+  PlotToFrame() = default;
+  PlotToFrame(const PlotToFrame&) = default;
+  PlotToFrame& operator=(const PlotToFrame&) = default;
+  virtual ~PlotToFrame() = default;
+
+  virtual std::int16_t XPlotToXFrame(double x) const = 0;  // x = V, inches on the EIA
+  virtual std::int16_t YPlotToYFrame(double y) const = 0;  // y = R, inches per day on the EIA
+};
+
+// Vertices in pixels, y down; element 0 is the first. Closed: the last vertex repeats the first.
+struct FramePolygon {
+  std::vector<std::int16_t> X;
+  std::vector<std::int16_t> Y;
+  std::size_t Count() const { return X.size(); }
+};
+
+// Curve A's samples in order, then curve B's from last to first, then the first point again. A
+// point on the same pixel as the one before it is left out. Empty when a curve has no samples; a
+// single point stays alone, unclosed. Throws OverflowError where a sample lies beyond 16-bit
+// pixels.
+FramePolygon FindPolygonInPlotCoordinates(const EfficiencyCurve& A, const EfficiencyCurve& B,
+                                          const PlotToFrame& mapping);
+
+// Even-odd crossing test in whole pixels. Edges are half-open in y, so that a vertex counts once.
+bool IsPointInsidePolygon(std::int16_t X, std::int16_t Y, const FramePolygon& polygon);
+
+}  // namespace orvik

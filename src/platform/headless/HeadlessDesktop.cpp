@@ -1,0 +1,9 @@
+#include "platform/headless/HeadlessDesktop.h"
+
+namespace orvik {
+
+void HeadlessDesktop::ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) {
+  messages_.push_back({std::string(text), std::string(title), icon});
+}
+
+}  // namespace orvik
