@@ -18,6 +18,12 @@ class Desktop {
 
   // Shows a message with an OK button and waits until it is read.
   virtual void ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) = 0;
+
+  // Asks a question with the buttons Yes and No; true for Yes.
+  virtual bool AskYesNo(std::string_view text, std::string_view title) = 0;
+
+  // The system beep.
+  virtual void Beep() = 0;
 };
 
 }  // namespace orvik

@@ -6,4 +6,9 @@ void HeadlessDesktop::ShowMessage(std::string_view text, std::string_view title,
   messages_.push_back({std::string(text), std::string(title), icon});
 }
 
+bool HeadlessDesktop::AskYesNo(std::string_view text, std::string_view title) {
+  messages_.push_back({std::string(text), std::string(title), MessageIcon::None});
+  return answerYes_;
+}
+
 }  // namespace orvik

@@ -19,12 +19,20 @@ class HeadlessDesktop final : public Desktop {
   };
 
   void ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) override;
+  bool AskYesNo(std::string_view text, std::string_view title) override;
+  void Beep() override { ++beeps_; }
 
-  // In the order shown.
+  // The answer that the next questions get.
+  void AnswerYes(bool yes) { answerYes_ = yes; }
+
+  // In the order shown, questions included.
   const std::vector<Message>& Messages() const { return messages_; }
+  int Beeps() const { return beeps_; }
 
  private:
   std::vector<Message> messages_;
+  int beeps_ = 0;
+  bool answerYes_ = false;
 };
 
 }  // namespace orvik

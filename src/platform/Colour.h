@@ -1,0 +1,23 @@
+// Colours as the platform writes them: 0x00BBGGRR, or 0x80000000 + the number of a system colour.
+#pragma once
+
+#include <cstdint>
+
+namespace orvik {
+
+using Colour = std::uint32_t;
+
+inline constexpr Colour kBlack = 0x000000;
+inline constexpr Colour kRed = 0x0000FF;
+
+// System colours that the drawn controls use.
+inline constexpr Colour kWindowBackground = 0x80000005;
+inline constexpr Colour kWindowText = 0x80000008;
+inline constexpr Colour kButtonFace = 0x8000000F;
+inline constexpr Colour kButtonShadow = 0x80000010;
+inline constexpr Colour kButtonText = 0x80000012;
+inline constexpr Colour k3DHighlight = 0x80000014;
+inline constexpr Colour k3DDarkShadow = 0x80000015;
+inline constexpr Colour k3DLight = 0x80000016;
+
+}  // namespace orvik

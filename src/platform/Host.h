@@ -1,0 +1,24 @@
+// What a drawn control asks of the window that shows it.
+#pragma once
+
+namespace orvik {
+
+class Surface;
+
+class Host {
+ public:
+  Host() = default;
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+  virtual ~Host() = default;
+
+  virtual void Invalidate() = 0;  // paint me again soon
+  virtual void CaptureMouse() = 0;
+  virtual void ReleaseMouse() = 0;
+
+  // The control's own surface, for drawing outside a paint (transient marks). Null while nothing is
+  // shown.
+  virtual Surface* DrawNow() = 0;
+};
+
+}  // namespace orvik
