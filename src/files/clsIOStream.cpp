@@ -1,7 +1,7 @@
 #include "files/clsIOStream.h"
 
 #include <cmath>
-#include <iterator>
+#include <sstream>
 #include <utility>
 
 #include "base/NumberText.h"
@@ -72,8 +72,9 @@ bool clsIOStream::IsReadingFile() const {
 
 void clsIOStream::OpenInput(std::string_view path) {
   std::ifstream file(PathFromUtf8(path), std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  fileText_ = DecodeFileText(bytes);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();  // a folder or a broken disk fails here without a word, like a file that is not there
+  fileText_ = DecodeFileText(bytes.view());
   readPosition_ = 0;
 }
 

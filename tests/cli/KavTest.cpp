@@ -1,0 +1,173 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "base/Paths.h"
+#include "support/CurveFileText.h"
+#include "support/KavRun.h"
+#include "support/TempFolder.h"
+
+namespace orvik {
+namespace {
+
+using test::KavRun;
+using test::LogarithmicCurves;
+using testing::HasSubstr;
+
+class Kav : public testing::Test {
+ protected:
+  KavRun Run(const std::vector<std::string>& arguments) {
+    return test::RunKavWith(arguments, folder_.Path());
+  }
+  void WriteTampa(const std::string& text) { folder_.Write("KAV Data/Tampa.crv", text); }
+
+  test::TempFolder folder_;
+};
+
+TEST_F(Kav, SolvesForEachQuantity) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun R = Run({"solve", "--station", "Tampa", "--efficiency", "60", "--volume", "3"});
+  EXPECT_EQ(R.exitCode, 0);
+  EXPECT_EQ(R.err, "");
+  EXPECT_THAT(R.out, HasSubstr("Reuse rate R       0.1200694   in/day on the EIA   <- found\n"));
+  const KavRun E = Run({"solve", "--station", "Tampa", "--rate", "0.1200694", "--volume", "3"});
+  EXPECT_THAT(E.out, HasSubstr("% of the runoff   <- found"));
+  const KavRun V =
+      Run({"solve", "--station", "Tampa", "--rate", "0.1200694", "--efficiency", "60"});
+  EXPECT_THAT(V.out, HasSubstr("in on the EIA   <- found"));
+}
+
+TEST_F(Kav, PrintsOneJsonObject) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun run =
+      Run({"solve", "--station", "tampa", "--efficiency", "60", "--volume", "3", "--json"});
+  EXPECT_EQ(run.exitCode, 0);
+  const auto object = nlohmann::json::parse(run.out);
+  EXPECT_EQ(object["station"], "Tampa");
+  EXPECT_EQ(object["R"], 0.1200694);
+  EXPECT_EQ(object["V"], 3);
+  EXPECT_EQ(object["E"], 60);
+  EXPECT_EQ(object["message"], "");
+  EXPECT_EQ(object["helpTopic"], 0);
+}
+
+TEST_F(Kav, ACalculationThatSaysNoExitsOneWithItsMessage) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun run = Run({"solve", "--station", "Tampa", "--efficiency", "99.9", "--rate", "0.1"});
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "Design efficiency is greater than 90%.\n");
+}
+
+TEST_F(Kav, ARefusalInJsonHasMessageAndTopicToo) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun run =
+      Run({"--json", "solve", "--station", "Tampa", "--efficiency", "10", "--rate", "0.1"});
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_EQ(run.err, "Design efficiency is less than 50%.\n");
+  const auto object = nlohmann::json::parse(run.out);
+  EXPECT_TRUE(object["V"].is_null());
+  EXPECT_EQ(object["message"], "Design efficiency is less than 50%.");
+  EXPECT_EQ(object["helpTopic"], 1);
+}
+
+TEST_F(Kav, NegativeNumbersReachTheRangeCheck) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "-1", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_EQ(run.err, "Normalized reuse rate is less than 0\n");
+}
+
+TEST_F(Kav, AFolderWithoutDataExitsThree) {
+  const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err,
+            "Can't find data path:\n" + folder_.Path() + "KAV Data" + kPathSeparator + "\n");
+}
+
+TEST_F(Kav, AStationWithoutAFileExitsThree) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun run = Run({"solve", "--station", "Miami", "--rate", "0.1", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_EQ(run.err, "Can't find data for Miami\n");
+}
+
+TEST_F(Kav, ADamagedFileExitsThree) {
+  WriteTampa("damaged");
+  const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_EQ(run.err, "The curve file of Tampa is damaged or cannot be read.\n");
+}
+
+TEST_F(Kav, CurvesThatMeetExitThree) {
+  auto file = LogarithmicCurves();
+  file.curves[1].E = "50";
+  WriteTampa(file.Text());
+  const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.12", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_EQ(run.err,
+            "The design curves of Tampa cannot be used: two of them meet or leave the chart.\n");
+}
+
+TEST_F(Kav, TakesTheDataFolderFromItsOption) {
+  folder_.Write("elsewhere/KAV Data/Tampa.crv", LogarithmicCurves().Text());
+  for (const std::string& data : {folder_ / "elsewhere", folder_ / "elsewhere" + kPathSeparator}) {
+    const KavRun run =
+        Run({"solve", "--data", data, "--station", "Tampa", "--efficiency", "60", "--volume", "3"});
+    EXPECT_EQ(run.exitCode, 0) << data << run.err;
+  }
+}
+
+TEST_F(Kav, WrongUsageExitsTwoWithASentence) {
+  WriteTampa(LogarithmicCurves().Text());
+  const std::vector<std::vector<std::string>> cases = {
+      {},
+      {"nonsense"},
+      {"solve"},
+      {"solve", "--station", "Tampa"},
+      {"solve", "--station", "Tampa", "--rate", "0.1"},
+      {"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3", "--efficiency", "60"},
+      {"solve", "--station", "Atlantis", "--rate", "0.1", "--volume", "3"},
+      {"solve", "--station", "Tampa", "--rate", "0,1", "--volume", "3"},
+      {"solve", "--station", "Tampa", "--rate", "60abc", "--volume", "3"},
+      {"solve", "--station", "Tampa", "--rate", "", "--volume", "3", "--efficiency", "60"},
+      {"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3", "--colour", "red"},
+  };
+  for (const auto& arguments : cases) {
+    const KavRun run = Run(arguments);
+    EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(arguments);
+    EXPECT_EQ(run.out, "") << testing::PrintToString(arguments);
+    EXPECT_NE(run.err, "") << testing::PrintToString(arguments);
+  }
+}
+
+TEST_F(Kav, HelpGoesToStandardOutputWithAnExample) {
+  for (const char* command : {"solve", "stations"}) {
+    const KavRun run = Run({command, "--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, HasSubstr(std::string("kav ") + command));
+  }
+}
+
+TEST_F(Kav, VersionIsTheBuilds) {
+  EXPECT_EQ(Run({"--version"}).out, "kav " ORVIK_VERSION "\n");
+}
+
+TEST_F(Kav, StationsListsAllAndWhichHaveCurves) {
+  WriteTampa(LogarithmicCurves().Text());
+  const KavRun text = Run({"stations"});
+  EXPECT_EQ(text.exitCode, 0);
+  EXPECT_THAT(text.out, HasSubstr(" 23  Tampa            yes\n"));
+  EXPECT_THAT(text.out, HasSubstr(" 25  West Palm Beach  no\n"));
+  const auto object = nlohmann::json::parse(Run({"stations", "--json"}).out);
+  ASSERT_EQ(object["stations"].size(), 25U);
+  EXPECT_EQ(object["stations"][22]["station"], "Tampa");
+  EXPECT_EQ(object["stations"][22]["curves"], true);
+  EXPECT_EQ(object["stations"][0]["curves"], false);
+}
+
+}  // namespace
+}  // namespace orvik

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "engine/CurveFile.h"
+#include "support/CurveFileText.h"
+#include "support/TempFolder.h"
+
+namespace orvik {
+namespace {
+
+using test::CurveFileText;
+using test::LogarithmicCurves;
+using test::TempFolder;
+
+bool Read(std::string_view text, CurveSet& set) {
+  const TempFolder folder;
+  clsIOStream stream;
+  stream.OpenFile(folder.Write("s.crv", text), enumIOStreamMode::AsciiFileInput);
+  return ReadCurveFile(stream, set);
+}
+
+TEST(ReadCurveFile, ReadsEveryValueInItsPlace) {
+  CurveSet set;
+  ASSERT_TRUE(Read(LogarithmicCurves().Text(), set));
+  EXPECT_EQ(set.Title, "Test station");
+  EXPECT_EQ(set.VMin, 0);
+  EXPECT_EQ(set.VMax, 7);
+  EXPECT_EQ(set.VInterval, 1);
+  EXPECT_EQ(set.RMin, 0);
+  EXPECT_EQ(set.RMax, 0.4);
+  EXPECT_EQ(set.RInterval, 0.1);
+  ASSERT_EQ(set.Curves.size(), 3U);
+  EXPECT_EQ(set.Curves[1].E, 70.0F);
+  EXPECT_EQ(set.Curves[1].VStart, 1.5);
+  EXPECT_EQ(set.Curves[1].VEnd, 7);
+  EXPECT_EQ(set.Curves[1].A, 0.20);
+  EXPECT_EQ(set.Curves[1].B, -0.05);
+  EXPECT_EQ(set.Curves[1].NumPoints, 100);
+  ASSERT_EQ(set.Labels.size(), 2U);
+  EXPECT_EQ(set.Labels[0].Text, "E=50%");
+  EXPECT_EQ(set.Labels[0].V, 2.5);
+  EXPECT_EQ(set.Labels[0].R, 0.12);
+  EXPECT_EQ(set.Labels[1].R, 0.2);  // the blank behind its comma does not matter
+}
+
+TEST(ReadCurveFile, ReadsEAndTheCountsAsFields) {
+  CurveFileText file = LogarithmicCurves();
+  std::string text = file.Text();
+  text.replace(text.find("\r\n3\r\n50\r\n"), 9,
+               "\r\n3 50,");  // count, first E and the next line on one line
+  CurveSet set;
+  ASSERT_TRUE(Read(text, set));
+  EXPECT_EQ(set.Curves.size(), 3U);
+  EXPECT_EQ(set.Curves[0].E, 50.0F);
+  EXPECT_EQ(set.Curves[0].VStart, 1);
+}
+
+TEST(ReadCurveFile, ReadsLettersAsZero) {
+  CurveFileText file = LogarithmicCurves();
+  file.header[2] = "inches";
+  file.curves[0].C = "none";
+  CurveSet set;
+  ASSERT_TRUE(Read(file.Text(), set));
+  EXPECT_EQ(set.VInterval, 0);
+  EXPECT_EQ(set.Curves[0].C, 0);
+}
+
+TEST(ReadCurveFile, TakesTheNumericPrefixOfALine) {
+  CurveFileText file = LogarithmicCurves();
+  file.header[1] = "7 inches";
+  CurveSet set;
+  ASSERT_TRUE(Read(file.Text(), set));
+  EXPECT_EQ(set.VMax, 7);
+}
+
+TEST(ReadCurveFile, HasNoLabelsWhereTheCountIsZeroOrLess) {
+  for (const char* count : {"0", "-3"}) {
+    CurveFileText file = LogarithmicCurves();
+    file.labels.clear();
+    std::string text = file.Text();
+    text.replace(text.rfind("0\r\n"), 1, count);
+    CurveSet set;
+    ASSERT_TRUE(Read(text, set)) << count;
+    EXPECT_TRUE(set.Labels.empty()) << count;
+  }
+}
+
+struct Spoiled {
+  const char* what;
+  std::function<void(CurveFileText&)> spoil;
+};
+
+TEST(ReadCurveFile, RefusesASetThatCannotBeUsed) {
+  const Spoiled cases[] = {
+      {"no curves", [](CurveFileText& f) { f.curves.clear(); }},
+      {"infinite V maximum", [](CurveFileText& f) { f.header[1] = "1e999"; }},
+      {"V maximum not above minimum", [](CurveFileText& f) { f.header[1] = "0"; }},
+      {"R maximum not above minimum", [](CurveFileText& f) { f.header[4] = "-1"; }},
+      {"infinite coefficient", [](CurveFileText& f) { f.curves[1].D = "1e999"; }},
+      {"samples beyond a double",
+       [](CurveFileText& f) { f.curves[2].C = f.curves[2].D = "1e308"; }},
+      {"E beyond single precision", [](CurveFileText& f) { f.curves[0].E = "1e39"; }},
+      {"VStart of zero", [](CurveFileText& f) { f.curves[0].VStart = "0"; }},
+      {"VStart below zero", [](CurveFileText& f) { f.curves[0].VStart = "-1"; }},
+      {"VStart of letters", [](CurveFileText& f) { f.curves[0].VStart = "x"; }},
+      {"VEnd of zero", [](CurveFileText& f) { f.curves[0].VEnd = "0"; }},
+      {"label position without a comma", [](CurveFileText& f) { f.labels[1] = "2.5 0.12"; }},
+      {"label position with letters", [](CurveFileText& f) { f.labels[3] = "3,high"; }},
+      {"label position missing at the end", [](CurveFileText& f) { f.labels[3] = ""; }},
+  };
+  for (const auto& [what, spoil] : cases) {
+    CurveFileText file = LogarithmicCurves();
+    spoil(file);
+    CurveSet set;
+    EXPECT_FALSE(Read(file.Text(), set)) << what;
+  }
+}
+
+TEST(ReadCurveFile, RefusesACountThatPromisesMoreThanTheFileHolds) {
+  std::string text = LogarithmicCurves().Text();
+  text.replace(text.find("\r\n3\r\n"), 5, "\r\n30000\r\n");
+  CurveSet set;
+  EXPECT_FALSE(Read(text, set));
+}
+
+TEST(ReadCurveFile, NeverTakesAFileThatWasCutShort) {
+  // Cut anywhere before its last number, the file must not load with zeros or cut digits for what
+  // is missing.
+  CurveFileText file = LogarithmicCurves();
+  file.labels = {"E=50%", "2.5,0.12"};
+  const std::string text = file.Text();
+  const std::size_t lastNumber = text.find("0.12");
+  for (std::size_t length = 0; length <= lastNumber; ++length) {
+    CurveSet set;
+    EXPECT_FALSE(Read(text.substr(0, length), set)) << length;
+  }
+}
+
+TEST(ReadCurveFile, RefusesNoise) {
+  std::string noise;
+  unsigned state = 12345;
+  for (int i = 0; i < 100000; ++i) {
+    state = state * 1664525U + 1013904223U;
+    noise += static_cast<char>(state >> 24);
+  }
+  CurveSet set;
+  EXPECT_FALSE(Read(noise, set));
+  EXPECT_FALSE(Read("", set));
+  EXPECT_FALSE(Read(std::string(1000, '\0'), set));
+}
+
+TEST(ReadCurveFile, RefusesAFileWithLoneLineFeeds) {
+  std::string text = LogarithmicCurves().Text();
+  std::erase(text, '\r');
+  CurveSet set;
+  EXPECT_FALSE(Read(text, set));
+}
+
+}  // namespace
+}  // namespace orvik

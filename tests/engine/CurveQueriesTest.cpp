@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "base/RuntimeErrors.h"
+#include "engine/CurveQueries.h"
+
+namespace orvik {
+namespace {
+
+// R = A - 0.05 ln V.
+EfficiencyCurve Logarithmic(float E, double A, double VStart, double VEnd = 7) {
+  EfficiencyCurve curve;
+  curve.E = E;
+  curve.A = A;
+  curve.B = -0.05;
+  curve.VStart = VStart;
+  curve.VEnd = VEnd;
+  SampleCurve(curve);
+  return curve;
+}
+
+CurveSet ThreeCurves() {
+  CurveSet set;
+  set.Curves = {Logarithmic(50, 0.15, 1), Logarithmic(70, 0.20, 1.5), Logarithmic(90, 0.25, 2)};
+  return set;
+}
+
+TEST(ExtractCurve, TakesAStoredCurveUnchanged) {
+  const CurveSet set = ThreeCurves();
+  const auto curve = ExtractCurve(set, 70);
+  ASSERT_TRUE(curve);
+  EXPECT_EQ(curve->E, 70.0F);
+  EXPECT_EQ(curve->A, set.Curves[1].A);
+  EXPECT_EQ(curve->R, set.Curves[1].R);
+}
+
+TEST(ExtractCurve, ComparesInSinglePrecision) {
+  const auto curve = ExtractCurve(ThreeCurves(), 70.0000001);  // the same single as 70
+  ASSERT_TRUE(curve);
+  EXPECT_EQ(curve->A, 0.20);
+}
+
+TEST(ExtractCurve, InterpolatesEveryParameterInE) {
+  const auto curve = ExtractCurve(ThreeCurves(), 55);  // a quarter of the way from 50 to 70
+  ASSERT_TRUE(curve);
+  EXPECT_EQ(curve->E, 55.0F);
+  EXPECT_DOUBLE_EQ(curve->A, 0.1625);
+  EXPECT_DOUBLE_EQ(curve->B, -0.05);
+  EXPECT_DOUBLE_EQ(curve->VStart, 1.125);
+  EXPECT_DOUBLE_EQ(curve->VEnd, 7);
+  EXPECT_EQ(curve->NumPoints, 100);
+  EXPECT_EQ(curve->V.front(), 1.125);
+}
+
+TEST(ExtractCurve, FindsNothingOutsideTheCurves) {
+  EXPECT_FALSE(ExtractCurve(ThreeCurves(), 49.99));
+  EXPECT_FALSE(ExtractCurve(ThreeCurves(), 90.01));
+  EXPECT_FALSE(ExtractCurve(CurveSet(), 70));
+}
+
+TEST(FindVOnCurve, InvertsTheCurve) {
+  // R = 0.2 - 0.05 ln V, so V = exp((0.2 - R) / 0.05). Near V the slope is 0.05 / V, so 1E-5 in R
+  // is V / 5000 in V.
+  const EfficiencyCurve curve = Logarithmic(70, 0.20, 1.5);
+  for (double R = 0.105; R < 0.178; R += 0.0037) {
+    const double expected = std::exp((0.2 - R) / 0.05);
+    const auto V = FindVOnCurve(R, curve, 1e-5, 5e-6);
+    ASSERT_TRUE(V) << R;
+    EXPECT_NEAR(*V, expected, expected / 5000 + 5e-6) << R;
+  }
+}
+
+TEST(FindVOnCurve, AcceptsTheEndsAndRefusesBeyond) {
+  const EfficiencyCurve curve = Logarithmic(70, 0.20, 1.5);
+  EXPECT_TRUE(FindVOnCurve(CurveR(1.5, curve), curve, 1e-5, 5e-6));
+  EXPECT_TRUE(FindVOnCurve(CurveR(7, curve), curve, 1e-5, 5e-6));
+  EXPECT_FALSE(FindVOnCurve(CurveR(1.5, curve) + 1e-9, curve, 1e-5, 5e-6));
+  EXPECT_FALSE(FindVOnCurve(CurveR(7, curve) - 1e-9, curve, 1e-5, 5e-6));
+}
+
+TEST(FindVOnCurve, StopsAtItsFirstMiddleWithinTheTolerance) {
+  // Halving 1...3 gives 2 first; a rate that is only 1E-6 away stops there.
+  const EfficiencyCurve curve = Logarithmic(50, 0.15, 1, 3);
+  EXPECT_EQ(FindVOnCurve(CurveR(2, curve) + 1e-6, curve, 1e-5, 5e-6), 2.0);
+}
+
+TEST(FindVOnCurve, EndsOnACurveThatJumpsPastTheRate) {
+  // A curve so steep that the tolerance on R is never met ends by the tolerance on V.
+  EfficiencyCurve steep = Logarithmic(50, 0, 1, 3);
+  steep.B = -1e9;
+  const auto V = FindVOnCurve(-1e9 * std::log(2.5), steep, 1e-5, 5e-6);
+  ASSERT_TRUE(V);
+  EXPECT_NEAR(*V, 2.5, 5e-6);
+}
+
+TEST(FindVOnCurve, GivesUpWhereDoublesAreTooCoarseForBothTolerances) {
+  // Around 3E299 inches neighbouring doubles lie farther apart than the tolerance on V, and this
+  // curve's values jump over R = 1 by far more than the tolerance on R: a search without end.
+  EfficiencyCurve endless = Logarithmic(50, 0, 1e299, 1e300);
+  endless.B = -1e200;
+  endless.A = 1e200 * std::log(3e299);
+  EXPECT_FALSE(FindVOnCurve(1.0, endless, 1e-5, 5e-6));
+}
+
+TEST(FindEBetweenCurves, IsLinearInRAtOneV) {
+  // Both coefficients A and E are linear in t, so E = 50 + 20 (R - R50) / (R70 - R50).
+  const EfficiencyCurve A = Logarithmic(50, 0.15, 1);
+  const EfficiencyCurve B = Logarithmic(70, 0.20, 1.5);
+  for (double share = 0.05; share < 1; share += 0.09) {
+    const double V = 3;
+    const double R = 0.15 + 0.05 * share - 0.05 * std::log(V);
+    const auto found = FindEBetweenCurves(V, R, A, B);
+    ASSERT_TRUE(found);
+    EXPECT_NEAR(found->E, 50 + 20 * share, 1e-9);
+    EXPECT_NEAR(found->t, share, 1e-11);
+  }
+}
+
+TEST(FindEBetweenCurves, TakesTheCurveItselfWithinTheTolerance) {
+  const EfficiencyCurve A = Logarithmic(50, 0.15, 1);
+  const EfficiencyCurve B = Logarithmic(70, 0.20, 1.5);
+  for (const double off : {0.0, 9e-6, -9e-6}) {
+    EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, A) + off, A, B)->E, 50) << off;
+    EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, B) + off, A, B)->E, 70) << off;
+  }
+  EXPECT_NE(FindEBetweenCurves(3, CurveR(3, A) + 1.1e-5, A, B)->E, 50);
+}
+
+TEST(FindEBetweenCurves, EqualEOrEqualRIsADivisionByZero) {
+  const EfficiencyCurve A = Logarithmic(50, 0.15, 1);
+  EfficiencyCurve sameE = Logarithmic(50, 0.20, 1);
+  EXPECT_THROW(FindEBetweenCurves(3, 0.13, A, sameE), DivisionByZeroError);
+  EfficiencyCurve sameR = Logarithmic(70, 0.15, 1);
+  EXPECT_THROW(FindEBetweenCurves(3, 0.13, A, sameR), DivisionByZeroError);
+}
+
+}  // namespace
+}  // namespace orvik
