@@ -82,6 +82,11 @@ class ctrlStormwaterReuse {
   bool GetV(float& V) const;
   bool GetE(float& E) const;
 
+  // The hotspot in double precision, as it was solved; the last ones while it is hidden.
+  double HotspotV() const { return hotspotV_; }
+  double HotspotR() const { return hotspotR_; }
+  double HotspotE() const { return E_; }
+
   // The hotspot's pixel.
   std::int16_t HotspotX() const { return hotspotX_; }
   std::int16_t HotspotY() const { return hotspotY_; }

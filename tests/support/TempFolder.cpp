@@ -25,7 +25,7 @@ std::string TempFolder::Path() const {
 }
 
 std::string TempFolder::Write(std::string_view name, std::string_view bytes) const {
-  const std::string path = *this / name;
+  std::string path = *this / name;
   std::filesystem::create_directories(PathFromUtf8(path).parent_path());
   std::ofstream(PathFromUtf8(path), std::ios::binary) << bytes;
   return path;

@@ -1,0 +1,55 @@
+# Runs the tests of a preset through CTest and sums what each program says of itself: GoogleTest programs write a report with
+# their counts, every other entry prints a line "N passed, N failed" or counts as one test.
+passed=0
+failed=0
+
+count() { # passed failed name
+  passed=$((passed + $1))
+  failed=$((failed + $2))
+  printf '%6d passed, %d failed  %s\n' "$1" "$2" "$3"
+}
+
+# The attribute $2 of the report $1's first element.
+attribute() { grep -o '<testsuites [^>]*' "$1" | grep -o " $2=\"[0-9]*\"" | tr -dc 0-9; }
+
+run_preset() {
+  local preset=$1 reports=$PWD/build/$1/reports
+  rm -rf "$reports"
+  mkdir -p "$reports"
+  local drive= # Wine shows this system's root as drive Z:
+  [ "$preset" != windows ] || drive=Z:
+  GTEST_OUTPUT="xml:$drive$reports/" GTEST_BRIEF=1 ctest --preset "$preset" --output-log "$reports/ctest.log" \
+    --output-junit "$reports/ctest.xml" --verbose >/dev/null 2>&1
+  local line
+  while read -r line; do
+    local name=${line#*name=\"}
+    name=${name%%\"*}
+    local status=${line#*status=\"}
+    status=${status%%\"*}
+    count_entry "$preset" "$reports" "$name" "$status"
+  done < <(grep '<testcase ' "$reports/ctest.xml")
+  grep -q '<testcase ' "$reports/ctest.xml" 2>/dev/null || count 0 1 "$preset: no tests ran"
+  [ "$failed" -eq 0 ] || grep -E -A 12 'Failure|FAILED|Sanitizer|\*\*\*' "$reports/ctest.log" | head -n 200
+}
+
+count_entry() { # preset reports name status
+  local report=$2/$3.xml said
+  if [ -f "$report" ]; then
+    local bad
+    bad=$(($(attribute "$report" failures) + $(attribute "$report" errors)))
+    # A program that dies after its report was written (a leak, an exit code) has failed too.
+    [ "$4" = run ] || [ "$bad" -gt 0 ] || bad=1
+    count $(($(attribute "$report" tests) - bad)) "$bad" "$1: $3"
+  elif said=$(sed -n "/Start .*: $3\$/,/Test *#/p" "$2/ctest.log" | grep -oE '[0-9]+ passed, [0-9]+ failed' | tail -n 1) && [ -n "$said" ]; then
+    count "${said%% *}" "$(echo "$said" | grep -oE '[0-9]+ failed' | tr -dc 0-9)" "$1: $3"
+  elif [ "$4" = run ]; then
+    count 1 0 "$1: $3"
+  else
+    count 0 1 "$1: $3"
+  fi
+}
+
+print_sum() {
+  echo "$passed passed, $failed failed"
+  [ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
+}
