@@ -42,6 +42,7 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
   Commands commands;
   AddCommand(app, commands, AddStationsCommand);
   AddCommand(app, commands, AddSolveCommand);
+  AddCommand(app, commands, AddCurvesCommand);
 
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));

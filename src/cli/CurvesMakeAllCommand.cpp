@@ -1,0 +1,132 @@
+// kav curves make-all: the curve files of all climate stations from a folder of rainfall records.
+#include <algorithm>
+#include <iomanip>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "base/Paths.h"
+#include "cli/CurvesOptions.h"
+#include "cli/CurvesTable.h"
+#include "curves/CurveFileWriter.h"
+#include "curves/FixedText.h"
+#include "curves/OutputFile.h"
+#include "curves/StationCurves.h"
+#include "engine/ClimateStations.h"
+
+namespace orvik {
+namespace {
+
+struct Request {
+  std::string rainFolder;
+  std::string folder;
+  PondArguments pond;
+  AxesArguments axes;
+};
+
+std::string NameOf(const StationCurves& station) {
+  return std::string(ClimateStationName(station.Station));
+}
+
+// The line that is written over and over while the stations are made; only people see it.
+void ShowProgress(Console& console, int station) {
+  if (!console.isErrTerminal) return;
+  const int count = NumRainfallStations();
+  if (station > count) {
+    console.err << "\r\x1b[K" << std::flush;
+    return;
+  }
+  console.err << "\r\x1b[KMaking " << station << " of " << count << ": "
+              << ClimateStationName(static_cast<std::int16_t>(station)) << std::flush;
+}
+
+std::vector<StationCurves> MakeAll(Console& console, const Request& request) {
+  const PondOptions pond = ToPondOptions(request.pond);
+  const ChartAxes axes = ToChartAxes(request.axes);
+  std::vector<StationCurves> stations;
+  try {
+    for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+      ShowProgress(console, i);
+      stations.push_back(MakeStationCurves(WithEndingSeparator(request.rainFolder), i, pond, axes));
+    }
+  } catch (...) {
+    ShowProgress(console, NumRainfallStations() + 1);
+    throw;
+  }
+  ShowProgress(console, NumRainfallStations() + 1);
+  return stations;
+}
+
+void WriteAll(const std::string& folder, const std::vector<StationCurves>& stations) {
+  MakeOutputFolder(folder);
+  const std::string prefix = WithEndingSeparator(folder);
+  for (const StationCurves& station : stations) {
+    WriteOutputFile(prefix + NameOf(station) + ".crv", CurveFileText(station.Made.Set));
+  }
+  WriteOutputFile(prefix + "SOURCES.md", SourcesTable(stations));
+}
+
+// The worst of a station's curves.
+CurveError WorstError(const StationCurves& station) {
+  CurveError worst;
+  for (const CurveError& error : station.Made.Errors) {
+    worst.Max = std::max(worst.Max, error.Max);
+    worst.Mean = std::max(worst.Mean, error.Mean);
+  }
+  return worst;
+}
+
+void PrintText(std::ostream& out, const std::vector<StationCurves>& stations) {
+  out << "Station          Years  Mean in/year  Largest error  Mean error  VStart in "
+         "(E=50...95%)\n";
+  for (const StationCurves& station : stations) {
+    const CurveError worst = WorstError(station);
+    const auto& curves = station.Made.Set.Curves;
+    out << std::left << std::setw(17) << NameOf(station) << std::right << std::setw(5)
+        << station.Years.Years.size() << std::setw(14) << FixedText(station.Years.MeanAnnualIn, 1)
+        << std::setw(15) << FixedText(worst.Max, 2) << std::setw(12) << FixedText(worst.Mean, 2)
+        << "  " << FixedText(curves.front().VStart, 2) << " ... "
+        << FixedText(curves.back().VStart, 2) << '\n';
+  }
+}
+
+void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
+  nlohmann::ordered_json list = nlohmann::ordered_json::array();
+  for (const StationCurves& station : stations) {
+    list.push_back({{"station", NameOf(station)},
+                    {"usableYears", station.Years.Years.size()},
+                    {"meanAnnualIn", station.Years.MeanAnnualIn},
+                    {"curves", CurvesJson(station.Made.Set, station.Made.Errors)}});
+  }
+  out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
+}
+
+}  // namespace
+
+CommandRun AddCurvesMakeAllCommand(CLI::App& curves) {
+  auto request = std::make_shared<Request>();
+  auto* command = curves.add_subcommand(
+      "make-all", "Make the curve files of all climate stations and the table of their sources");
+  command
+      ->add_option("--rain-dir", request->rainFolder,
+                   "Folder of the records, <station>.csv with depths in inches")
+      ->required()
+      ->type_name("DIR");
+  command->add_option("-o,--output", request->folder, "Folder of the curve files to write")
+      ->required()
+      ->type_name("DIR");
+  AddPondOptions(*command, request->pond);
+  AddAxesOptions(*command, request->axes);
+  command->footer(std::string(kBalanceDefinition) +
+                  "\n\nNothing is written unless all stations could be made.\n\n"
+                  "Example:\n  kav curves make-all --rain-dir rain -o \"KAV Data\"");
+  return [request](Console& console, const CommonOptions& options) {
+    return RunWithMessages(console, [&] {
+      const auto stations = MakeAll(console, *request);
+      WriteAll(request->folder, stations);
+      options.json ? PrintJson(console.out, stations) : PrintText(console.out, stations);
+      return ExitCode::Done;
+    });
+  };
+}
+
+}  // namespace orvik

@@ -1,0 +1,103 @@
+// kav curves make: the curves of one place from its daily rainfall.
+#include <algorithm>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "base/Paths.h"
+#include "cli/CurvesOptions.h"
+#include "cli/CurvesTable.h"
+#include "curves/CurveFileWriter.h"
+#include "curves/CurveMaker.h"
+#include "curves/FixedText.h"
+#include "curves/OutputFile.h"
+#include "curves/RainDate.h"
+#include "curves/StationSources.h"
+
+namespace orvik {
+namespace {
+
+struct Request {
+  RainArguments rain;
+  PondArguments pond;
+  AxesArguments axes;
+  std::string name;
+  std::string source;
+  std::string file;
+};
+
+// What stands in the title for the rainfall: the user's words, or the file's name.
+std::string SourceOf(const Request& request) {
+  if (!request.source.empty()) return request.source;
+  return "daily rainfall " + PathToUtf8(PathFromUtf8(request.rain.file).filename());
+}
+
+void PrintText(std::ostream& out, const RainRecord& record, const RainYears& years,
+               const MadeCurves& made) {
+  out << made.Set.Title << '\n'
+      << "Record " << IsoDate(record.First) << " to " << IsoDate(record.Last) << ", "
+      << years.Years.size() << " usable years (" << years.LeftOutYears.size() << " left out, "
+      << years.MissingDays << " missing days taken as dry), mean "
+      << FixedText(years.MeanAnnualIn, 1) << " inches a year\n\n";
+  PrintCurvesTable(out, made.Set, made.Errors);
+}
+
+void PrintJson(std::ostream& out, const Request& request, const RainRecord& record,
+               const RainYears& years, const MadeCurves& made) {
+  const nlohmann::ordered_json object{{"name", request.name},
+                                      {"title", made.Set.Title},
+                                      {"file", request.file},
+                                      {"first", IsoDate(record.First)},
+                                      {"last", IsoDate(record.Last)},
+                                      {"usableYears", years.Years.size()},
+                                      {"meanAnnualIn", years.MeanAnnualIn},
+                                      {"curves", CurvesJson(made.Set, made.Errors)}};
+  out << object.dump(2) << '\n';
+}
+
+ExitCode Make(Console& console, bool json, const Request& request) {
+  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
+  if (std::ranges::any_of(request.name + request.source, isControl)) {
+    throw UsageError("The name and the source must be one line of text.");
+  }
+  const ChartAxes axes = ToChartAxes(request.axes);
+  const RainRecord record = ReadRain(request.rain);
+  PrintMessage(console, DescribeFindings(record));
+  const RainYears years = SelectRainYears(record);
+  const MadeCurves made = MakeCurves(BuildPondDays(years, ToPondOptions(request.pond)), axes,
+                                     CurveTitle(request.name, SourceOf(request), record, years));
+  WriteOutputFile(request.file, CurveFileText(made.Set));
+  if (json) {
+    PrintJson(console.out, request, record, years, made);
+  } else {
+    PrintText(console.out, record, years, made);
+  }
+  return ExitCode::Done;
+}
+
+}  // namespace
+
+CommandRun AddCurvesMakeCommand(CLI::App& curves) {
+  auto request = std::make_shared<Request>();
+  auto* command = curves.add_subcommand("make", "Make a curve file from a daily rainfall record");
+  AddRainOptions(*command, request->rain, true);
+  command->add_option("--name", request->name, "Name of the place, for the file's title")
+      ->required()
+      ->type_name("NAME");
+  command
+      ->add_option("--source", request->source,
+                   "Where the rainfall comes from, for the file's title")
+      ->type_name("TEXT");
+  command->add_option("-o,--output", request->file, "The curve file to write")
+      ->required()
+      ->type_name("FILE.crv");
+  AddPondOptions(*command, request->pond);
+  AddAxesOptions(*command, request->axes);
+  command->footer(std::string(kBalanceDefinition) +
+                  "\n\nExample:\n  kav curves make --rain samples/synthetic-rain.csv --unit in "
+                  "--name Sampleville -o Sampleville.crv");
+  return [request](Console& console, const CommonOptions& options) {
+    return RunWithMessages(console, [&] { return Make(console, options.json, *request); });
+  };
+}
+
+}  // namespace orvik

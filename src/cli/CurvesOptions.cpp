@@ -1,0 +1,156 @@
+#include "cli/CurvesOptions.h"
+
+#include <stdexcept>
+
+#include "base/NumberText.h"
+#include "curves/FileError.h"
+#include "curves/RainUnit.h"
+#include "curves/Refusal.h"
+
+namespace orvik {
+
+const std::string_view kBalanceDefinition =
+    "Method: a daily water balance per unit of equivalent impervious area (EIA). Runoff of a day = "
+    "its\n"
+    "rainfall depth on the EIA; rain on the pond and its evaporation cancel over a year, "
+    "groundwater\n"
+    "exchange is zero. Each day the storage takes the runoff, what exceeds V spills, then up to R "
+    "is "
+    "used.\n"
+    "E = used / runoff over the record, in percent. The storage starts empty; the first usable "
+    "year "
+    "is run\n"
+    "once as a warm-up that is not counted, then the whole record is counted. R is the average "
+    "rate "
+    "per day,\n"
+    "available every day.";
+
+namespace {
+
+std::string ValidatePositive(const std::string& text) {
+  const std::string fault = ValidateNumber(text);
+  if (!fault.empty()) return fault;
+  return ParseNumber(text) > 0 ? "" : "\"" + text + "\" is not above zero";
+}
+
+std::string ValidateHoldOff(const std::string& text) {
+  const auto days = ParseWholeNumber(text);
+  return days && *days >= 0 && *days <= 365 ? "" : "\"" + text + "\" is not a number of days";
+}
+
+std::string ValidateAbstraction(const std::string& text) {
+  const std::string fault = ValidateNumber(text);
+  if (!fault.empty()) return fault;
+  return ParseNumber(text) >= 0 ? "" : "\"" + text + "\" is below zero";
+}
+
+std::string ValidateUnit(const std::string& text) {
+  if (FindRainUnit(text)) return {};
+  std::string names;
+  for (const RainUnit unit : kRainUnits) {
+    names += (names.empty() ? "" : ", ") + std::string(RainUnitName(unit));
+  }
+  return "\"" + text + "\" is not a unit of rainfall; the units are " + names;
+}
+
+// The axis from 0 to `most` with the step that was asked for, or a round one.
+void SetAxis(const std::string& mostText, const std::string& intervalText, const char* name,
+             double& most, double& interval) {
+  if (!mostText.empty()) {
+    most = ParseNumber(mostText);
+    interval = RoundInterval(most).value_or(0);
+  }
+  if (!intervalText.empty()) interval = ParseNumber(intervalText);
+  if (DividesRange(most, interval)) return;
+  throw UsageError(std::string("--") + name +
+                   "-interval must divide the axis into whole steps: choose one that divides " +
+                   ConvertToString(most) + ".");
+}
+
+}  // namespace
+
+void AddPondOptions(CLI::App& command, PondArguments& arguments) {
+  command
+      .add_option("--hold-off", arguments.holdOff,
+                  "No use on N days after a day with rain; the depth applied on the other days is "
+                  "R divided by their share, so that R stays the average (0)")
+      ->type_name("N")
+      ->check(ValidateHoldOff);
+  command
+      .add_option("--abstraction", arguments.abstraction,
+                  "Inches lost from each day with rain before it runs off (0)")
+      ->type_name("IN")
+      ->check(ValidateAbstraction);
+}
+
+void AddAxesOptions(CLI::App& command, AxesArguments& arguments) {
+  const auto add = [&](const char* name, std::string& target, const char* what) {
+    command.add_option(name, target, what)->type_name("NUMBER")->check(ValidatePositive);
+  };
+  add("--v-max", arguments.VMax, "End of the V axis and of all curves, inches on the EIA (7)");
+  add("--v-interval", arguments.VInterval, "Step of the V axis (1)");
+  add("--r-max", arguments.RMax, "End of the R axis, inches per day on the EIA (0.4)");
+  add("--r-interval", arguments.RInterval, "Step of the R axis (0.05)");
+}
+
+void AddRainOptions(CLI::App& command, RainArguments& arguments, bool required) {
+  auto* rain = command
+                   .add_option("--rain", arguments.file,
+                               "Daily rainfall, comma-separated, with a line of column names")
+                   ->type_name("CSV")
+                   ->required(required);
+  auto* unit =
+      command
+          .add_option("--unit", arguments.unit,
+                      "Unit of its depths: in, hundredths-in, mm or tenths-mm. It is never "
+                      "guessed")
+          ->type_name("UNIT")
+          ->required(required)
+          ->check(ValidateUnit);
+  rain->needs(unit);
+  unit->needs(rain);
+  command.add_option("--date-column", arguments.columns.Date, "Name of the column of dates")
+      ->type_name("NAME")
+      ->needs(rain);
+  command.add_option("--depth-column", arguments.columns.Depth, "Name of the column of depths")
+      ->type_name("NAME")
+      ->needs(rain);
+}
+
+PondOptions ToPondOptions(const PondArguments& arguments) {
+  return {.HoldOffDays = ParseWholeNumber(arguments.holdOff).value_or(0),
+          .AbstractionIn = ParseNumber(arguments.abstraction)};
+}
+
+ChartAxes ToChartAxes(const AxesArguments& arguments) {
+  ChartAxes axes;
+  SetAxis(arguments.VMax, arguments.VInterval, "v", axes.VMax, axes.VInterval);
+  SetAxis(arguments.RMax, arguments.RInterval, "r", axes.RMax, axes.RInterval);
+  if (axes.VMax < 2 || axes.VMax > 100) throw UsageError("--v-max must be 2 to 100 inches.");
+  if (axes.RMax < 0.05 || axes.RMax > 10) {
+    throw UsageError("--r-max must be 0.05 to 10 inches per day.");
+  }
+  return axes;
+}
+
+RainRecord ReadRain(const RainArguments& arguments) {
+  const RainUnit unit = FindRainUnit(arguments.unit).value();
+  return ReadRainRecord(arguments.file, unit, arguments.columns);
+}
+
+ExitCode RunWithMessages(Console& console, const std::function<ExitCode()>& work) {
+  try {
+    return work();
+  } catch (const UsageError& error) {
+    PrintMessage(console, error.what());
+    return ExitCode::WrongUsage;
+  } catch (const Refusal& refusal) {
+    PrintMessage(console, refusal.what());
+    return ExitCode::CalculationSaysNo;
+  } catch (const FileError& error) {
+    PrintMessage(console, error.what());
+    return ExitCode::FileTrouble;
+  }
+}
+
+}  // namespace orvik

@@ -1,0 +1,44 @@
+#include "cli/CurvesTable.h"
+
+#include <iomanip>
+
+#include "base/NumberText.h"
+#include "curves/FixedText.h"
+
+namespace orvik {
+
+void PrintCurvesTable(std::ostream& out, const CurveSet& set,
+                      const std::vector<CurveError>& errors) {
+  out << "E       VStart     VEnd   R at VStart   R at VEnd"
+      << (errors.empty() ? "" : "   largest error   mean error") << '\n'
+      << "%           in       in        in/day      in/day"
+      << (errors.empty() ? "" : "     points of E  points of E") << '\n';
+  for (std::size_t i = 0; i < set.Curves.size(); ++i) {
+    const EfficiencyCurve& curve = set.Curves[i];
+    out << std::left << std::setw(5) << ConvertToString(curve.E) << std::right << std::setw(9)
+        << FixedText(curve.VStart, 2) << std::setw(9) << FixedText(curve.VEnd, 2) << std::setw(14)
+        << FixedText(CurveR(curve.VStart, curve), 4) << std::setw(12)
+        << FixedText(CurveR(curve.VEnd, curve), 4);
+    if (!errors.empty()) {
+      out << std::setw(16) << FixedText(errors[i].Max, 2) << std::setw(13)
+          << FixedText(errors[i].Mean, 2);
+    }
+    out << '\n';
+  }
+}
+
+nlohmann::ordered_json CurvesJson(const CurveSet& set, const std::vector<CurveError>& errors) {
+  nlohmann::ordered_json list = nlohmann::ordered_json::array();
+  for (std::size_t i = 0; i < set.Curves.size(); ++i) {
+    const EfficiencyCurve& curve = set.Curves[i];
+    nlohmann::ordered_json row{{"E", curve.E}, {"VStart", curve.VStart}, {"VEnd", curve.VEnd}};
+    if (!errors.empty()) {
+      row["maxError"] = errors[i].Max;
+      row["meanError"] = errors[i].Mean;
+    }
+    list.push_back(row);
+  }
+  return list;
+}
+
+}  // namespace orvik

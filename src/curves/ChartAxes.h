@@ -1,0 +1,24 @@
+// The axes of a design chart: limits and the step of their numbers.
+#pragma once
+
+#include <optional>
+
+namespace orvik {
+
+struct ChartAxes {
+  double VMin = 0;  // inches on the EIA
+  double VMax = 7;
+  double VInterval = 1;
+  double RMin = 0;  // inches per day on the EIA
+  double RMax = 0.4;
+  double RInterval = 0.05;
+};
+
+// True when axis numbers at this step end exactly at the end of the range.
+bool DividesRange(double range, double interval);
+
+// A round step (1, 2 or 5 times a power of ten) that divides the range, from 0, into 5 to 20 parts;
+// nothing where none does.
+std::optional<double> RoundInterval(double range);
+
+}  // namespace orvik

@@ -1,0 +1,21 @@
+// Writes a station's curve file (".crv"), as engine/CurveFile.h reads it.
+#pragma once
+
+#include <string>
+
+#include "engine/CurveSet.h"
+
+namespace orvik {
+
+// Coefficients are written with this many decimals: enough for 0.00001 in/day on the curve, few
+// enough that the last bit of a processor's logarithm does not show.
+inline constexpr int kCoefficientDecimals = 6;
+
+// The number that a coefficient reads back as.
+double RoundCoefficient(double value);
+
+// The bytes of the file, lines ended by CR LF. Numbers that are not coefficients are written with
+// up to 15 significant digits. Throws OverflowError for a number that is not finite.
+std::string CurveFileText(const CurveSet& set);
+
+}  // namespace orvik

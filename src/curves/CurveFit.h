@@ -1,0 +1,43 @@
+// Fits one design curve R = A + B L + C L^2 + D L^3, L = ln V, to simulated rates, so that the
+// largest error in efficiency is as small as the curve's obligations allow.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "engine/EfficiencyCurve.h"
+
+namespace orvik {
+
+// The rates that a curve may pass at one volume without an error of more than one point of E.
+struct RateBand {
+  double V;       // inches on the EIA
+  double lower;   // R that reaches E - 1, inches per day on the EIA
+  double target;  // R that reaches E
+  double upper;   // R that reaches E + 1
+};
+
+// What a curve must obey whatever its error.
+struct FitLimits {
+  double VStart = 0;  // inches on the EIA
+  double VEnd = 0;
+  double MostR = 0;                        // at VStart, inches per day on the EIA
+  double LeastR = 0;                       // at VEnd
+  const EfficiencyCurve* lower = nullptr;  // the neighbour below, if there is one
+  double Gap = 0;  // the least distance in R above it, from its own VStart on
+};
+
+struct FittedCurve {
+  EfficiencyCurve curve;  // E is not set, nothing is sampled
+  double error;           // largest estimated error in points of E, at the bands' volumes
+};
+
+// The curve falls everywhere from VStart (its neighbour's, where that is smaller) to VEnd. `bands`
+// are those of volumes from VStart to VEnd. Nothing where no curve obeys the limits.
+std::optional<FittedCurve> FitCurve(const std::vector<RateBand>& bands, const FitLimits& limits);
+
+// The largest slope dR/dL, L = ln V, of the curve between two volumes; negative for a falling
+// curve.
+double LargestSlope(const EfficiencyCurve& curve, double fromV, double toV);
+
+}  // namespace orvik

@@ -1,0 +1,37 @@
+#include "curves/CurveJudge.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvik {
+namespace {
+
+constexpr double kStepV = 0.05;      // inches
+constexpr double kMostSteps = 2000;  // for curves beyond any chart
+
+}  // namespace
+
+std::vector<double> JudgedVolumes(double first, double last) {
+  const auto steps =
+      static_cast<int>(std::clamp(std::ceil((last - first) / kStepV - 1e-9), 1.0, kMostSteps));
+  std::vector<double> volumes;
+  for (int i = 0; i < steps; ++i) volumes.push_back(first + (last - first) * i / steps);
+  volumes.push_back(last);
+  return volumes;
+}
+
+CurveError JudgeCurve(const PondDays& days, const EfficiencyCurve& curve) {
+  std::vector<PondCell> cells;
+  for (const double V : JudgedVolumes(curve.VStart, curve.VEnd)) {
+    cells.push_back({V, CurveR(V, curve)});
+  }
+  CurveError error;
+  for (const double E : SimulateEfficiencies(days, cells)) {
+    const double deviation = std::fabs(E - static_cast<double>(curve.E));
+    error.Max = std::max(error.Max, deviation);
+    error.Mean += deviation / static_cast<double>(cells.size());
+  }
+  return error;
+}
+
+}  // namespace orvik

@@ -1,0 +1,24 @@
+// Judges a design curve in the unit that matters: the efficiency that a simulation finds along it.
+#pragma once
+
+#include <vector>
+
+#include "curves/PondSimulation.h"
+#include "engine/EfficiencyCurve.h"
+
+namespace orvik {
+
+// Deviation of the simulated efficiency from the curve's E, in percentage points, without sign.
+struct CurveError {
+  double Max = 0;
+  double Mean = 0;  // over volumes in equal steps
+};
+
+// Volumes (inches on the EIA) from `first` to `last` in equal steps of at most 0.05 (longer only
+// where the range exceeds 100 inches); both ends included.
+std::vector<double> JudgedVolumes(double first, double last);
+
+// Simulates at (V, R on the curve) from VStart to VEnd.
+CurveError JudgeCurve(const PondDays& days, const EfficiencyCurve& curve);
+
+}  // namespace orvik

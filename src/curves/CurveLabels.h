@@ -1,0 +1,13 @@
+// Puts one label to each curve of a set, where there is room for it.
+#pragma once
+
+#include "engine/CurveSet.h"
+
+namespace orvik {
+
+// Replaces the set's labels by one "E=80%" for each curve. A label's position is its upper left
+// corner; it stands above its own curve and below the next one, where the room between the two is
+// widest. Requires at least one curve; the limits of the set decide the size of the text.
+void PlaceLabels(CurveSet& set);
+
+}  // namespace orvik

@@ -1,0 +1,186 @@
+#include "curves/CurveMaker.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "base/NumberText.h"
+#include "curves/CurveCheck.h"
+#include "curves/CurveFileWriter.h"
+#include "curves/CurveFit.h"
+#include "curves/CurveLabels.h"
+#include "curves/EfficiencyTable.h"
+#include "curves/Refusal.h"
+
+namespace orvik {
+namespace {
+
+constexpr int kFirstE = 50;  // percent
+constexpr int kLastE = 95;
+constexpr int kStepE = 5;
+
+constexpr double kStepVStart = 0.05;  // inches
+constexpr double kShortestRange = 1;  // inches that a curve covers at least
+constexpr std::size_t kVolumes = 40;  // of the table
+constexpr std::size_t kRates = 60;
+
+// The fit sees the error at some volumes only and in a straight line between three rates: it may
+// promise a little more than a curve can have, and a curve is accepted below the limit itself.
+constexpr double kPromisingError = 1.04;
+constexpr double kAcceptedError = 0.985 * kMostError;
+constexpr double kAcceptedMeanError = 0.985 * kMostMeanError;
+
+EfficiencyCurve AsWritten(EfficiencyCurve curve, int E) {
+  curve.E = static_cast<float>(E);
+  curve.A = RoundCoefficient(curve.A);
+  curve.B = RoundCoefficient(curve.B);
+  curve.C = RoundCoefficient(curve.C);
+  curve.D = RoundCoefficient(curve.D);
+  return curve;
+}
+
+// Rates that the fit can want: from below what E = 49% needs at any volume to half as much again as
+// the chart shows.
+std::vector<double> TableRates(const PondDays& days, const ChartAxes& axes) {
+  const double most = 1.5 * axes.RMax;
+  const double least = 0.009 * (kFirstE - kStepE) * days.MeanRunoff();
+  return GeometricSteps(std::min(least, most / 2), most, kRates);
+}
+
+// Makes one curve after the other, from the lowest efficiency to the highest.
+class Maker {
+ public:
+  Maker(const PondDays& days, const ChartAxes& axes)
+      : days_(days),
+        axes_(axes),
+        table_(days, GeometricSteps(kStepVStart, axes.VMax, kVolumes), TableRates(days, axes)) {}
+
+  void Make(int E, MadeCurves& made) const {
+    const EfficiencyCurve* lower = made.Set.Curves.empty() ? nullptr : &made.Set.Curves.back();
+    const std::vector<RateBand> bands = FindBands(E);
+    const int last = StepOf(axes_.VMax - kShortestRange);
+    for (int step = FirstPromising(E, bands, lower); step <= last; ++step) {
+      const auto fitted = Fit(E, bands, lower, step);
+      if (!fitted) continue;
+      EfficiencyCurve curve = AsWritten(fitted->curve, E);
+      const CurveError error = JudgeCurve(days_, curve);
+      if (!IsAccepted(curve, error)) continue;
+      SampleCurve(curve);
+      made.Set.Curves.push_back(std::move(curve));
+      made.Errors.push_back(error);
+      return;
+    }
+    Refuse(E);
+  }
+
+ private:
+  static int StepOf(double V) { return static_cast<int>(std::floor(V / kStepVStart + 1e-9)); }
+  // The volume of a step, as its decimal text reads back.
+  static double VolumeOf(int step) { return std::round(step * kStepVStart * 100) / 100; }
+
+  bool IsAccepted(const EfficiencyCurve& curve, const CurveError& error) const {
+    return error.Max <= kAcceptedError && error.Mean <= kAcceptedMeanError &&
+           CurveR(curve.VStart, curve) <= axes_.RMax &&
+           LargestSlope(curve, curve.VStart, curve.VEnd) < 0;
+  }
+
+  // The bands of all volumes of the table at which the table's rates reach E.
+  std::vector<RateBand> FindBands(int E) const {
+    std::vector<RateBand> bands;
+    for (std::size_t v = 0; v < table_.V().size(); ++v) {
+      const auto target = table_.RateAt(v, E);
+      if (!target) continue;
+      bands.push_back({table_.V()[v], table_.RateAt(v, E - 1).value_or(0), *target,
+                       table_.RateAt(v, E + 1).value_or(table_.MostR())});
+    }
+    return bands;
+  }
+
+  // The bands from V on, with one at V itself: between two volumes the rates follow a power law
+  // closely.
+  static std::vector<RateBand> BandsFrom(const std::vector<RateBand>& bands, double V) {
+    const auto next = std::ranges::upper_bound(bands, V, {}, &RateBand::V);
+    std::vector<RateBand> result;
+    if (next == bands.begin()) return result;
+    if (next != bands.end()) {
+      const RateBand& before = *(next - 1);
+      const double t = std::log(V / before.V) / std::log(next->V / before.V);
+      const auto between = [&](double a, double b) { return a * std::pow(b / a, t); };
+      result.push_back({V, between(before.lower, next->lower), between(before.target, next->target),
+                        between(before.upper, next->upper)});
+    }
+    result.insert(result.end(), next, bands.end());
+    return result;
+  }
+
+  std::optional<FittedCurve> Fit(int E, const std::vector<RateBand>& bands,
+                                 const EfficiencyCurve* lower, int step) const {
+    const double V = VolumeOf(step);
+    const std::vector<RateBand> used = BandsFrom(bands, V);
+    if (used.empty()) return std::nullopt;
+    const double asymptote = days_.MeanRunoff() / 100;  // in/day for each percent of E
+    return FitCurve(used, {.VStart = V,
+                           .VEnd = axes_.VMax,
+                           .MostR = axes_.RMax - 1e-5,  // what rounding can add
+                           .LeastR = asymptote * E * 1.001,
+                           .lower = lower,
+                           .Gap = 0.5 * kStepE * asymptote});
+  }
+
+  // The first start volume at which the fit promises the limit. A curve that starts later has less
+  // to obey, so its error is never larger.
+  int FirstPromising(int E, const std::vector<RateBand>& bands,
+                     const EfficiencyCurve* lower) const {
+    int low = lower == nullptr ? 1 : StepOf(lower->VStart + 1e-6);
+    int high = StepOf(axes_.VMax - kShortestRange);
+    while (low < high) {
+      const int middle = (low + high) / 2;
+      const auto fitted = Fit(E, bands, lower, middle);
+      if (fitted && fitted->error <= kPromisingError) {
+        high = middle;
+      } else {
+        low = middle + 1;
+      }
+    }
+    return low;
+  }
+
+  [[noreturn]] void Refuse(int E) const {
+    const double needed = days_.MeanRunoff() * E / 100;
+    std::string text = "No curve for E = " + std::to_string(E) +
+                       "% fits within V = " + ConvertToString(axes_.VMax) +
+                       " in and R = " + ConvertToString(axes_.RMax) + " in/day";
+    if (needed > 0.8 * axes_.RMax) {
+      text += ": it needs more than R = " + ConvertToString(std::round(needed * 1000) / 1000) +
+              " in/day at any volume. Choose a larger --r-max.";
+    } else {
+      text += " with the accuracy that is asked. Choose a larger --v-max.";
+    }
+    throw Refusal(text);
+  }
+
+  const PondDays& days_;
+  ChartAxes axes_;
+  EfficiencyTable table_;
+};
+
+}  // namespace
+
+MadeCurves MakeCurves(const PondDays& days, const ChartAxes& axes, const std::string& title) {
+  MadeCurves made;
+  made.Set.Title = title;
+  made.Set.VMin = axes.VMin;
+  made.Set.VMax = axes.VMax;
+  made.Set.VInterval = axes.VInterval;
+  made.Set.RMin = axes.RMin;
+  made.Set.RMax = axes.RMax;
+  made.Set.RInterval = axes.RInterval;
+  const Maker maker(days, axes);
+  for (int E = kFirstE; E <= kLastE; E += kStepE) maker.Make(E, made);
+  PlaceLabels(made.Set);
+  const auto broken = CheckCurves(made.Set, days.MeanRunoff());
+  if (!broken.empty()) throw Refusal("The curves cannot be used. " + broken.front());
+  return made;
+}
+
+}  // namespace orvik

@@ -1,0 +1,60 @@
+#include "curves/PondDays.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "curves/Refusal.h"
+
+namespace orvik {
+namespace {
+
+// True for each day that lies within `holdOff` days after a day with rain. The day with rain itself
+// is not held off by its own rain.
+std::vector<bool> FindHeldOffDays(const std::vector<double>& rain, int holdOff) {
+  std::vector<bool> heldOff(rain.size());
+  int remaining = 0;
+  for (std::size_t d = 0; d < rain.size(); ++d) {
+    heldOff[d] = remaining > 0;
+    remaining = rain[d] > 0 ? holdOff : std::max(0, remaining - 1);
+  }
+  return heldOff;
+}
+
+// R stays the mean rate asked for over the counted days: what is not used on days held off is
+// spread over the others.
+std::vector<double> ShareUse(const std::vector<bool>& heldOff, std::size_t warmUpDays) {
+  const auto counted = static_cast<double>(heldOff.size() - warmUpDays);
+  const auto begin = heldOff.begin() + static_cast<std::ptrdiff_t>(warmUpDays);
+  const auto withUse = static_cast<double>(std::count(begin, heldOff.end(), false));
+  if (withUse == 0) throw Refusal("The hold-off leaves no day on which water is used.");
+  std::vector<double> share(heldOff.size());
+  std::ranges::transform(heldOff, share.begin(),
+                         [&](bool held) { return held ? 0.0 : counted / withUse; });
+  return share;
+}
+
+}  // namespace
+
+PondDays BuildPondDays(const RainYears& years, const PondOptions& options) {
+  std::vector<double> rain;
+  rain.reserve(years.FirstYearDays + years.Daily.size());
+  const auto firstYearEnd = years.Daily.begin() + static_cast<std::ptrdiff_t>(years.FirstYearDays);
+  rain.assign(years.Daily.begin(), firstYearEnd);
+  rain.insert(rain.end(), years.Daily.begin(), years.Daily.end());
+
+  PondDays days;
+  days.WarmUpDays = years.FirstYearDays;
+  days.UseShare = ShareUse(FindHeldOffDays(rain, options.HoldOffDays), days.WarmUpDays);
+  days.Runoff.resize(rain.size());
+  std::ranges::transform(rain, days.Runoff.begin(), [&](double depth) {
+    return std::max(0.0, depth - options.AbstractionIn);
+  });
+  const auto counted = days.Runoff.begin() + static_cast<std::ptrdiff_t>(days.WarmUpDays);
+  days.TotalRunoff = std::accumulate(counted, days.Runoff.end(), 0.0);
+  if (!(days.TotalRunoff > 0)) {
+    throw Refusal("No day has more rain than the abstraction: nothing runs off.");
+  }
+  return days;
+}
+
+}  // namespace orvik

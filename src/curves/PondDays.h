@@ -1,0 +1,32 @@
+// What a pond sees day by day: the runoff that arrives and whether reuse draws from it.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "curves/RainYears.h"
+
+namespace orvik {
+
+// How rainfall becomes runoff and demand.
+struct PondOptions {
+  int HoldOffDays = 0;       // no use on so many days after a day with rain; 0: use on every day
+  double AbstractionIn = 0;  // inches lost from each day with rain before it runs off
+};
+
+// The days of a simulation, in order: the first kept year as a warm-up, then the whole record (the
+// first kept year again, and all others). Everything is per unit of equivalent impervious area.
+struct PondDays {
+  std::vector<double> Runoff;    // inches on the EIA
+  std::vector<double> UseShare;  // depth asked for on the day as a multiple of R; 0 while held off
+  std::size_t WarmUpDays = 0;    // days at the beginning that are run and not counted
+  double TotalRunoff = 0;        // inches, over the counted days
+  std::size_t CountedDays() const { return Runoff.size() - WarmUpDays; }
+  // Inches per day, over the counted days.
+  double MeanRunoff() const { return TotalRunoff / static_cast<double>(CountedDays()); }
+};
+
+// Throws Refusal where nothing runs off, or the hold-off leaves no day with use.
+PondDays BuildPondDays(const RainYears& years, const PondOptions& options);
+
+}  // namespace orvik

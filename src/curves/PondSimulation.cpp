@@ -1,0 +1,81 @@
+#include "curves/PondSimulation.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace orvik {
+namespace {
+
+// Ponds of one block: five arrays of this length stay in the first-level cache while all days pass
+// over them.
+constexpr std::size_t kBlockCells = 128;
+
+struct alignas(64) Block {
+  std::array<double, kBlockCells> V{};
+  std::array<double, kBlockCells> R{};
+  std::array<double, kBlockCells> storage{};
+  std::array<double, kBlockCells> used{};
+};
+
+// Days outside, ponds inside: no pond waits for its own day before, so the compiler works on
+// several ponds at once. No branches; the smaller of two is written so that it is one instruction.
+void RunDays(Block& block, const PondDays& days, std::size_t first, std::size_t last) {
+  for (std::size_t d = first; d < last; ++d) {
+    const double runoff = days.Runoff[d];
+    const double share = days.UseShare[d];
+    for (std::size_t i = 0; i < kBlockCells; ++i) {
+      const double filled = block.storage[i] + runoff;
+      const double kept = filled < block.V[i] ? filled : block.V[i];
+      const double asked = block.R[i] * share;
+      const double taken = kept < asked ? kept : asked;
+      block.storage[i] = kept - taken;
+      block.used[i] += taken;
+    }
+  }
+}
+
+Block FillBlock(const std::vector<PondCell>& cells, std::size_t first, std::size_t count) {
+  Block block;
+  for (std::size_t i = 0; i < count; ++i) {
+    block.V[i] = cells[first + i].V;
+    block.R[i] = cells[first + i].R;
+  }
+  return block;
+}
+
+}  // namespace
+
+PondBalance SimulatePond(const PondDays& days, const PondCell& cell) {
+  PondBalance balance;
+  double storage = 0;
+  for (std::size_t d = 0; d < days.Runoff.size(); ++d) {
+    if (d == days.WarmUpDays) balance = {.StorageBefore = storage};
+    const double filled = storage + days.Runoff[d];
+    const double kept = std::min(filled, cell.V);
+    const double taken = std::min(kept, cell.R * days.UseShare[d]);
+    storage = kept - taken;
+    balance.Runoff += days.Runoff[d];
+    balance.Used += taken;
+    balance.Spilled += filled - kept;
+  }
+  balance.StorageAfter = storage;
+  return balance;
+}
+
+std::vector<double> SimulateEfficiencies(const PondDays& days, const std::vector<PondCell>& cells) {
+  std::vector<double> E(cells.size());
+  for (std::size_t first = 0; first < cells.size(); first += kBlockCells) {
+    const std::size_t count = std::min(kBlockCells, cells.size() - first);
+    Block block = FillBlock(cells, first, count);
+    RunDays(block, days, 0, days.WarmUpDays);
+    block.used.fill(0);
+    RunDays(block, days, days.WarmUpDays, days.Runoff.size());
+    for (std::size_t i = 0; i < count; ++i) {
+      E[first + i] = block.used[i] / days.TotalRunoff * 100;
+    }
+  }
+  return E;
+}
+
+}  // namespace orvik

@@ -1,0 +1,40 @@
+// Daily water balance of a reuse pond: how much of the runoff a storage volume and a reuse rate
+// catch.
+//
+// Each day, per unit of equivalent impervious area (EIA): the storage takes the day's runoff, what
+// exceeds V spills, then up to R is used. Rain on the pond and its evaporation cancel over a year
+// and groundwater exchange is zero, so neither appears. The storage starts empty. Efficiency E =
+// used / runoff over the counted days, in percent.
+#pragma once
+
+#include <vector>
+
+#include "curves/PondDays.h"
+
+namespace orvik {
+
+// One pond: storage volume and mean reuse rate.
+struct PondCell {
+  double V;  // inches on the EIA
+  double R;  // inches per day on the EIA
+};
+
+// The water balance of one pond over the counted days, inches on the EIA:
+// StorageBefore + Runoff = Used + Spilled + StorageAfter, up to rounding.
+struct PondBalance {
+  double Runoff = 0;
+  double Used = 0;
+  double Spilled = 0;
+  double StorageBefore = 0;
+  double StorageAfter = 0;
+  double Efficiency() const { return Used / Runoff * 100; }  // percent
+};
+
+// One pond, all terms of its balance.
+PondBalance SimulatePond(const PondDays& days, const PondCell& cell);
+
+// E (percent) of many ponds abreast; element i belongs to cells[i]. The figures equal those of
+// SimulatePond bit for bit.
+std::vector<double> SimulateEfficiencies(const PondDays& days, const std::vector<PondCell>& cells);
+
+}  // namespace orvik

@@ -1,0 +1,20 @@
+// Dates of rainfall files.
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orvik {
+
+// A calendar date written as 2020-12-31, 20201231 (ISO) or 12/31/2020 (US). Nothing for any other
+// text, a day that does not exist, and a year of two digits.
+std::optional<std::chrono::sys_days> ParseRainDate(std::string_view text);
+
+// "2020-12-31".
+std::string IsoDate(std::chrono::sys_days date);
+
+int YearOf(std::chrono::sys_days date);
+
+}  // namespace orvik

@@ -1,0 +1,256 @@
+#include "curves/RainRecord.h"
+
+#include <algorithm>
+#include <fstream>
+#include <initializer_list>
+#include <iterator>
+#include <optional>
+
+#include "base/NumberText.h"
+#include "base/Paths.h"
+#include "base/TextEncoding.h"
+#include "curves/CsvText.h"
+#include "curves/FileError.h"
+#include "curves/RainDate.h"
+
+namespace orvik {
+namespace {
+
+constexpr std::size_t kMostErrorsShown = 5;
+
+// One line of the file that has a date.
+struct Row {
+  std::chrono::sys_days date;
+  std::optional<double> depth;  // in the file's unit
+  int line;
+};
+
+// Where the columns stand in a line; 0 is the first.
+struct ColumnPlaces {
+  std::size_t date;
+  std::size_t depth;
+  std::optional<std::size_t> station;
+};
+
+std::string Lower(std::string text) {
+  for (char& c : text) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return text;
+}
+
+std::string JoinNames(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
+  return text;
+}
+
+std::optional<std::size_t> FindColumn(const std::vector<std::string>& header,
+                                      const std::string& name) {
+  const auto found =
+      std::ranges::find_if(header, [&](const std::string& h) { return Lower(h) == Lower(name); });
+  if (found == header.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - header.begin());
+}
+
+// The column of the given name, or the first of the customary names.
+std::size_t RequireColumn(const std::vector<std::string>& header, const std::string& given,
+                          std::initializer_list<const char*> customary, const std::string& what) {
+  if (!given.empty()) {
+    if (const auto place = FindColumn(header, given)) return *place;
+    throw FileError("The file has no column \"" + given +
+                    "\". Its columns are: " + JoinNames(header) + ".");
+  }
+  for (const char* name : customary) {
+    if (const auto place = FindColumn(header, name)) return *place;
+  }
+  throw FileError("The file has no column that is known to hold the " + what +
+                  ". Its columns are: " + JoinNames(header) + ".");
+}
+
+ColumnPlaces FindColumns(const std::vector<std::string>& header, const RainColumns& columns) {
+  return {
+      RequireColumn(header, columns.Date, {"date", "day", "obs_date", "observation_date"}, "date"),
+      RequireColumn(
+          header, columns.Depth,
+          {"precipitation_in", "precipitation_mm", "precipitation", "prcp", "precip", "rainfall_in",
+           "rainfall_mm", "rainfall", "rain_in", "rain_mm", "rain", "depth"},
+          "rainfall depth"),
+      FindColumn(header, "station")};
+}
+
+// Collects the rows of a file and the sentences about those that cannot be read.
+class RowReader {
+ public:
+  RowReader(const ColumnPlaces& places, RainFindings& findings)
+      : places_(places), findings_(findings) {}
+
+  void Read(std::string_view line, int lineNumber) {
+    if (line.find_first_not_of(" \t,") == std::string_view::npos) return;
+    if (!SplitCsvLine(line, fields_)) {
+      return Refuse(lineNumber, "a quotation mark is not closed");
+    }
+    if (places_.date >= fields_.size() || places_.depth >= fields_.size()) {
+      return Refuse(lineNumber, "there are fewer fields than columns");
+    }
+    const auto date = ParseRainDate(fields_[places_.date]);
+    if (!date) return Refuse(lineNumber, "\"" + fields_[places_.date] + "\" is not a date");
+    if (!KeepStation()) {
+      return Refuse(lineNumber, "the station is " + fields_[*places_.station] + ", above it was " +
+                                    station_ + "; keep the rows of one");
+    }
+    Row row{*date, std::nullopt, lineNumber};
+    if (!ReadDepth(fields_[places_.depth], row)) {
+      return Refuse(lineNumber, "\"" + fields_[places_.depth] + "\" is not a rainfall depth");
+    }
+    rows_.push_back(row);
+  }
+
+  std::vector<Row> Finish() {
+    if (errorCount_ > 0) {
+      const std::size_t more = errorCount_ - std::min(errorCount_, kMostErrorsShown);
+      if (more > 0) errors_ += "\n... and " + std::to_string(more) + " more.";
+      throw FileError(errors_);
+    }
+    if (rows_.empty()) throw FileError("The file has no rows with rainfall.");
+    findings_.Rows = static_cast<int>(rows_.size());
+    return std::move(rows_);
+  }
+
+ private:
+  void Refuse(int lineNumber, const std::string& why) {
+    if (++errorCount_ > kMostErrorsShown) return;
+    errors_ +=
+        (errors_.empty() ? "Line " : "\nLine ") + std::to_string(lineNumber) + ": " + why + ".";
+  }
+
+  // False for a row of another station than that of the rows above.
+  bool KeepStation() {
+    if (!places_.station || *places_.station >= fields_.size()) return true;
+    if (station_.empty()) station_ = fields_[*places_.station];
+    return station_ == fields_[*places_.station];
+  }
+
+  // Empty and "M" are missing, "T" is a trace.
+  bool ReadDepth(const std::string& text, Row& row) {
+    if (text.empty() || text == "M") {
+      ++findings_.Missing;
+    } else if (text == "T") {
+      ++findings_.Trace;
+      row.depth = 0;
+    } else if (!IsNumericText(text)) {
+      return false;
+    } else if (const double depth = ParseNumber(text); depth < 0) {
+      if (findings_.Negative++ == 0) findings_.FirstNegativeLine = row.line;
+    } else {
+      row.depth = depth;
+    }
+    return true;
+  }
+
+  ColumnPlaces places_;
+  RainFindings& findings_;
+  std::vector<std::string> fields_;
+  std::vector<Row> rows_;
+  std::string station_;
+  std::string errors_;
+  std::size_t errorCount_ = 0;
+};
+
+// Appends the day of rows [first, last), which share one date: the first value counts.
+void AppendDay(const std::vector<Row>& rows, std::size_t first, std::size_t last,
+               RainRecord& record) {
+  RainFindings& findings = record.Findings;
+  findings.Duplicate += static_cast<int>(last - first) - 1;
+  std::optional<double> depth;
+  for (std::size_t i = first; i < last; ++i) {
+    if (!rows[i].depth) continue;
+    if (!depth) {
+      depth = rows[i].depth;
+    } else if (*depth != *rows[i].depth && findings.Conflicting++ == 0) {
+      findings.FirstConflictingLine = rows[i].line;
+    }
+  }
+  if (depth) record.Days.push_back({rows[first].date, *depth / UnitsPerInch(record.Unit)});
+}
+
+void CountGap(std::chrono::sys_days before, std::chrono::sys_days after, RainFindings& findings) {
+  const auto days = static_cast<int>((after - before).count()) - 1;
+  if (days <= 0) return;
+  ++findings.Gaps;
+  findings.GapDays += days;
+}
+
+void AppendDays(std::vector<Row>& rows, RainRecord& record) {
+  std::ranges::stable_sort(rows, {}, &Row::date);
+  record.First = rows.front().date;
+  record.Last = rows.back().date;
+  for (std::size_t first = 0; first < rows.size();) {
+    std::size_t last = first + 1;
+    while (last < rows.size() && rows[last].date == rows[first].date) ++last;
+    AppendDay(rows, first, last, record);
+    if (last < rows.size()) CountGap(rows[first].date, rows[last].date, record.Findings);
+    first = last;
+  }
+}
+
+}  // namespace
+
+RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColumns& columns) {
+  CsvLines lines(text);
+  std::vector<std::string> header;
+  const auto first = lines.Next();
+  if (!first || !SplitCsvLine(*first, header)) {
+    throw FileError("The file has no line that names its columns.");
+  }
+  RainRecord record;
+  record.Unit = unit;
+  RowReader reader(FindColumns(header, columns), record.Findings);
+  while (const auto line = lines.Next()) reader.Read(*line, lines.LineNumber());
+  std::vector<Row> rows = reader.Finish();
+  AppendDays(rows, record);
+  return record;
+}
+
+RainRecord ReadRainRecord(const std::string& path, RainUnit unit, const RainColumns& columns) {
+  std::ifstream file(PathFromUtf8(path), std::ios::binary);
+  if (!file || !FileExists(path)) {
+    throw FileError("The rainfall file " + path + " cannot be read.");
+  }
+  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  try {
+    return ParseRainRecord(DecodeFileText(bytes), unit, columns);
+  } catch (const FileError& error) {
+    throw FileError("The rainfall file " + path + " cannot be used.\n" + error.what());
+  }
+}
+
+std::string DescribeFindings(const RainRecord& record) {
+  const RainFindings& found = record.Findings;
+  const auto count = [](int n, const char* one, const char* many) {
+    return std::to_string(n) + (n == 1 ? one : many);
+  };
+  std::string text =
+      "The record runs from " + IsoDate(record.First) + " to " + IsoDate(record.Last) + ": " +
+      count(static_cast<int>(record.Days.size()), " day", " days") + " with a value, " +
+      count(found.Missing, " row", " rows") + " without, " + count(found.Gaps, " gap", " gaps") +
+      " (" + count(found.GapDays, " day", " days") + " without a row).";
+  if (found.Trace > 0) {
+    text += "\nA trace of rain counts as none: " + count(found.Trace, " row.", " rows.");
+  }
+  if (found.Duplicate > 0) {
+    text += "\nDates that stand twice: " + count(found.Duplicate, " row", " rows") +
+            "; the first value counts.";
+  }
+  if (found.Conflicting > 0) {
+    text += "\nOf these with another depth: " + count(found.Conflicting, " row", " rows") +
+            ", the first in line " + std::to_string(found.FirstConflictingLine) + ".";
+  }
+  if (found.Negative > 0) {
+    text += "\nNegative depths, taken as missing: " + count(found.Negative, " row", " rows") +
+            ", the first in line " + std::to_string(found.FirstNegativeLine) + ".";
+  }
+  return text;
+}
+
+}  // namespace orvik

@@ -1,0 +1,107 @@
+#include "curves/RainYears.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <numeric>
+#include <string>
+
+#include "base/NumberText.h"
+#include "curves/RainDate.h"
+#include "curves/Refusal.h"
+
+namespace orvik {
+namespace {
+
+// The wettest day ever measured: 71.9 inches (Foc-Foc, La Reunion, 1966-01-07 to 08).
+constexpr double kWettestDayIn = 72;
+
+std::chrono::sys_days NewYear(int year) {
+  return std::chrono::sys_days(std::chrono::year(year) / std::chrono::January / 1);
+}
+
+std::size_t DaysOfYear(int year) {
+  return static_cast<std::size_t>((NewYear(year + 1) - NewYear(year)).count());
+}
+
+// Appends the year if few enough of its days are missing. [begin, end) are its days with a value.
+void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
+                std::vector<RainDay>::const_iterator end, RainYears& years) {
+  const std::size_t days = DaysOfYear(year);
+  const int missing = static_cast<int>(days) - static_cast<int>(end - begin);
+  if (missing > kMostMissingDays) {
+    years.LeftOutYears.push_back(year);
+    return;
+  }
+  const std::size_t offset = years.Daily.size();
+  years.Daily.resize(offset + days, 0.0);
+  for (auto day = begin; day != end; ++day) {
+    years.Daily[offset + static_cast<std::size_t>((day->Date - NewYear(year)).count())] =
+        day->DepthIn;
+  }
+  if (years.Years.empty()) years.FirstYearDays = days;
+  years.Years.push_back(year);
+  years.MissingDays += missing;
+}
+
+std::string Rounded(double value) {
+  const double unit = value < 100 ? 10 : 1;
+  return ConvertToString(std::round(value * unit) / unit);
+}
+
+bool IsPlausible(double meanAnnualIn) {
+  return meanAnnualIn >= kLeastAnnualIn && meanAnnualIn <= kMostAnnualIn;
+}
+
+// The units that would make sense, each with the depth that it gives.
+std::string SuggestUnits(double meanAnnualIn, RainUnit unit) {
+  std::string text;
+  for (const RainUnit other : kRainUnits) {
+    const double mean = meanAnnualIn * UnitsPerInch(unit) / UnitsPerInch(other);
+    if (!IsPlausible(mean)) continue;
+    text += (text.empty() ? "" : ", ") + std::string("--unit ") + std::string(RainUnitName(other)) +
+            " (" + Rounded(mean) + " inches a year)";
+  }
+  if (text.empty()) return "No other unit makes sense of it either.";
+  return "A unit that would make sense: " + text + ".";
+}
+
+void RefuseImplausible(const RainYears& years, RainUnit unit) {
+  if (!IsPlausible(years.MeanAnnualIn)) {
+    throw Refusal("Read as \"" + std::string(RainUnitName(unit)) +
+                  "\", the mean annual rainfall is " + Rounded(years.MeanAnnualIn) +
+                  " inches; 5 to 200 inches are expected. " +
+                  SuggestUnits(years.MeanAnnualIn, unit));
+  }
+  if (years.WettestDayIn > kWettestDayIn) {
+    throw Refusal("The wettest day of the record has " + Rounded(years.WettestDayIn) +
+                  " inches, more than was ever measured anywhere. If this is a code for a "
+                  "missing value, leave the depth empty.");
+  }
+}
+
+}  // namespace
+
+RainYears SelectRainYears(const RainRecord& record) {
+  RainYears years;
+  auto begin = record.Days.begin();
+  for (int year = YearOf(record.First); year <= YearOf(record.Last); ++year) {
+    const auto end = std::lower_bound(
+        begin, record.Days.end(), NewYear(year + 1),
+        [](const RainDay& day, std::chrono::sys_days date) { return day.Date < date; });
+    AppendYear(year, begin, end, years);
+    begin = end;
+  }
+  const auto count = static_cast<int>(years.Years.size());
+  if (count < kFewestYears) {
+    throw Refusal("The record has " + std::to_string(count) +
+                  " usable years; at least 5 are needed. A calendar year that misses more than "
+                  "10 days is not usable.");
+  }
+  years.MeanAnnualIn = std::accumulate(years.Daily.begin(), years.Daily.end(), 0.0) / count;
+  years.WettestDayIn = *std::ranges::max_element(years.Daily);
+  RefuseImplausible(years, record.Unit);
+  return years;
+}
+
+}  // namespace orvik

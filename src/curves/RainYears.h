@@ -1,0 +1,34 @@
+// The years of a rainfall record that a simulation can use.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "curves/RainRecord.h"
+
+namespace orvik {
+
+// A kept year may miss this many days, which count as dry; a year that misses more is left out.
+inline constexpr int kMostMissingDays = 10;
+// Fewer years than this say nothing about a climate.
+inline constexpr int kFewestYears = 5;
+// The mean annual depth of a usable record, inches.
+inline constexpr double kLeastAnnualIn = 5;
+inline constexpr double kMostAnnualIn = 200;
+
+// Calendar years that are nearly complete, one after the other without the years between them.
+struct RainYears {
+  std::vector<int> Years;         // the kept calendar years, rising
+  std::vector<double> Daily;      // inches per day, all days of all kept years; missing days 0
+  std::size_t FirstYearDays = 0;  // 365 or 366
+  std::vector<int> LeftOutYears;  // years of the record's period that miss too many days
+  int MissingDays = 0;            // days of the kept years without a value
+  double MeanAnnualIn = 0;        // inches per kept year
+  double WettestDayIn = 0;        // inches
+};
+
+// Throws Refusal for fewer than 5 usable years, a mean annual depth outside 5 to 200 inches
+// (the sentence says which unit would make sense), and a day that is wetter than any ever measured.
+RainYears SelectRainYears(const RainRecord& record);
+
+}  // namespace orvik

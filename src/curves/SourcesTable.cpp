@@ -1,0 +1,100 @@
+#include <string>
+#include <string_view>
+
+#include "curves/FixedText.h"
+#include "curves/RainDate.h"
+#include "curves/StationCurves.h"
+#include "curves/StationSources.h"
+#include "engine/ClimateStations.h"
+
+namespace orvik {
+namespace {
+
+constexpr std::string_view kIntroduction =
+    "# Sources of the design curves\n"
+    "\n"
+    "These curves are computed by ORVIK from public daily rainfall: records of NOAA's cooperative "
+    "observers and, for\n"
+    "Gainesville after 1983, NOAA's daily summaries (United States government, public domain). "
+    "Where your authority has\n"
+    "adopted curves, put those into this folder and use them. Method and assumptions: "
+    "`docs/curves.md`.\n"
+    "\n"
+    "This file and the curve files are written by `kav curves make-all --rain-dir DIR -o DIR`.\n"
+    "\n"
+    "## Rainfall records\n"
+    "\n"
+    "A usable year misses at most 10 days. Where a neighbour is named, its record stands in for a "
+    "station without a long\n"
+    "record of its own.\n"
+    "\n"
+    "| no. | station | record of | NOAA number | period | usable years | mean in/year | wettest "
+    "day "
+    "in |\n"
+    "| --: | --- | --- | --- | --- | --: | --: | --: |\n";
+
+constexpr std::string_view kErrorsIntroduction =
+    "\n"
+    "## Fit errors\n"
+    "\n"
+    "Largest / mean deviation of the efficiency simulated along a curve from the curve's E, in "
+    "percentage points. The limits\n"
+    "are 1.0 and 0.6.\n"
+    "\n";
+
+constexpr std::string_view kStartsIntroduction =
+    "\n"
+    "## Where the curves begin\n"
+    "\n"
+    "VStart, inches on the equivalent impervious area. All curves end at V maximum.\n"
+    "\n";
+
+std::string SourceRow(const StationCurves& station) {
+  const StationSource& source = SourceOfStation(station.Station);
+  return "| " + std::to_string(station.Station) + " | " +
+         std::string(ClimateStationName(station.Station)) + " | " +
+         std::string(source.RecordOf.empty() ? "itself" : source.RecordOf) + " | " +
+         std::string(source.NoaaNumber) + " | " + IsoDate(station.Record.First) + " to " +
+         IsoDate(station.Record.Last) + " | " + std::to_string(station.Years.Years.size()) + " | " +
+         FixedText(station.Years.MeanAnnualIn, 1) + " | " +
+         FixedText(station.Years.WettestDayIn, 2) + " |\n";
+}
+
+// A table with one row for each station and one column for each curve.
+template <typename CellText>
+std::string CurveTable(const std::vector<StationCurves>& stations, CellText cellText) {
+  std::string head = "| station |";
+  std::string rule = "| --- |";
+  for (const EfficiencyCurve& curve : stations.front().Made.Set.Curves) {
+    head += " E=" + FixedText(curve.E, 0) + "% |";
+    rule += " --: |";
+  }
+  std::string text = head + "\n" + rule + "\n";
+  for (const StationCurves& station : stations) {
+    text += "| " + std::string(ClimateStationName(station.Station)) + " |";
+    for (std::size_t i = 0; i < station.Made.Set.Curves.size(); ++i) {
+      text += " " + cellText(station.Made, i) + " |";
+    }
+    text += "\n";
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string SourcesTable(const std::vector<StationCurves>& stations) {
+  std::string text(kIntroduction);
+  for (const StationCurves& station : stations) text += SourceRow(station);
+  if (stations.empty()) return text;
+  text += kErrorsIntroduction;
+  text += CurveTable(stations, [](const MadeCurves& made, std::size_t i) {
+    return FixedText(made.Errors[i].Max, 2) + " / " + FixedText(made.Errors[i].Mean, 2);
+  });
+  text += kStartsIntroduction;
+  text += CurveTable(stations, [](const MadeCurves& made, std::size_t i) {
+    return FixedText(made.Set.Curves[i].VStart, 2);
+  });
+  return text;
+}
+
+}  // namespace orvik

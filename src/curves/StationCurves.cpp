@@ -1,0 +1,28 @@
+#include "curves/StationCurves.h"
+
+#include "curves/Refusal.h"
+#include "curves/StationSources.h"
+#include "engine/ClimateStations.h"
+
+namespace orvik {
+
+StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t station,
+                                const PondOptions& options, const ChartAxes& axes) {
+  const std::string name(ClimateStationName(station));
+  StationCurves result;
+  result.Station = station;
+  result.Record = ReadRainRecord(rainFolder + name + ".csv", RainUnit::Inches);
+  try {
+    result.Years = SelectRainYears(result.Record);
+    const std::string title =
+        CurveTitle(name, SourceText(SourceOfStation(station)), result.Record, result.Years);
+    result.Made = MakeCurves(BuildPondDays(result.Years, options), axes, title);
+  } catch (const Refusal& refusal) {
+    throw Refusal(name + ": " + refusal.what());
+  }
+  result.Record.Days = {};
+  result.Years.Daily = {};
+  return result;
+}
+
+}  // namespace orvik

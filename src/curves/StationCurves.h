@@ -1,0 +1,30 @@
+// The curves of the climate stations, made from a folder of rainfall records.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "curves/CurveMaker.h"
+#include "curves/PondDays.h"
+#include "curves/RainRecord.h"
+#include "curves/RainYears.h"
+
+namespace orvik {
+
+struct StationCurves {
+  std::int16_t Station = 0;  // 1...25
+  RainRecord Record;         // its days are dropped, the findings kept
+  RainYears Years;           // likewise
+  MadeCurves Made;
+};
+
+// Makes the curves of a station from `<rainFolder><station>.csv`, in inches. `rainFolder` ends with
+// a separator. Throws FileError and Refusal, naming the station.
+StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t station,
+                                const PondOptions& options, const ChartAxes& axes);
+
+// What the curves were made from and how well they fit, as the text of a Markdown file.
+std::string SourcesTable(const std::vector<StationCurves>& stations);
+
+}  // namespace orvik

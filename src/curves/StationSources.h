@@ -1,0 +1,29 @@
+// Which rainfall record stands for each climate station.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "curves/RainRecord.h"
+#include "curves/RainYears.h"
+
+namespace orvik {
+
+struct StationSource {
+  std::string_view RecordOf;    // the neighbour whose record stands in; empty: its own
+  std::string_view NoaaNumber;  // cooperative-observer number(s) of NOAA, or its station id
+};
+
+// The source of a climate station (1...25; SubscriptError otherwise).
+const StationSource& SourceOfStation(std::int16_t station);
+
+// "NOAA daily rainfall 085539 (record of Mayo)".
+std::string SourceText(const StationSource& source);
+
+// The first line of a curve file: "<name> - computed by ORVIK from <source>, 1949-2021, 62 usable
+// years".
+std::string CurveTitle(std::string_view name, std::string_view source, const RainRecord& record,
+                       const RainYears& years);
+
+}  // namespace orvik
