@@ -76,8 +76,9 @@ TEST_P(SolvingByBoost, RateAgreesToSinglePrecision) {
       ASSERT_TRUE(chart_.SetHotspotUsing_EV(ConvertToString(E), ConvertToString(V), text_))
           << E << " " << V;
       EXPECT_NEAR(chart_.HotspotR(), Rate(line, V), 1e-12) << E << " " << V;
-      // Half a unit of the seventh digit and of single precision below 0.5.
-      EXPECT_NEAR(ParseNumber(text_), Rate(line, V), 6.5e-8) << E << " " << V;
+      // Half a unit of the seventh digit (of a rate from 0.1 to 1) and of single precision.
+      EXPECT_NEAR(ParseNumber(text_), Rate(line, V), 5e-8 + kSingle * Rate(line, V))
+          << E << " " << V;
       ++solved;
     }
   }
