@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <exception>
-#include <memory>
+#include <sstream>
 #include <utility>
 
 #include "base/ModuleVersion.h"
@@ -21,6 +21,11 @@ void AddCommand(CLI::App& app, Commands& commands, CommandRun (*add)(CLI::App&))
                         std::move(run));
 }
 
+// The parser's texts end with or without a line end; ours always with one.
+void PrintWhole(std::ostream& stream, const std::string& text) {
+  stream << text << (text.ends_with('\n') ? "" : "\n");
+}
+
 ExitCode RunChosen(const Commands& commands, Console& console, const CommonOptions& options) {
   const auto chosen =
       std::ranges::find_if(commands, [](const auto& c) { return c.first->parsed(); });
@@ -37,6 +42,11 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
       ->type_name("DIR");
   app.add_flag("--json", options.json, "Print one JSON object instead of text");
   app.require_subcommand(1);
+  app.footer(
+      "Example:\n  kav solve --station Gainesville --rate 0.15 --volume 3\n\n"
+      "Exit codes: 0 done; 1 the calculation says no, its message is on standard error; 2 wrong "
+      "usage;\n"
+      "3 a file cannot be read or written.");
   app.fallthrough();  // the common options may stand behind the command
 
   Commands commands;
@@ -48,7 +58,9 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {
     const bool asked = error.get_exit_code() == 0;  // --help, --version
-    app.exit(error, asked ? console.out : console.err, console.err);
+    std::ostringstream text;
+    app.exit(error, text, text);
+    PrintWhole(asked ? console.out : console.err, text.str());
     return asked ? ExitCode::Done : ExitCode::WrongUsage;
   }
   return RunChosen(commands, console, options);

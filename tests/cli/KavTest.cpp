@@ -149,6 +149,7 @@ TEST_F(Kav, HelpGoesToStandardOutputWithAnExample) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_THAT(run.out, HasSubstr(std::string("kav ") + command));
+    EXPECT_THAT(run.out, testing::EndsWith("\n"));
   }
 }
 
