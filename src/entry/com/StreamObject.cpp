@@ -1,9 +1,7 @@
 #include "entry/com/StreamObject.h"
 
 #include <cstdint>
-#include <limits>
 #include <string>
-#include <type_traits>
 
 #include "entry/com/Bstr.h"
 #include "entry/com/ComError.h"
@@ -21,9 +19,9 @@ VARIANT_BOOL ToVariantBool(bool value) {
 // The type library passes an enumeration as 32 bits. A value beyond 16 must not become another one
 // by losing its upper half: it is no mode, as 0 is none.
 orvik::enumIOStreamMode ToMode(::enumIOStreamMode mode) {
-  const auto value = static_cast<std::underlying_type_t<::enumIOStreamMode>>(mode);
-  const bool fits = value <= static_cast<decltype(value)>(::AsciiBufferOutput);
-  return fits ? static_cast<orvik::enumIOStreamMode>(value) : orvik::enumIOStreamMode::None;
+  const auto value = static_cast<std::int32_t>(mode);
+  const bool known = value >= 0 && value <= std::int32_t{::AsciiBufferOutput};
+  return known ? static_cast<orvik::enumIOStreamMode>(value) : orvik::enumIOStreamMode::None;
 }
 
 }  // namespace
