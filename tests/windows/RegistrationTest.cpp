@@ -50,9 +50,12 @@ class OtherBuild {
   static std::wstring Library() { return kClasses + L"TypeLib\\" + kLibid + L"\\3.3\\0\\win32"; }
 };
 
+// Each test leaves the registry as all of them have found it.
 class RegistrationTest : public testing::Test {
  protected:
-  const RegistrySnapshot before_ = TakeRegistrySnapshot();
+  static void SetUpTestSuite() { before_ = TakeRegistrySnapshot(); }
+
+  static inline RegistrySnapshot before_;
 };
 
 TEST_F(RegistrationTest, NothingOfOursIsThereBefore) {
