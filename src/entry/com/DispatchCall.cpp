@@ -1,7 +1,7 @@
 #include "entry/com/DispatchCall.h"
 
 #include <deque>
-#include <new>
+#include <utility>
 #include <vector>
 
 #include "entry/com/ComError.h"
@@ -125,37 +125,25 @@ class ArgumentList {
   std::deque<DispatchArgument> arguments_;  // they stay where they are
 };
 
-HRESULT CallFunction(ITypeInfo& type, void* object, const Function& function,
-                     const DispatchCall& call) {
+void CallFunction(ITypeInfo& type, void* object, const Function& function,
+                  const DispatchCall& call) {
   ArgumentList arguments(function, call);
   std::vector<VARIANTARG> passed = arguments.Passed();
   DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
   Variant result;
-  const HRESULT called = type.Invoke(object, call.member, static_cast<WORD>(function->invkind),
-                                     &parameters, result.Get(), call.exception, call.badArgument);
-  if (FAILED(called)) return called;
+  Check(type.Invoke(object, call.member, static_cast<WORD>(function->invkind), &parameters,
+                    result.Get(), call.exception, call.badArgument),
+        "The call failed.");
   arguments.Return();
-  if (call.result) {
-    *call.result = *result.Get();
-    ::VariantInit(result.Get());
-  }
-  return called;
+  if (call.result) *call.result = std::exchange(*result.Get(), VARIANT{});
 }
 
 }  // namespace
 
-HRESULT CallByType(ITypeInfo& type, void* object, const DispatchCall& call) noexcept {
+void CallByType(ITypeInfo& type, void* object, const DispatchCall& call) {
   if (call.result) ::VariantInit(call.result);
-  if (!call.parameters) return E_INVALIDARG;
-  try {
-    return CallFunction(type, object, Function(type, FindFunction(type, call)), call);
-  } catch (const ComError& error) {
-    return error.Code();
-  } catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
-  } catch (...) {
-    return E_UNEXPECTED;
-  }
+  if (!call.parameters) throw ComError(E_INVALIDARG, "The arguments are missing.");
+  CallFunction(type, object, Function(type, FindFunction(type, call)), call);
 }
 
 }  // namespace orvik::com

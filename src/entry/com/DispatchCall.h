@@ -17,10 +17,10 @@ struct DispatchCall {
 };
 
 // Calls the member of `object`, whose interface `type` describes. Arguments may be given by value,
-// by reference, as references to VARIANTs, and by name. Answers as IDispatch::Invoke does:
-// DISP_E_MEMBERNOTFOUND, DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTFOUND, DISP_E_PARAMNOTOPTIONAL,
-// DISP_E_TYPEMISMATCH and DISP_E_OVERFLOW (with the index of the argument), DISP_E_EXCEPTION for a
-// method that failed.
-HRESULT CallByType(ITypeInfo& type, void* object, const DispatchCall& call) noexcept;
+// by reference, as references to VARIANTs, and by name. Throws ComError with the codes of
+// IDispatch::Invoke: DISP_E_MEMBERNOTFOUND, DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTFOUND,
+// DISP_E_PARAMNOTOPTIONAL, DISP_E_TYPEMISMATCH and DISP_E_OVERFLOW (with the index of the
+// argument), DISP_E_EXCEPTION for a method that failed, its reason in `exception`.
+void CallByType(ITypeInfo& type, void* object, const DispatchCall& call);
 
 }  // namespace orvik::com

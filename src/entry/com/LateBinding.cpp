@@ -52,7 +52,7 @@ HRESULT LateBinding::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count,
 HRESULT LateBinding::Invoke(REFIID reserved, void* object, const DispatchCall& call) {
   return Wall(iid_, kSource, [&] {
     RequireReserved(reserved);
-    Check(CallByType(Type(), object, call), "The call failed.");
+    CallByType(Type(), object, call);
   });
 }
 
