@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -73,6 +74,8 @@ struct Route {
   std::string name;
   std::function<std::shared_ptr<void>()> open;
   std::function<HRESULT(REFIID iid, void** object)> create;
+
+  friend void PrintTo(const Route& route, std::ostream* out) { *out << route.name; }
 };
 
 // The routes that a test program takes; each program has its own.
