@@ -1,6 +1,7 @@
 #include "entry/com/DispatchCall.h"
 
 #include <deque>
+#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -97,7 +98,9 @@ class ArgumentList {
   // The last argument comes first, as everywhere in late binding.
   std::vector<VARIANTARG> Passed() {
     std::vector<VARIANTARG> passed;
-    for (auto i = arguments_.rbegin(); i != arguments_.rend(); ++i) passed.push_back(i->Passed());
+    for (DispatchArgument& argument : std::views::reverse(arguments_)) {
+      passed.push_back(argument.Passed());
+    }
     return passed;
   }
 
