@@ -28,12 +28,16 @@ class Checker {
   std::vector<std::string> Run() {
     CheckInterval("V", set_.VMax - set_.VMin, set_.VInterval);
     CheckInterval("R", set_.RMax - set_.RMin, set_.RInterval);
+    bool isLowerUsable = false;
     for (std::size_t i = 0; i < set_.Curves.size(); ++i) {
-      if (!CheckNumbers(i)) continue;
-      CheckFalling(i);
-      CheckLimits(i);
-      CheckRunoff(i);
-      if (i > 0) CheckNeighbours(i);
+      const bool isUsable = CheckNumbers(i);
+      if (isUsable) {
+        CheckFalling(i);
+        CheckLimits(i);
+        CheckRunoff(i);
+      }
+      if (isUsable && isLowerUsable) CheckNeighbours(i);
+      isLowerUsable = isUsable;
     }
     for (const CurveLabel& label : set_.Labels) CheckLabel(label);
     return std::move(sentences_);
