@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "base/NumberText.h"
 #include "curves/ChartAxes.h"
@@ -111,15 +112,18 @@ class Checker {
     const double first = std::min(lower.VStart, upper.VStart);
     const double last = std::min(lower.VEnd, upper.VEnd);
     if (!(first > 0 && last > first)) return;
-    const double gap = kGapShare * (set_.RMax - set_.RMin);
+    double least = std::numeric_limits<double>::infinity();
+    double leastV = first;
     for (int k = 0; k < kPoints; ++k) {
       const double V = first + (last - first) * k / (kPoints - 1);
       const double distance = CurveR(V, upper) - CurveR(V, lower);
-      if (distance >= gap) continue;
-      return Say(Name(i) + (distance <= 0 ? " crosses" : " comes too close to") +
-                 " the curve before it" + At(V) + " (distance " + FixedText(distance, 4) +
-                 " in/day).");
+      if (distance >= least) continue;
+      least = distance;
+      leastV = V;
     }
+    if (least >= kGapShare * (set_.RMax - set_.RMin)) return;
+    Say(Name(i) + (least <= 0 ? " crosses" : " comes too close to") + " the curve before it" +
+        At(leastV) + " (distance " + FixedText(least, 4) + " in/day).");
   }
 
   void CheckLabel(const CurveLabel& label) {
