@@ -2,10 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "base/Paths.h"
-#include "cli/Kav.h"
+#include "support/KavRun.h"
 #include "support/TempFolder.h"
 
 namespace orvik {
@@ -17,18 +16,10 @@ using testing::IsEmpty;
 const std::string kSample = std::string(ORVIK_DATA_DIR) + "samples/synthetic-rain.csv";
 const std::string kTampa = std::string(ORVIK_DATA_DIR) + "KAV Data/Tampa.crv";
 
-struct Result {
-  int code;
-  std::string out;
-  std::string err;
-};
+using test::KavRun;
 
-Result RunCommand(const std::vector<std::string>& arguments) {
-  std::ostringstream out;
-  std::ostringstream err;
-  Console console{out, err, false, ORVIK_DATA_DIR};
-  const int code = RunKav(arguments, console);
-  return {code, out.str(), err.str()};
+KavRun RunCommand(const std::vector<std::string>& arguments) {
+  return test::RunKavWith(arguments, ORVIK_DATA_DIR);
 }
 
 std::vector<std::string> MakeArguments(const std::string& rain, const std::string& file) {
@@ -55,8 +46,8 @@ std::string RainEveryFourthDay(const std::string& depth) {
 
 TEST(CurvesMake, WritesAFileThatSolvesAndPrintsItsErrors) {
   const test::TempFolder folder;
-  const Result made = RunCommand(MakeArguments(kSample, folder / "made.crv"));
-  EXPECT_EQ(made.code, 0) << made.err;
+  const KavRun made = RunCommand(MakeArguments(kSample, folder / "made.crv"));
+  EXPECT_EQ(made.exitCode, 0) << made.err;
   EXPECT_THAT(made.out, HasSubstr("Sampleville - computed by ORVIK from daily rainfall "
                                   "synthetic-rain.csv, 2001-2010, 10 usable years"));
   EXPECT_THAT(made.out, HasSubstr("largest error   mean error"));
@@ -64,9 +55,9 @@ TEST(CurvesMake, WritesAFileThatSolvesAndPrintsItsErrors) {
   EXPECT_THAT(made.err, HasSubstr("The record runs from 2001-01-01 to 2010-12-31"));
 
   folder.Write("KAV Data/Tampa.crv", test::ReadBytes(folder / "made.crv"));
-  const Result solved = RunCommand(
+  const KavRun solved = RunCommand(
       {"--data", folder.Path(), "solve", "--station", "Tampa", "--rate", "0.2", "--volume", "3"});
-  EXPECT_EQ(solved.code, 0) << solved.err;
+  EXPECT_EQ(solved.exitCode, 0) << solved.err;
   EXPECT_THAT(solved.out, HasSubstr("Sampleville"));
 }
 
@@ -74,8 +65,8 @@ TEST(CurvesMake, PrintsOneJsonObject) {
   const test::TempFolder folder;
   auto arguments = MakeArguments(kSample, folder / "a.crv");
   arguments.insert(arguments.end(), {"--source", "gauge 7", "--json"});
-  const Result made = RunCommand(arguments);
-  ASSERT_EQ(made.code, 0) << made.err;
+  const KavRun made = RunCommand(arguments);
+  ASSERT_EQ(made.exitCode, 0) << made.err;
   const auto object = nlohmann::json::parse(made.out);
   EXPECT_EQ(object["usableYears"], 10);
   EXPECT_EQ(object["curves"].size(), 10U);
@@ -86,14 +77,14 @@ TEST(CurvesMake, PrintsOneJsonObject) {
 
 TEST(CurvesMake, WantsTheUnitNamed) {
   const test::TempFolder folder;
-  const Result none =
+  const KavRun none =
       RunCommand({"curves", "make", "--rain", kSample, "--name", "x", "-o", folder / "a"});
-  EXPECT_EQ(none.code, 2);
+  EXPECT_EQ(none.exitCode, 2);
   EXPECT_THAT(none.err, HasSubstr("--unit"));
   auto arguments = MakeArguments(kSample, folder / "a.crv");
   arguments[5] = "inches";
-  const Result wrong = RunCommand(arguments);
-  EXPECT_EQ(wrong.code, 2);
+  const KavRun wrong = RunCommand(arguments);
+  EXPECT_EQ(wrong.exitCode, 2);
   EXPECT_THAT(wrong.err, HasSubstr("the units are in, hundredths-in, mm, tenths-mm"));
   EXPECT_FALSE(FileExists(folder / "a.crv"));
 }
@@ -102,8 +93,8 @@ TEST(CurvesMake, RefusesAUnitThatGivesAnImpossibleClimate) {
   const test::TempFolder folder;
   auto arguments = MakeArguments(kSample, folder / "a.crv");
   arguments[5] = "tenths-mm";
-  const Result result = RunCommand(arguments);
-  EXPECT_EQ(result.code, 1);
+  const KavRun result = RunCommand(arguments);
+  EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.err, HasSubstr("--unit in (58.7 inches a year)"));
   EXPECT_THAT(result.out, IsEmpty());
   EXPECT_FALSE(FileExists(folder / "a.crv"));
@@ -111,15 +102,15 @@ TEST(CurvesMake, RefusesAUnitThatGivesAnImpossibleClimate) {
 
 TEST(CurvesMake, SaysWhyAFileCannotBeReadOrWritten) {
   const test::TempFolder folder;
-  const Result missing = RunCommand(MakeArguments(folder / "none.csv", folder / "a.crv"));
-  EXPECT_EQ(missing.code, 3);
+  const KavRun missing = RunCommand(MakeArguments(folder / "none.csv", folder / "a.crv"));
+  EXPECT_EQ(missing.exitCode, 3);
   EXPECT_THAT(missing.err, HasSubstr("none.csv cannot be read"));
-  const Result broken = RunCommand(
+  const KavRun broken = RunCommand(
       MakeArguments(folder.Write("b.csv", "date,prcp\nyesterday,1\n"), folder / "a.crv"));
-  EXPECT_EQ(broken.code, 3);
+  EXPECT_EQ(broken.exitCode, 3);
   EXPECT_THAT(broken.err, HasSubstr("Line 2: \"yesterday\" is not a date."));
-  const Result unwritable = RunCommand(MakeArguments(kSample, folder / "no/such/a.crv"));
-  EXPECT_EQ(unwritable.code, 3);
+  const KavRun unwritable = RunCommand(MakeArguments(kSample, folder / "no/such/a.crv"));
+  EXPECT_EQ(unwritable.exitCode, 3);
   EXPECT_THAT(unwritable.err, HasSubstr("cannot be written"));
   EXPECT_THAT(unwritable.out, IsEmpty());
 }
@@ -146,25 +137,25 @@ TEST(CurvesMake, RefusesOptionsThatMakeNoSense) {
     auto arguments = MakeArguments(kSample, folder / "a.crv");
     if (options[0] == "--name") arguments.erase(arguments.begin() + 6, arguments.begin() + 8);
     arguments.insert(arguments.end(), options.begin(), options.end());
-    const Result result = RunCommand(arguments);
-    EXPECT_EQ(result.code, 2) << options[0];
+    const KavRun result = RunCommand(arguments);
+    EXPECT_EQ(result.exitCode, 2) << options[0];
     EXPECT_THAT(result.err, HasSubstr(message)) << options[0];
   }
 }
 
 TEST(CurvesMake, ARainTooWetForTheAxesIsRefused) {
   const test::TempFolder folder;
-  const Result result =
+  const KavRun result =
       RunCommand(MakeArguments(folder.Write("r.csv", RainEveryFourthDay("2")), folder / "a.crv"));
-  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.err, HasSubstr("No curve for E = "));
   EXPECT_THAT(result.err, HasSubstr("Choose a larger --r-max."));
   EXPECT_FALSE(FileExists(folder / "a.crv"));
 }
 
 TEST(CurvesMake, HelpStatesTheDefinition) {
-  const Result help = RunCommand({"curves", "make", "--help"});
-  EXPECT_EQ(help.code, 0);
+  const KavRun help = RunCommand({"curves", "make", "--help"});
+  EXPECT_EQ(help.exitCode, 0);
   EXPECT_THAT(help.out, HasSubstr("used / runoff over the record"));
   EXPECT_THAT(help.out, HasSubstr("Example:"));
 }
@@ -172,16 +163,16 @@ TEST(CurvesMake, HelpStatesTheDefinition) {
 TEST(CurvesMakeAll, WritesNothingUnlessAllStationsAreThere) {
   const test::TempFolder folder;
   folder.Write("rain/Apalachicola.csv", test::ReadBytes(kSample));
-  const Result result =
+  const KavRun result =
       RunCommand({"curves", "make-all", "--rain-dir", folder / "rain", "-o", folder / "out"});
-  EXPECT_EQ(result.code, 3);
+  EXPECT_EQ(result.exitCode, 3);
   EXPECT_THAT(result.err, HasSubstr("Belle Glade.csv cannot be read"));
   EXPECT_FALSE(FolderExists(folder / "out"));
 }
 
 TEST(CurvesCheck, PassesAShippedFile) {
-  const Result result = RunCommand({"curves", "check", kTampa});
-  EXPECT_EQ(result.code, 0) << result.err;
+  const KavRun result = RunCommand({"curves", "check", kTampa});
+  EXPECT_EQ(result.exitCode, 0) << result.err;
   EXPECT_THAT(result.out, HasSubstr("All checks are passed."));
   EXPECT_THAT(result.err, IsEmpty());
 }
@@ -190,8 +181,8 @@ TEST(CurvesCheck, WithRainfallShowsTheErrorsAndWhatTheRunoffForbids) {
   // A far wetter place than Tampa: its curves ask for less than its efficiencies need there.
   const test::TempFolder folder;
   const std::string wet = folder.Write("wet.csv", RainEveryFourthDay("2"));
-  const Result result = RunCommand({"curves", "check", kTampa, "--rain", wet, "--unit", "in"});
-  EXPECT_EQ(result.code, 1);
+  const KavRun result = RunCommand({"curves", "check", kTampa, "--rain", wet, "--unit", "in"});
+  EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.out, HasSubstr("largest error"));
   EXPECT_THAT(result.err, HasSubstr("Curve 1 (E = 50%) asks for"));
 }
@@ -202,24 +193,24 @@ TEST(CurvesCheck, NamesTheFaultsOfAFile) {
   ASSERT_NE(E, std::string::npos);
   text.replace(E, 6, "\r\n45\r\n");
   const test::TempFolder folder;
-  const Result result = RunCommand({"curves", "check", folder.Write("a.crv", text), "--json"});
-  EXPECT_EQ(result.code, 1);
+  const KavRun result = RunCommand({"curves", "check", folder.Write("a.crv", text), "--json"});
+  EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.err, HasSubstr("Curve 2 (E = 45%) does not have a higher efficiency"));
   EXPECT_EQ(nlohmann::json::parse(result.out)["faults"].size(), 1U);
 }
 
 TEST(CurvesCheck, AFileThatCannotBeReadIsFileTrouble) {
   const test::TempFolder folder;
-  EXPECT_EQ(RunCommand({"curves", "check", folder / "none.crv"}).code, 3);
+  EXPECT_EQ(RunCommand({"curves", "check", folder / "none.crv"}).exitCode, 3);
   const std::string half = test::ReadBytes(kTampa).substr(0, 300);
-  const Result result = RunCommand({"curves", "check", folder.Write("half.crv", half)});
-  EXPECT_EQ(result.code, 3);
+  const KavRun result = RunCommand({"curves", "check", folder.Write("half.crv", half)});
+  EXPECT_EQ(result.exitCode, 3);
   EXPECT_THAT(result.err, HasSubstr("is damaged"));
 }
 
 TEST(Curves, WantASubcommand) {
-  EXPECT_EQ(RunCommand({"curves"}).code, 2);
-  EXPECT_EQ(RunCommand({"curves", "draw"}).code, 2);
+  EXPECT_EQ(RunCommand({"curves"}).exitCode, 2);
+  EXPECT_EQ(RunCommand({"curves", "draw"}).exitCode, 2);
 }
 
 }  // namespace

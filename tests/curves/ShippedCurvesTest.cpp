@@ -2,12 +2,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <iostream>
+#include <algorithm>
 
-#include "base/Paths.h"
 #include "curves/CurveCheck.h"
 #include "curves/CurveFileWriter.h"
+#include "curves/RainFolder.h"
 #include "curves/StationCurves.h"
 #include "curves/StationSources.h"
 #include "engine/ClimateStations.h"
@@ -18,11 +17,6 @@ namespace orvik {
 namespace {
 
 const std::string kCurveFolder = std::string(ORVIK_DATA_DIR) + "KAV Data/";
-
-std::string RainFolder() {
-  const char* given = std::getenv("ORVIK_RAIN_DIR");
-  return WithEndingSeparator(given == nullptr ? ORVIK_RAIN_DIR : given);
-}
 
 std::string PathOf(std::int16_t station) {
   return kCurveFolder + std::string(ClimateStationName(station)) + ".crv";
@@ -73,14 +67,11 @@ TEST(ShippedCurves, StationsWithOneRecordHaveTheSameCurves) {
 }
 
 TEST(ShippedCurves, AreMadeAgainByteForByteFromTheRecords) {
-  if (!FolderExists(RainFolder())) {
-    std::cout << "The rainfall records are not at hand (" << RainFolder()
-              << "): the curves were not made again.\n";
-    return;
-  }
+  const auto rainFolder = test::FindRainFolder();
+  if (!rainFolder) return;
   std::vector<StationCurves> stations;
   for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
-    stations.push_back(MakeStationCurves(RainFolder(), i, {}, {}));
+    stations.push_back(MakeStationCurves(*rainFolder, i, {}, {}));
     EXPECT_EQ(CurveFileText(stations.back().Made.Set), test::ReadBytes(PathOf(i)))
         << ClimateStationName(i);
     for (const CurveError& error : stations.back().Made.Errors) {
