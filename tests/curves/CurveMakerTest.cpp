@@ -74,9 +74,9 @@ TEST(MakeCurves, WorksOnOtherAxesAndWithHoldOffAndAbstraction) {
     const PondDays days = SampleDays(options);
     const MadeCurves made = MakeCurves(days, wide, "x");
     EXPECT_EQ(made.Set.RMax, 0.8);
-    for (std::size_t i = 0; i < made.Errors.size(); ++i) {
-      EXPECT_LE(made.Errors[i].Max, kMostError);
-      EXPECT_LE(made.Errors[i].Mean, kMostMeanError);
+    for (const CurveError& error : made.Errors) {
+      EXPECT_LE(error.Max, kMostError);
+      EXPECT_LE(error.Mean, kMostMeanError);
     }
   }
 }
