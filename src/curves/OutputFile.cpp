@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <system_error>
 
 #include "base/Paths.h"
 #include "curves/FileError.h"
@@ -47,6 +48,9 @@ std::filesystem::path UnusedPathBeside(const std::filesystem::path& target) {
 void RequireReplaceable(const std::string& path) {
   std::error_code error;
   const auto status = std::filesystem::status(PathFromUtf8(path), error);
+  if (error == std::errc::too_many_symbolic_link_levels) {
+    throw FileError("The file " + path + " cannot be written: its links lead in a circle.");
+  }
   if (!std::filesystem::exists(status) || std::filesystem::is_regular_file(status)) return;
   const bool isFolder = std::filesystem::is_directory(status);
   throw FileError("The file " + path + " cannot be written: " +

@@ -7,7 +7,7 @@
 namespace orvik {
 
 // Throws FileError where the path is taken by something that is not a file: a folder, a device, a
-// pipe.
+// pipe, links in a circle.
 void RequireReplaceable(const std::string& path);
 
 // Writes the bytes to a new file beside the target and renames it over the target, or over what the
