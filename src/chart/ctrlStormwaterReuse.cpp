@@ -5,6 +5,7 @@
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/Rounding.h"
+#include "base/RuntimeErrors.h"
 #include "base/Text.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFile.h"
@@ -46,10 +47,8 @@ void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
     ShowError(desktop_, "Can't find data path:\r\n" + folder);
     return;
   }
-  isLoaded_ = LoadCurves(folder);
-  if (isLoaded_) {
-    LayOut();
-  } else {
+  isLoaded_ = LoadCurves(folder) && LayOutNewCurves();
+  if (!isLoaded_) {
     stationIndex_ = 0;
     stationName_.clear();
   }
@@ -64,6 +63,19 @@ bool ctrlStormwaterReuse::LoadCurves(const std::string& folder) {
   clsIOStream stream;
   if (!stream.OpenFile(file, enumIOStreamMode::AsciiFileInput)) return false;
   return ReadCurveFile(stream, curves_);
+}
+
+// A hotspot of the station before can lie beyond 16-bit pixels on the axes of this one: it is
+// hidden. Curves whose own chart cannot be laid out are not loaded.
+bool ctrlStormwaterReuse::LayOutNewCurves() {
+  try {
+    LayOut();
+    return true;
+  } catch (const NumericError&) {
+    if (!hotspotVisible_) return false;
+    hotspotVisible_ = false;
+  }
+  return LayOutNewCurves();
 }
 
 std::optional<double> ctrlStormwaterReuse::MinX() const {

@@ -96,6 +96,7 @@ class ctrlStormwaterReuse {
 
  private:
   bool LoadCurves(const std::string& folder);
+  bool LayOutNewCurves();
   void LayOut();
 
   bool Succeed();
