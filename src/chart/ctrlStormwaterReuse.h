@@ -106,6 +106,10 @@ class ctrlStormwaterReuse {
   // The curve through the hotspot's E; nothing where E is undefined.
   const std::optional<EfficiencyCurve>& HighlightCurve() const { return highlightCurve_; }
 
+  // Draws the hotspot, if it is visible, as the last step of painting the control. A highlight is
+  // not drawn again: painting takes it away, so a window always paints the whole control.
+  void PaintHotspot(Surface& surface);
+
   // --- Mouse and keys ---
 
   // True: the mouse places the hotspot.
@@ -156,7 +160,9 @@ class ctrlStormwaterReuse {
   void EvaluateE();
   void ShowHighlight();
   void RemoveHighlight();
+  bool DrawHighlight();
   void ToggleHotspot();
+  Surface* TransientSurface() const;
   void Repaint();
 
   Desktop& desktop_;

@@ -2,17 +2,20 @@
 // paintings.
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
+#include "chart/HotspotDrawing.h"
 #include "chart/ctrlStormwaterReuse.h"
 
 namespace orvik {
 namespace {
 
 constexpr std::int16_t kLeftButton = 1;
-constexpr std::int16_t kKeySpace = 32;
+constexpr std::int16_t kKeySpace = 32;  // shows the highlight
 constexpr std::int16_t kKeyLeft = 37;
 constexpr std::int16_t kKeyUp = 38;
 constexpr std::int16_t kKeyRight = 39;
 constexpr std::int16_t kKeyDown = 40;
+
+constexpr int kHotspotPenWidth = 1;  // pixels
 
 void Raise(const std::function<void()>& event) {
   if (event) event();
@@ -40,7 +43,7 @@ void ctrlStormwaterReuse::HideHotSpot() {
 
 void ctrlStormwaterReuse::MouseDown(std::int16_t button, double x, double y) {
   if (!interactive_ || button != kLeftButton || !TakesPoint(x, y)) return;
-  if (hotspotVisible_) ToggleHotspot();
+  if (IsHotspotShown()) ToggleHotspot();
   if (host_) host_->CaptureMouse();
   mouseCaptured_ = true;
   PlaceByMouse(x, y);
@@ -50,7 +53,7 @@ void ctrlStormwaterReuse::MouseDown(std::int16_t button, double x, double y) {
 // Outside the frame the hotspot waits where it was until the mouse comes back.
 void ctrlStormwaterReuse::MouseMove(double x, double y) {
   if (!mouseCaptured_ || !TakesPoint(x, y)) return;
-  if (hotspotVisible_) ToggleHotspot();
+  if (IsHotspotShown()) ToggleHotspot();
   PlaceByMouse(x, y);
 }
 
@@ -139,14 +142,39 @@ void ctrlStormwaterReuse::EvaluateE() {
 
 // --- Marks between two paintings ---
 
-void ctrlStormwaterReuse::ShowHighlight() {}
+void ctrlStormwaterReuse::ShowHighlight() {
+  if (highlightShown_ || !IsHotspotShown() || !isEDefined_) return;
+  highlightShown_ = DrawHighlight();
+}
 
 void ctrlStormwaterReuse::RemoveHighlight() {
+  if (highlightShown_) DrawHighlight();
   highlightShown_ = false;
 }
 
+bool ctrlStormwaterReuse::DrawHighlight() {
+  Surface* surface = TransientSurface();
+  return surface && highlightCurve_ && DrawHighlightCurve(*surface, *highlightCurve_, geometry_);
+}
+
 void ctrlStormwaterReuse::ToggleHotspot() {
-  Repaint();
+  if (Surface* surface = TransientSurface()) {
+    RemoveHighlight();
+    DrawHotspot(*surface, hotspot_, geometry_.Frame(), kHotspotPenWidth);
+  } else {
+    Repaint();
+  }
+}
+
+// The screen, if what is drawn on it between two paintings can be taken away again.
+Surface* ctrlStormwaterReuse::TransientSurface() const {
+  Surface* surface = host_ ? host_->DrawNow() : nullptr;
+  return surface && surface->Supports(SurfaceFeature::ExclusiveOr) ? surface : nullptr;
+}
+
+void ctrlStormwaterReuse::PaintHotspot(Surface& surface) {
+  highlightShown_ = false;
+  if (IsHotspotShown()) DrawHotspot(surface, hotspot_, geometry_.Frame(), kHotspotPenWidth);
 }
 
 // A painting of everything is on its way, and draws no highlight.
