@@ -6,7 +6,7 @@
 
 namespace orvik {
 
-ctrlButton::ctrlButton(Toolkit& toolkit) : Timer1_(toolkit.MakeTimer()) {
+ctrlButton::ctrlButton(std::unique_ptr<Timer> Timer1) : Timer1_(std::move(Timer1)) {
   font_.pixelHeight = 13;
   Timer1_->OnTick = [this] { Timer1_Timer(); };
 }

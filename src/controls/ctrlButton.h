@@ -32,7 +32,8 @@ class ctrlButton {
 
   static constexpr int kFlashInterval = 500;  // milliseconds
 
-  explicit ctrlButton(Toolkit& toolkit);
+  // Timer1 is the flash's.
+  explicit ctrlButton(std::unique_ptr<Timer> Timer1);
   ctrlButton(const ctrlButton&) = delete;
   ctrlButton& operator=(const ctrlButton&) = delete;
   ~ctrlButton() = default;
