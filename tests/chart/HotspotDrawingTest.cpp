@@ -192,6 +192,32 @@ TEST_F(HotspotDrawing, LosingTheFocusRemovesTheHighlight) {
   EXPECT_EQ(host_.Take(), shown);
 }
 
+// The painting that is on its way takes the highlight away; another curve drawn upon it would not.
+TEST_F(HotspotDrawing, PlacingFromTwoValuesLeavesTheHighlightToThePainting) {
+  PressAndRelease(480, 434);
+  chart_.KeyDown(kSpace);
+  host_.Take();
+  std::string V;
+  ASSERT_TRUE(chart_.SetHotspotUsing_ER("60", "0.12", V));
+  chart_.KeyUp(kSpace);
+  EXPECT_THAT(host_.Take(), ElementsAre("invalidate"));
+}
+
+TEST_F(HotspotDrawing, WithoutCurvesThereIsNoMarkToEraseOrHighlight) {
+  PressAndRelease(480, 434);
+  chart_.SetCurveData(1);  // no such file: the chart is painted without anything on it
+  ASSERT_FALSE(chart_.IsLoaded());
+  host_.Take();
+  chart_.KeyDown(kSpace);
+  chart_.KeyUp(kSpace);
+  chart_.HideHotSpot();
+  EXPECT_THAT(host_.Take(), IsEmpty());
+  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  RecordingSurface surface;
+  chart_.PaintHotspot(surface);
+  EXPECT_THAT(surface.Take(), IsEmpty());
+}
+
 TEST_F(HotspotDrawing, AHighlightBeyondThePixelsIsNotDrawn) {
   CurveFileText file = LogarithmicCurves();
   file.curves[1] = {"70", "0.001", "7", "0.2", "0", "0", "-1000"};  // R = 329,500 at VStart
