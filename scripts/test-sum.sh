@@ -12,6 +12,15 @@ count() { # passed failed name
 # The attribute $2 of the report $1's first element.
 attribute() { grep -o '<testsuites [^>]*' "$1" | grep -o " $2=\"[0-9]*\"" | tr -dc 0-9; }
 
+# Wine's own services start with the first program and would hold on to that program's output until they end.
+start_wine() {
+  export WINEPREFIX=$PWD/build/wine
+  scripts/wine-run wineboot >/dev/null 2>&1 </dev/null
+  wineserver -p >/dev/null 2>&1 # stays until stop_wine
+}
+
+stop_wine() { wineserver -k >/dev/null 2>&1; }
+
 run_preset() {
   local preset=$1 reports=$PWD/build/$1/reports
   rm -rf "$reports"

@@ -48,6 +48,7 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
       "usage;\n"
       "3 a file cannot be read or written.");
   app.fallthrough();  // the common options may stand behind the command
+  app.allow_windows_style_options(false);  // "/folder/file" is a path on every system
 
   Commands commands;
   AddCommand(app, commands, AddStationsCommand);

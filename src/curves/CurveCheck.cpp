@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "base/NumberText.h"
 #include "curves/ChartAxes.h"
@@ -28,12 +29,16 @@ class Checker {
   std::vector<std::string> Run() {
     CheckInterval("V", set_.VMax - set_.VMin, set_.VInterval);
     CheckInterval("R", set_.RMax - set_.RMin, set_.RInterval);
+    bool isLowerUsable = false;
     for (std::size_t i = 0; i < set_.Curves.size(); ++i) {
-      if (!CheckNumbers(i)) continue;
-      CheckFalling(i);
-      CheckLimits(i);
-      CheckRunoff(i);
-      if (i > 0) CheckNeighbours(i);
+      const bool isUsable = CheckNumbers(i);
+      if (isUsable) {
+        CheckFalling(i);
+        CheckLimits(i);
+        CheckRunoff(i);
+      }
+      if (isUsable && isLowerUsable) CheckNeighbours(i);
+      isLowerUsable = isUsable;
     }
     for (const CurveLabel& label : set_.Labels) CheckLabel(label);
     return std::move(sentences_);
@@ -107,15 +112,18 @@ class Checker {
     const double first = std::min(lower.VStart, upper.VStart);
     const double last = std::min(lower.VEnd, upper.VEnd);
     if (!(first > 0 && last > first)) return;
-    const double gap = kGapShare * (set_.RMax - set_.RMin);
+    double least = std::numeric_limits<double>::infinity();
+    double leastV = first;
     for (int k = 0; k < kPoints; ++k) {
       const double V = first + (last - first) * k / (kPoints - 1);
       const double distance = CurveR(V, upper) - CurveR(V, lower);
-      if (distance >= gap) continue;
-      return Say(Name(i) + (distance <= 0 ? " crosses" : " comes too close to") +
-                 " the curve before it" + At(V) + " (distance " + FixedText(distance, 4) +
-                 " in/day).");
+      if (distance >= least) continue;
+      least = distance;
+      leastV = V;
     }
+    if (least >= kGapShare * (set_.RMax - set_.RMin)) return;
+    Say(Name(i) + (least <= 0 ? " crosses" : " comes too close to") + " the curve before it" +
+        At(leastV) + " (distance " + FixedText(least, 4) + " in/day).");
   }
 
   void CheckLabel(const CurveLabel& label) {

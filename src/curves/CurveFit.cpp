@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
-#include "curves/LinearProgram.h"
+#include "curves/BoundedLeastSquares.h"
 
 namespace orvik {
 namespace {
 
-// The unknowns are A, B, C, D and the largest error.
-using Vector = LinearProgram::Vector;
+// The unknowns are the four coefficients of the scaled cubic.
+using Vector = BoundedLeastSquares::Vector;
 
 // A curve falls at least this fast, in R per unit of ln V, wherever it is evaluated.
 constexpr double kLeastFall = 2e-4;
@@ -20,71 +20,124 @@ constexpr double kFallShare = 0.5;
 
 constexpr int kGridPoints = 48;  // volumes at which falling and the gap are required
 
-Vector CurveRow(double V, double sign, double errorFactor) {
-  const double L = std::log(V);
-  return {sign, sign * L, sign * L * L, sign * L * L * L, errorFactor};
-}
+// The cubic is fitted in z = (L - centre) / halfWidth, which runs from -1 to 1: the five equations
+// of a solution are then far from contradicting each other.
+struct ScaledLogarithm {
+  double centre;
+  double halfWidth;
 
-void RequireBands(LinearProgram& program, const std::vector<RateBand>& bands) {
-  for (const RateBand& band : bands) {
-    program.Require(CurveRow(band.V, -1, band.upper - band.target), -band.target);
-    program.Require(CurveRow(band.V, 1, band.target - band.lower), band.target);
+  ScaledLogarithm(double fromV, double toV)
+      : centre((std::log(toV) + std::log(fromV)) / 2),
+        halfWidth((std::log(toV) - std::log(fromV)) / 2) {}
+
+  // sign x R(V).
+  Vector RateRow(double V, double sign) const {
+    const double z = (std::log(V) - centre) / halfWidth;
+    return {sign, sign * z, sign * z * z, sign * z * z * z};
   }
-  program.Require({0, 0, 0, 0, 1}, 0);
-}
 
-void RequireFall(LinearProgram& program, double L, double fall) {
-  program.Require({0, -1, -2 * L, -3 * L * L, 0}, fall);
-}
-
-// Between each two volumes, and at the last one, the curve falls with the simulated rates.
-void RequireFallOfRates(LinearProgram& program, const std::vector<RateBand>& bands) {
-  for (std::size_t i = 1; i < bands.size(); ++i) {
-    const double before = std::log(bands[i - 1].V);
-    const double after = std::log(bands[i].V);
-    const double fall = kFallShare * (bands[i - 1].target - bands[i].target) / (after - before);
-    RequireFall(program, (before + after) / 2, fall);
-    if (i + 1 == bands.size()) RequireFall(program, after, fall);
+  // The fall -dR/dL at L.
+  Vector FallRow(double L) const {
+    const double z = (L - centre) / halfWidth;
+    return {0, -1 / halfWidth, -2 * z / halfWidth, -3 * z * z / halfWidth};
   }
-}
 
-// Where the curve is evaluated: from its neighbour's VStart, at which points between the two are
-// located, or its own.
-double EvaluatedFrom(const FitLimits& limits) {
-  return limits.lower == nullptr ? limits.VStart : std::min(limits.VStart, limits.lower->VStart);
-}
-
-void RequireShape(LinearProgram& program, const FitLimits& limits) {
-  const double first = std::log(EvaluatedFrom(limits));
-  const double step = (std::log(limits.VEnd) - first) / (kGridPoints - 1);
-  for (int i = 0; i < kGridPoints; ++i) {
-    const double L = first + step * i;
-    RequireFall(program, L, kLeastFall);
-    if (limits.lower == nullptr) continue;
-    const double V = std::exp(L);
-    program.Require(CurveRow(V, 1, 0), CurveR(V, *limits.lower) + limits.Gap);
+  // The coefficients of the cubic in L.
+  EfficiencyCurve Unscale(const Vector& x) const {
+    const double b = x[1] / halfWidth;
+    const double c = x[2] / (halfWidth * halfWidth);
+    const double d = x[3] / (halfWidth * halfWidth * halfWidth);
+    EfficiencyCurve curve;
+    curve.A = x[0] - b * centre + c * centre * centre - d * centre * centre * centre;
+    curve.B = b - 2 * c * centre + 3 * d * centre * centre;
+    curve.C = c - 3 * d * centre;
+    curve.D = d;
+    return curve;
   }
-  program.Require(CurveRow(limits.VStart, -1, 0), -limits.MostR);
-  program.Require(CurveRow(limits.VEnd, 1, 0), limits.LeastR);
-}
+};
+
+// Puts the obligations of one curve into a linear program.
+class FitProgram {
+ public:
+  FitProgram(const std::vector<RateBand>& bands, const FitLimits& limits)
+      : bands_(bands), limits_(limits), scale_(EvaluatedFrom(limits), limits.VEnd) {
+    AddBands();
+    RequireFallOfRates();
+    RequireShape();
+  }
+
+  std::optional<EfficiencyCurve> Solve() const {
+    const auto x = program_.Solve();
+    if (!x) return std::nullopt;
+    EfficiencyCurve curve = scale_.Unscale(*x);
+    curve.VStart = limits_.VStart;
+    curve.VEnd = limits_.VEnd;
+    return curve;
+  }
+
+ private:
+  // Where the curve is evaluated: from its neighbour's VStart, at which points between the two are
+  // located, or its own.
+  static double EvaluatedFrom(const FitLimits& limits) {
+    return limits.lower == nullptr ? limits.VStart : std::min(limits.VStart, limits.lower->VStart);
+  }
+
+  // The share of the volumes that band i stands for, inches.
+  double WidthOf(std::size_t i) const {
+    const double before = bands_[i == 0 ? 0 : i - 1].V;
+    const double after = bands_[std::min(i + 1, bands_.size() - 1)].V;
+    return (after - before) / 2;
+  }
+
+  void AddBands() {
+    for (std::size_t i = 0; i < bands_.size(); ++i) {
+      const RateBand& band = bands_[i];
+      const double ratePerPoint = (band.upper - band.lower) / 2;
+      program_.AddTarget(scale_.RateRow(band.V, 1), band.target,
+                         WidthOf(i) / (ratePerPoint * ratePerPoint));
+      program_.Require(scale_.RateRow(band.V, -1),
+                       -band.target - limits_.MostError * (band.upper - band.target));
+      program_.Require(scale_.RateRow(band.V, 1),
+                       band.target - limits_.MostError * (band.target - band.lower));
+    }
+  }
+
+  // Between each two volumes, and at the last one, the curve falls with the simulated rates.
+  void RequireFallOfRates() {
+    for (std::size_t i = 1; i < bands_.size(); ++i) {
+      const double before = std::log(bands_[i - 1].V);
+      const double after = std::log(bands_[i].V);
+      const double fall = (bands_[i - 1].target - bands_[i].target) / (after - before);
+      program_.Require(scale_.FallRow((before + after) / 2), kFallShare * fall);
+      if (i + 1 == bands_.size()) program_.Require(scale_.FallRow(after), kFallShare * fall);
+    }
+  }
+
+  void RequireShape() {
+    const double first = std::log(EvaluatedFrom(limits_));
+    const double step = (std::log(limits_.VEnd) - first) / (kGridPoints - 1);
+    for (int i = 0; i < kGridPoints; ++i) {
+      const double L = first + step * i;
+      program_.Require(scale_.FallRow(L), kLeastFall);
+      if (limits_.lower == nullptr) continue;
+      const double V = std::exp(L);
+      program_.Require(scale_.RateRow(V, 1), CurveR(V, *limits_.lower) + limits_.Gap);
+    }
+    program_.Require(scale_.RateRow(limits_.VStart, -1), -limits_.MostR);
+    program_.Require(scale_.RateRow(limits_.VEnd, 1), limits_.LeastR);
+  }
+
+  const std::vector<RateBand>& bands_;
+  const FitLimits& limits_;
+  ScaledLogarithm scale_;
+  BoundedLeastSquares program_;
+};
 
 }  // namespace
 
-std::optional<FittedCurve> FitCurve(const std::vector<RateBand>& bands, const FitLimits& limits) {
-  LinearProgram program;
-  RequireBands(program, bands);
-  RequireFallOfRates(program, bands);
-  RequireShape(program, limits);
-  const auto x = program.Minimise({0, 0, 0, 0, 1});
-  if (!x) return std::nullopt;
-  FittedCurve fitted{{}, (*x)[4]};
-  fitted.curve.A = (*x)[0];
-  fitted.curve.B = (*x)[1];
-  fitted.curve.C = (*x)[2];
-  fitted.curve.D = (*x)[3];
-  fitted.curve.VStart = limits.VStart;
-  fitted.curve.VEnd = limits.VEnd;
-  return fitted;
+std::optional<EfficiencyCurve> FitCurve(const std::vector<RateBand>& bands,
+                                        const FitLimits& limits) {
+  return FitProgram(bands, limits).Solve();
 }
 
 double LargestSlope(const EfficiencyCurve& curve, double fromV, double toV) {

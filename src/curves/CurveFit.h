@@ -1,5 +1,5 @@
-// Fits one design curve R = A + B L + C L^2 + D L^3, L = ln V, to simulated rates, so that the
-// largest error in efficiency is as small as the curve's obligations allow.
+// Fits one design curve R = A + B L + C L^2 + D L^3, L = ln V, to simulated rates: least squares of
+// the errors in efficiency, under a bound on each of them and the curve's other obligations.
 #pragma once
 
 #include <optional>
@@ -17,9 +17,10 @@ struct RateBand {
   double upper;   // R that reaches E + 1
 };
 
-// What a curve must obey whatever its error.
+// What a curve must obey.
 struct FitLimits {
-  double VStart = 0;  // inches on the EIA
+  double MostError = 1;  // points of E at each band
+  double VStart = 0;     // inches on the EIA
   double VEnd = 0;
   double MostR = 0;                        // at VStart, inches per day on the EIA
   double LeastR = 0;                       // at VEnd
@@ -27,14 +28,11 @@ struct FitLimits {
   double Gap = 0;  // the least distance in R above it, from its own VStart on
 };
 
-struct FittedCurve {
-  EfficiencyCurve curve;  // E is not set, nothing is sampled
-  double error;           // largest estimated error in points of E, at the bands' volumes
-};
-
 // The curve falls everywhere from VStart (its neighbour's, where that is smaller) to VEnd. `bands`
-// are those of volumes from VStart to VEnd. Nothing where no curve obeys the limits.
-std::optional<FittedCurve> FitCurve(const std::vector<RateBand>& bands, const FitLimits& limits);
+// are those of volumes from VStart to VEnd, by rising volume. The result has no E and is not
+// sampled. Nothing where no curve obeys the limits.
+std::optional<EfficiencyCurve> FitCurve(const std::vector<RateBand>& bands,
+                                        const FitLimits& limits);
 
 // The largest slope dR/dL, L = ln V, of the curve between two volumes; negative for a falling
 // curve.

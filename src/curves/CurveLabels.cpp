@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <vector>
 
 #include "base/NumberText.h"
 
@@ -15,6 +17,9 @@ constexpr double kLineHeightR = 1.15 * kTextHeightR;
 constexpr double kCharacterShape = 0.58;  // width of a character over the height of the text
 constexpr double kFrameShape = 4.0 / 3.0;
 constexpr double kClearanceR = 0.0012;  // between a label and its own curve
+constexpr double kEnoughRoomR = 0.003;  // above a label
+constexpr double kNearlyR = 0.0004;     // half a pixel of a common chart
+constexpr double kColumnShare = 0.5;    // of the V axis
 constexpr double kDecimals = 1e4;       // positions are written with four decimals
 
 double TextWidthV(const CurveSet& set, std::size_t characters) {
@@ -37,23 +42,37 @@ double RoomAbove(const CurveSet& set, std::size_t i, double V, double width) {
   return std::min(frame, CurveR(right, next) - top);
 }
 
-CurveLabel PlaceLabel(const CurveSet& set, std::size_t i) {
+// V of curve i's label: of the places with enough room (or, where none has, with nearly as much as
+// the best) the one nearest to the column in which the labels stand.
+double LabelV(const CurveSet& set, std::size_t i, double width) {
   const EfficiencyCurve& curve = set.Curves[i];
-  CurveLabel label{"E=" + ConvertToString(curve.E) + "%", curve.VStart, 0};
-  const double width = TextWidthV(set, label.Text.size());
   const double last = std::max(curve.VStart, std::min(curve.VEnd, set.VMax) - width);
   constexpr int kSteps = 200;
-  double bestRoom = -set.RMax;
+  std::vector<double> places;
+  std::vector<double> rooms;
   for (int k = 0; k <= kSteps; ++k) {
-    const double V = curve.VStart + (last - curve.VStart) * k / kSteps;
-    const double room = RoomAbove(set, i, V, width);
-    if (room <= bestRoom) continue;
-    bestRoom = room;
-    label.V = V;
+    places.push_back(curve.VStart + (last - curve.VStart) * k / kSteps);
+    rooms.push_back(RoomAbove(set, i, places.back(), width));
   }
-  label.R = std::min(set.RMax, CurveR(label.V, curve) + kClearanceR + kLineHeightR);
-  label.V = RoundPosition(label.V);
-  label.R = RoundPosition(label.R);
+  const double enough = std::min(*std::ranges::max_element(rooms) - kNearlyR, kEnoughRoomR);
+  const double column = set.VMin + kColumnShare * (set.VMax - set.VMin);
+  double best = places.front();
+  double leastDistance = std::numeric_limits<double>::infinity();
+  for (std::size_t k = 0; k < places.size(); ++k) {
+    const double distance = std::fabs(places[k] - column);
+    if (rooms[k] < enough || distance >= leastDistance) continue;
+    leastDistance = distance;
+    best = places[k];
+  }
+  return best;
+}
+
+CurveLabel PlaceLabel(const CurveSet& set, std::size_t i) {
+  const EfficiencyCurve& curve = set.Curves[i];
+  CurveLabel label{"E=" + ConvertToString(curve.E) + "%", 0, 0};
+  label.V = RoundPosition(LabelV(set, i, TextWidthV(set, label.Text.size())));
+  const double R = CurveR(std::max(label.V, curve.VStart), curve) + kClearanceR + kLineHeightR;
+  label.R = RoundPosition(std::min(set.RMax, R));
   return label;
 }
 

@@ -10,6 +10,7 @@
 #include "curves/CurveFit.h"
 #include "curves/CurveLabels.h"
 #include "curves/EfficiencyTable.h"
+#include "curves/FixedText.h"
 #include "curves/Refusal.h"
 
 namespace orvik {
@@ -21,12 +22,13 @@ constexpr int kStepE = 5;
 
 constexpr double kStepVStart = 0.05;  // inches
 constexpr double kShortestRange = 1;  // inches that a curve covers at least
-constexpr std::size_t kVolumes = 40;  // of the table
+constexpr std::size_t kVolumes = 48;  // of the table
 constexpr std::size_t kRates = 60;
+constexpr std::size_t kFittedVolumes = 32;
 
-// The fit sees the error at some volumes only and in a straight line between three rates: it may
-// promise a little more than a curve can have, and a curve is accepted below the limit itself.
-constexpr double kPromisingError = 1.04;
+// The fit sees the error at some volumes only and in a straight line between three rates, so the
+// bound that it gets is tried a little above and below what is accepted.
+constexpr double kBounds[] = {1.04, 0.98, 0.92};
 constexpr double kAcceptedError = 0.985 * kMostError;
 constexpr double kAcceptedMeanError = 0.985 * kMostMeanError;
 
@@ -58,17 +60,11 @@ class Maker {
   void Make(int E, MadeCurves& made) const {
     const EfficiencyCurve* lower = made.Set.Curves.empty() ? nullptr : &made.Set.Curves.back();
     const std::vector<RateBand> bands = FindBands(E);
-    const int last = StepOf(axes_.VMax - kShortestRange);
+    const int last = LastStep();
     for (int step = FirstPromising(E, bands, lower); step <= last; ++step) {
-      const auto fitted = Fit(E, bands, lower, step);
-      if (!fitted) continue;
-      EfficiencyCurve curve = AsWritten(fitted->curve, E);
-      const CurveError error = JudgeCurve(days_, curve);
-      if (!IsAccepted(curve, error)) continue;
-      SampleCurve(curve);
-      made.Set.Curves.push_back(std::move(curve));
-      made.Errors.push_back(error);
-      return;
+      for (const double bound : kBounds) {
+        if (MakeFrom(E, bands, lower, step, bound, made)) return;
+      }
     }
     Refuse(E);
   }
@@ -77,6 +73,22 @@ class Maker {
   static int StepOf(double V) { return static_cast<int>(std::floor(V / kStepVStart + 1e-9)); }
   // The volume of a step, as its decimal text reads back.
   static double VolumeOf(int step) { return std::round(step * kStepVStart * 100) / 100; }
+
+  int LastStep() const { return StepOf(axes_.VMax - kShortestRange); }
+
+  // Makes the curve that starts at this step and is fitted under this bound, if it is good.
+  bool MakeFrom(int E, const std::vector<RateBand>& bands, const EfficiencyCurve* lower, int step,
+                double bound, MadeCurves& made) const {
+    const auto fitted = Fit(E, bands, lower, step, bound);
+    if (!fitted) return false;
+    EfficiencyCurve curve = AsWritten(*fitted, E);
+    const CurveError error = JudgeCurve(days_, curve);
+    if (!IsAccepted(curve, error)) return false;
+    SampleCurve(curve);
+    made.Set.Curves.push_back(std::move(curve));
+    made.Errors.push_back(error);
+    return true;
+  }
 
   bool IsAccepted(const EfficiencyCurve& curve, const CurveError& error) const {
     return error.Max <= kAcceptedError && error.Mean <= kAcceptedMeanError &&
@@ -96,30 +108,38 @@ class Maker {
     return bands;
   }
 
-  // The bands from V on, with one at V itself: between two volumes the rates follow a power law
-  // closely.
-  static std::vector<RateBand> BandsFrom(const std::vector<RateBand>& bands, double V) {
-    const auto next = std::ranges::upper_bound(bands, V, {}, &RateBand::V);
+  // The band at V; between two volumes of the table the rates follow a power law closely. Nothing
+  // where the table does not reach E.
+  static std::optional<RateBand> BandAt(const std::vector<RateBand>& bands, double V) {
+    const auto next = std::ranges::lower_bound(bands, V, {}, &RateBand::V);
+    if (next == bands.end() || (next == bands.begin() && next->V > V)) return std::nullopt;
+    if (next->V == V) return *next;
+    const RateBand& before = *(next - 1);
+    const double t = std::log(V / before.V) / std::log(next->V / before.V);
+    const auto between = [&](double a, double b) { return a * std::pow(b / a, t); };
+    return RateBand{V, between(before.lower, next->lower), between(before.target, next->target),
+                    between(before.upper, next->upper)};
+  }
+
+  // Bands from V to the end of the axis, as many for a short range as for a long one.
+  std::vector<RateBand> BandsFrom(const std::vector<RateBand>& bands, double V) const {
     std::vector<RateBand> result;
-    if (next == bands.begin()) return result;
-    if (next != bands.end()) {
-      const RateBand& before = *(next - 1);
-      const double t = std::log(V / before.V) / std::log(next->V / before.V);
-      const auto between = [&](double a, double b) { return a * std::pow(b / a, t); };
-      result.push_back({V, between(before.lower, next->lower), between(before.target, next->target),
-                        between(before.upper, next->upper)});
+    for (const double volume : GeometricSteps(V, axes_.VMax, kFittedVolumes)) {
+      const auto band = BandAt(bands, volume);
+      if (!band) return {};
+      result.push_back(*band);
     }
-    result.insert(result.end(), next, bands.end());
     return result;
   }
 
-  std::optional<FittedCurve> Fit(int E, const std::vector<RateBand>& bands,
-                                 const EfficiencyCurve* lower, int step) const {
+  std::optional<EfficiencyCurve> Fit(int E, const std::vector<RateBand>& bands,
+                                     const EfficiencyCurve* lower, int step, double bound) const {
     const double V = VolumeOf(step);
     const std::vector<RateBand> used = BandsFrom(bands, V);
     if (used.empty()) return std::nullopt;
     const double asymptote = days_.MeanRunoff() / 100;  // in/day for each percent of E
-    return FitCurve(used, {.VStart = V,
+    return FitCurve(used, {.MostError = bound,
+                           .VStart = V,
                            .VEnd = axes_.VMax,
                            .MostR = axes_.RMax - 1e-5,  // what rounding can add
                            .LeastR = asymptote * E * 1.001,
@@ -127,16 +147,15 @@ class Maker {
                            .Gap = 0.5 * kStepE * asymptote});
   }
 
-  // The first start volume at which the fit promises the limit. A curve that starts later has less
-  // to obey, so its error is never larger.
+  // The first start volume at which there is a curve within the widest bound. One that starts later
+  // has less to obey, so there is one for all later starts.
   int FirstPromising(int E, const std::vector<RateBand>& bands,
                      const EfficiencyCurve* lower) const {
-    int low = lower == nullptr ? 1 : StepOf(lower->VStart + 1e-6);
-    int high = StepOf(axes_.VMax - kShortestRange);
+    int low = lower == nullptr ? 1 : StepOf(lower->VStart);
+    int high = LastStep();
     while (low < high) {
       const int middle = (low + high) / 2;
-      const auto fitted = Fit(E, bands, lower, middle);
-      if (fitted && fitted->error <= kPromisingError) {
+      if (Fit(E, bands, lower, middle, kBounds[0])) {
         high = middle;
       } else {
         low = middle + 1;
@@ -146,17 +165,17 @@ class Maker {
   }
 
   [[noreturn]] void Refuse(int E) const {
-    const double needed = days_.MeanRunoff() * E / 100;
-    std::string text = "No curve for E = " + std::to_string(E) +
-                       "% fits within V = " + ConvertToString(axes_.VMax) +
-                       " in and R = " + ConvertToString(axes_.RMax) + " in/day";
-    if (needed > 0.8 * axes_.RMax) {
-      text += ": it needs more than R = " + ConvertToString(std::round(needed * 1000) / 1000) +
-              " in/day at any volume. Choose a larger --r-max.";
-    } else {
-      text += " with the accuracy that is asked. Choose a larger --v-max.";
+    const std::string limits = "V = " + ConvertToString(axes_.VMax) +
+                               " in and R = " + ConvertToString(axes_.RMax) + " in/day";
+    const std::string text = "No curve for E = " + std::to_string(E) + "% fits within " + limits;
+    const auto needed = table_.RateAt(table_.V().size() - 1, E);
+    if (needed && *needed < 0.9 * axes_.RMax) {
+      throw Refusal(text + " with the accuracy that is asked. Choose a larger --r-max or --v-max.");
     }
-    throw Refusal(text);
+    const std::string rate =
+        needed ? FixedText(*needed, 2) : "more than " + FixedText(table_.MostR(), 2);
+    throw Refusal(text + ": at the largest volume it needs R = " + rate +
+                  " in/day. Choose a larger --r-max.");
   }
 
   const PondDays& days_;

@@ -182,6 +182,16 @@ TEST_F(FileOutput, AFileThatCannotBeMadeIsSwallowed) {
   EXPECT_EQ(ReadBytes(good), "kept\r\n");
 }
 
+TEST_F(FileOutput, ANameWithANulInsideOpensNoOtherFile) {
+  const std::string path = folder_.Write("a", "kept");
+  const std::string cut = path + std::string("\0b", 2);
+  EXPECT_TRUE(stream_.OpenFile(cut, AsciiFileOutput));
+  EXPECT_TRUE(stream_.CloseFile());
+  EXPECT_EQ(ReadBytes(path), "kept");
+  EXPECT_TRUE(stream_.OpenFile(cut, AsciiFileInput));
+  EXPECT_TRUE(stream_.EndOfFile());
+}
+
 TEST_F(FileOutput, IsClosedWhenTheObjectGoes) {
   const std::string path = folder_ / "out.txt";
   {

@@ -1,0 +1,51 @@
+#include <gtest/gtest.h>
+
+#include "curves/CurveLabels.h"
+#include "curves/CurveMaker.h"
+#include "curves/SampleRecords.h"
+
+namespace orvik {
+namespace {
+
+TEST(CurveLabels, StandOnceForEachCurveInsideTheChart) {
+  const CurveSet set = MakeCurves(BuildPondDays(test::IrregularRain(), {}), {}, "x").Set;
+  ASSERT_EQ(set.Labels.size(), set.Curves.size());
+  EXPECT_EQ(set.Labels[6].Text, "E=80%");
+  for (const CurveLabel& label : set.Labels) {
+    EXPECT_GE(label.V, set.VMin) << label.Text;
+    EXPECT_LE(label.V + 0.2, set.VMax) << label.Text;
+    EXPECT_LE(label.R, set.RMax) << label.Text;
+    EXPECT_GE(label.R - 0.008, set.RMin) << label.Text;
+  }
+}
+
+TEST(CurveLabels, StandAboveTheirCurveAndBelowTheNext) {
+  const CurveSet set = MakeCurves(BuildPondDays(test::IrregularRain(), {}), {}, "x").Set;
+  for (std::size_t i = 0; i < set.Labels.size(); ++i) {
+    const CurveLabel& label = set.Labels[i];
+    EXPECT_GT(label.R - 0.008, CurveR(label.V, set.Curves[i])) << label.Text;
+    if (i + 1 < set.Labels.size() && label.V >= set.Curves[i + 1].VStart) {
+      EXPECT_LT(label.R, CurveR(label.V, set.Curves[i + 1])) << label.Text;
+    }
+  }
+}
+
+TEST(CurveLabels, ReplaceThoseThatStoodThere) {
+  CurveSet set;
+  set.VMax = 7;
+  set.RMax = 0.4;
+  set.Labels = {{"old", 1, 1}, {"old", 2, 2}};
+  EfficiencyCurve curve;
+  curve.E = 62.5F;
+  curve.A = 0.2;
+  curve.B = -0.05;
+  curve.VStart = 1;
+  curve.VEnd = 7;
+  set.Curves = {curve};
+  PlaceLabels(set);
+  ASSERT_EQ(set.Labels.size(), 1U);
+  EXPECT_EQ(set.Labels[0].Text, "E=62.5%");
+}
+
+}  // namespace
+}  // namespace orvik

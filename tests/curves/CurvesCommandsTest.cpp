@@ -1,0 +1,217 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "base/Paths.h"
+#include "support/KavRun.h"
+#include "support/TempFolder.h"
+
+namespace orvik {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const std::string kSample = std::string(ORVIK_DATA_DIR) + "samples/synthetic-rain.csv";
+const std::string kTampa = std::string(ORVIK_DATA_DIR) + "KAV Data/Tampa.crv";
+
+using test::KavRun;
+
+KavRun RunCommand(const std::vector<std::string>& arguments) {
+  return test::RunKavWith(arguments, ORVIK_DATA_DIR);
+}
+
+std::vector<std::string> MakeArguments(const std::string& rain, const std::string& file) {
+  return {"curves", "make", "--rain", rain, "--unit", "in", "--name", "Sampleville", "-o", file};
+}
+
+// Ten years of the same depth every fourth day.
+std::string RainEveryFourthDay(const std::string& depth) {
+  std::string text = "date,precipitation_in\n";
+  int count = 0;
+  for (int year = 2001; year <= 2010; ++year) {
+    for (int month = 1; month <= 12; ++month) {
+      for (int day = 1; day <= (month == 2 ? 28 : 30); ++day) {
+        text += std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year) +
+                "," + (count++ % 4 == 0 ? depth : "0") + "\n";
+      }
+      const bool has31 = month == 1 || month == 3 || month == 5 || month == 7 || month == 8 ||
+                         month == 10 || month == 12;
+      if (has31) text += std::to_string(month) + "/31/" + std::to_string(year) + ",0\n";
+    }
+  }
+  return text;
+}
+
+TEST(CurvesMake, WritesAFileThatSolvesAndPrintsItsErrors) {
+  const test::TempFolder folder;
+  const KavRun made = RunCommand(MakeArguments(kSample, folder / "made.crv"));
+  EXPECT_EQ(made.exitCode, 0) << made.err;
+  EXPECT_THAT(made.out, HasSubstr("Sampleville - computed by ORVIK from daily rainfall "
+                                  "synthetic-rain.csv, 2001-2010, 10 usable years"));
+  EXPECT_THAT(made.out, HasSubstr("largest error   mean error"));
+  EXPECT_THAT(made.out, HasSubstr("\n95 "));
+  EXPECT_THAT(made.err, HasSubstr("The record runs from 2001-01-01 to 2010-12-31"));
+
+  folder.Write("KAV Data/Tampa.crv", test::ReadBytes(folder / "made.crv"));
+  const KavRun solved = RunCommand(
+      {"--data", folder.Path(), "solve", "--station", "Tampa", "--rate", "0.2", "--volume", "3"});
+  EXPECT_EQ(solved.exitCode, 0) << solved.err;
+  EXPECT_THAT(solved.out, HasSubstr("Sampleville"));
+}
+
+TEST(CurvesMake, PrintsOneJsonObject) {
+  const test::TempFolder folder;
+  auto arguments = MakeArguments(kSample, folder / "a.crv");
+  arguments.insert(arguments.end(), {"--source", "gauge 7", "--json"});
+  const KavRun made = RunCommand(arguments);
+  ASSERT_EQ(made.exitCode, 0) << made.err;
+  const auto object = nlohmann::json::parse(made.out);
+  EXPECT_EQ(object["usableYears"], 10);
+  EXPECT_EQ(object["curves"].size(), 10U);
+  EXPECT_EQ(object["curves"][9]["E"], 95);
+  EXPECT_LE(object["curves"][9]["maxError"], 1.0);
+  EXPECT_THAT(object["title"].get<std::string>(), HasSubstr("from gauge 7, 2001"));
+}
+
+TEST(CurvesMake, WantsTheUnitNamed) {
+  const test::TempFolder folder;
+  const KavRun none =
+      RunCommand({"curves", "make", "--rain", kSample, "--name", "x", "-o", folder / "a"});
+  EXPECT_EQ(none.exitCode, 2);
+  EXPECT_THAT(none.err, HasSubstr("--unit"));
+  auto arguments = MakeArguments(kSample, folder / "a.crv");
+  arguments[5] = "inches";
+  const KavRun wrong = RunCommand(arguments);
+  EXPECT_EQ(wrong.exitCode, 2);
+  EXPECT_THAT(wrong.err, HasSubstr("the units are in, hundredths-in, mm, tenths-mm"));
+  EXPECT_FALSE(FileExists(folder / "a.crv"));
+}
+
+TEST(CurvesMake, RefusesAUnitThatGivesAnImpossibleClimate) {
+  const test::TempFolder folder;
+  auto arguments = MakeArguments(kSample, folder / "a.crv");
+  arguments[5] = "tenths-mm";
+  const KavRun result = RunCommand(arguments);
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.err, HasSubstr("--unit in (58.7 inches a year)"));
+  EXPECT_THAT(result.out, IsEmpty());
+  EXPECT_FALSE(FileExists(folder / "a.crv"));
+}
+
+TEST(CurvesMake, SaysWhyAFileCannotBeReadOrWritten) {
+  const test::TempFolder folder;
+  const KavRun missing = RunCommand(MakeArguments(folder / "none.csv", folder / "a.crv"));
+  EXPECT_EQ(missing.exitCode, 3);
+  EXPECT_THAT(missing.err, HasSubstr("none.csv cannot be read"));
+  const KavRun broken = RunCommand(
+      MakeArguments(folder.Write("b.csv", "date,prcp\nyesterday,1\n"), folder / "a.crv"));
+  EXPECT_EQ(broken.exitCode, 3);
+  EXPECT_THAT(broken.err, HasSubstr("Line 2: \"yesterday\" is not a date."));
+  const KavRun unwritable = RunCommand(MakeArguments(kSample, folder / "no/such/a.crv"));
+  EXPECT_EQ(unwritable.exitCode, 3);
+  EXPECT_THAT(unwritable.err, HasSubstr("cannot be written"));
+  EXPECT_THAT(unwritable.out, IsEmpty());
+}
+
+TEST(CurvesMake, RefusesOptionsThatMakeNoSense) {
+  const test::TempFolder folder;
+  struct Case {
+    std::vector<std::string> options;
+    const char* message;
+  };
+  const Case cases[] = {
+      {{"--hold-off", "-1"}, "is not a number of days"},
+      {{"--hold-off", "1.5"}, "is not a number of days"},
+      {{"--abstraction", "-.1"}, "is below zero"},
+      {{"--r-max", "0"}, "is not above zero"},
+      {{"--v-max", "wide"}, "is not a number"},
+      {{"--v-max", "1"}, "--v-max must be 2 to 100 inches"},
+      {{"--r-max", "20"}, "--r-max must be 0.05 to 10"},
+      {{"--v-interval", "3"}, "--v-interval must divide the axis into whole steps"},
+      {{"--r-max", "0.777"}, "--r-interval must divide the axis into whole steps"},
+      {{"--name", "two\nlines"}, "one line of text"},
+  };
+  for (const auto& [options, message] : cases) {
+    auto arguments = MakeArguments(kSample, folder / "a.crv");
+    if (options[0] == "--name") arguments.erase(arguments.begin() + 6, arguments.begin() + 8);
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    const KavRun result = RunCommand(arguments);
+    EXPECT_EQ(result.exitCode, 2) << options[0];
+    EXPECT_THAT(result.err, HasSubstr(message)) << options[0];
+  }
+}
+
+TEST(CurvesMake, ARainTooWetForTheAxesIsRefused) {
+  const test::TempFolder folder;
+  const KavRun result =
+      RunCommand(MakeArguments(folder.Write("r.csv", RainEveryFourthDay("2")), folder / "a.crv"));
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.err, HasSubstr("No curve for E = "));
+  EXPECT_THAT(result.err, HasSubstr("Choose a larger --r-max."));
+  EXPECT_FALSE(FileExists(folder / "a.crv"));
+}
+
+TEST(CurvesMake, HelpStatesTheDefinition) {
+  const KavRun help = RunCommand({"curves", "make", "--help"});
+  EXPECT_EQ(help.exitCode, 0);
+  EXPECT_THAT(help.out, HasSubstr("used / runoff over the record"));
+  EXPECT_THAT(help.out, HasSubstr("Example:"));
+}
+
+TEST(CurvesMakeAll, WritesNothingUnlessAllStationsAreThere) {
+  const test::TempFolder folder;
+  folder.Write("rain/Apalachicola.csv", test::ReadBytes(kSample));
+  const KavRun result =
+      RunCommand({"curves", "make-all", "--rain-dir", folder / "rain", "-o", folder / "out"});
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_THAT(result.err, HasSubstr("Belle Glade.csv cannot be read"));
+  EXPECT_FALSE(FolderExists(folder / "out"));
+}
+
+TEST(CurvesCheck, PassesAShippedFile) {
+  const KavRun result = RunCommand({"curves", "check", kTampa});
+  EXPECT_EQ(result.exitCode, 0) << result.err;
+  EXPECT_THAT(result.out, HasSubstr("All checks are passed."));
+  EXPECT_THAT(result.err, IsEmpty());
+}
+
+TEST(CurvesCheck, WithRainfallShowsTheErrorsAndWhatTheRunoffForbids) {
+  // A far wetter place than Tampa: its curves ask for less than its efficiencies need there.
+  const test::TempFolder folder;
+  const std::string wet = folder.Write("wet.csv", RainEveryFourthDay("2"));
+  const KavRun result = RunCommand({"curves", "check", kTampa, "--rain", wet, "--unit", "in"});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.out, HasSubstr("largest error"));
+  EXPECT_THAT(result.err, HasSubstr("Curve 1 (E = 50%) asks for"));
+}
+
+TEST(CurvesCheck, NamesTheFaultsOfAFile) {
+  std::string text = test::ReadBytes(kTampa);
+  const auto E = text.find("\r\n55\r\n");
+  ASSERT_NE(E, std::string::npos);
+  text.replace(E, 6, "\r\n45\r\n");
+  const test::TempFolder folder;
+  const KavRun result = RunCommand({"curves", "check", folder.Write("a.crv", text), "--json"});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.err, HasSubstr("Curve 2 (E = 45%) does not have a higher efficiency"));
+  EXPECT_EQ(nlohmann::json::parse(result.out)["faults"].size(), 1U);
+}
+
+TEST(CurvesCheck, AFileThatCannotBeReadIsFileTrouble) {
+  const test::TempFolder folder;
+  EXPECT_EQ(RunCommand({"curves", "check", folder / "none.crv"}).exitCode, 3);
+  const std::string half = test::ReadBytes(kTampa).substr(0, 300);
+  const KavRun result = RunCommand({"curves", "check", folder.Write("half.crv", half)});
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_THAT(result.err, HasSubstr("is damaged"));
+}
+
+TEST(Curves, WantASubcommand) {
+  EXPECT_EQ(RunCommand({"curves"}).exitCode, 2);
+  EXPECT_EQ(RunCommand({"curves", "draw"}).exitCode, 2);
+}
+
+}  // namespace
+}  // namespace orvik

@@ -1,0 +1,147 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "curves/FileError.h"
+#include "curves/RainDate.h"
+#include "curves/RainRecord.h"
+#include "support/TempFolder.h"
+
+namespace orvik {
+namespace {
+
+using testing::HasSubstr;
+
+std::string ErrorOf(std::string_view text, const RainColumns& columns = {}) {
+  try {
+    ParseRainRecord(text, RainUnit::Inches, columns);
+  } catch (const FileError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+TEST(RainRecord, ReadsDatesAndDepths) {
+  const RainRecord record =
+      ParseRainRecord("date,precipitation_in\n2001-01-01,0.5\n2001-01-02,0\n", RainUnit::Inches);
+  ASSERT_EQ(record.Days.size(), 2U);
+  EXPECT_EQ(IsoDate(record.Days[0].Date), "2001-01-01");
+  EXPECT_EQ(record.Days[0].DepthIn, 0.5);
+  EXPECT_EQ(IsoDate(record.Last), "2001-01-02");
+}
+
+TEST(RainRecord, ConvertsEachUnitToInches) {
+  struct Case {
+    const char* unit;
+    double inches;
+  };
+  for (const auto& [unit, inches] :
+       {Case{"in", 254}, Case{"hundredths-in", 2.54}, Case{"mm", 10}, Case{"tenths-mm", 1}}) {
+    const auto found = FindRainUnit(unit);
+    ASSERT_TRUE(found) << unit;
+    const RainRecord record = ParseRainRecord("date,rain\n2001-01-01,254\n", *found);
+    EXPECT_DOUBLE_EQ(record.Days[0].DepthIn, inches) << unit;
+  }
+  EXPECT_FALSE(FindRainUnit("cm"));
+}
+
+TEST(RainRecord, FindsColumnsByNameInAnyCaseAndOrder) {
+  for (const char* text :
+       {"STATION,DATE,NAME,PRCP\nX,5/1/1960,\"A, B\",7\n", "PRCP,DATE\r\n7,5/1/1960\r\n",
+        "\xEF\xBB\xBF"
+        "date,rainfall\n1960-05-01,7\n"}) {
+    test::TempFolder folder;
+    const RainRecord record = ReadRainRecord(folder.Write("r.csv", text), RainUnit::Inches);
+    ASSERT_EQ(record.Days.size(), 1U) << text;
+    EXPECT_EQ(record.Days[0].DepthIn, 7) << text;
+  }
+}
+
+TEST(RainRecord, TakesTheColumnsThatTheUserNames) {
+  const RainRecord record = ParseRainRecord("d,a,date,prcp\n2001-01-01,1,2002-02-02,2\n",
+                                            RainUnit::Inches, {.Date = "D", .Depth = "a"});
+  EXPECT_EQ(IsoDate(record.First), "2001-01-01");
+  EXPECT_EQ(record.Days[0].DepthIn, 1);
+}
+
+TEST(RainRecord, ColumnsThatAreNotFoundAreNamed) {
+  EXPECT_THAT(ErrorOf("when,prcp\n"), HasSubstr("hold the date. Its columns are: when, prcp."));
+  EXPECT_THAT(ErrorOf("date,snow\n"), HasSubstr("hold the rainfall depth"));
+  EXPECT_THAT(ErrorOf("date,prcp\n", {.Date = "", .Depth = "rain"}),
+              HasSubstr("no column \"rain\""));
+  EXPECT_THAT(ErrorOf(""), HasSubstr("no line that names its columns"));
+  EXPECT_THAT(ErrorOf("date,prcp\n"), HasSubstr("no rows"));
+}
+
+TEST(RainRecord, RowsThatCannotBeReadAreRefusedWithTheirLine) {
+  struct Case {
+    const char* row;
+    const char* reason;
+  };
+  const Case cases[] = {
+      {"2001-02-30,1", "Line 3: \"2001-02-30\" is not a date."},
+      {"2001-01-02,wet", "Line 3: \"wet\" is not a rainfall depth."},
+      {"2001-01-02,1.2.3", "Line 3: \"1.2.3\" is not a rainfall depth."},
+      {"2001-01-02,0.25A", "is not a rainfall depth"},
+      {"2001-01-02", "Line 3: there are fewer fields than columns."},
+      {"\"2001-01-02,1", "Line 3: a quotation mark is not closed."},
+  };
+  for (const auto& [row, reason] : cases) {
+    EXPECT_THAT(ErrorOf(std::string("date,prcp\n2001-01-01,0\n") + row + "\n"), HasSubstr(reason));
+  }
+}
+
+TEST(RainRecord, OnlyTheFirstBadRowsAreListed) {
+  std::string text = "date,prcp\n";
+  for (int i = 0; i < 8; ++i) text += "x,0\n";
+  EXPECT_THAT(ErrorOf(text), HasSubstr("Line 6: \"x\" is not a date.\n... and 3 more."));
+}
+
+TEST(RainRecord, StationsAreNotMixed) {
+  EXPECT_THAT(ErrorOf("STATION,DATE,PRCP\nA,2001-01-01,1\nB,2001-01-01,2\n"),
+              HasSubstr("Line 3: the station is B, above it was A; keep the rows of one."));
+}
+
+TEST(RainRecord, CountsWhatItDoesNotUse) {
+  const RainRecord record = ParseRainRecord(
+      "date,prcp\n"
+      "2001-01-05,0.5\n"  // out of order: sorted
+      "2001-01-01,0.1\n"
+      "2001-01-02,\n"
+      "2001-01-03,-9999\n"
+      "2001-01-05,0.5\n"
+      "2001-01-05,0.7\n"
+      "2001-01-06,T\n"
+      "2001-01-07,M\n"
+      "\n"
+      "2001-01-10,1\n",
+      RainUnit::Inches);
+  EXPECT_EQ(record.Findings.Rows, 9);
+  EXPECT_EQ(record.Findings.Missing, 2);
+  EXPECT_EQ(record.Findings.Negative, 1);
+  EXPECT_EQ(record.Findings.FirstNegativeLine, 5);
+  EXPECT_EQ(record.Findings.Duplicate, 2);
+  EXPECT_EQ(record.Findings.Conflicting, 1);
+  EXPECT_EQ(record.Findings.FirstConflictingLine, 7);
+  EXPECT_EQ(record.Findings.Trace, 1);
+  EXPECT_EQ(record.Findings.Gaps, 2);
+  EXPECT_EQ(record.Findings.GapDays, 3);  // January 4, 8 and 9
+  ASSERT_EQ(record.Days.size(), 4U);
+  EXPECT_EQ(record.Days[1].DepthIn, 0.5);  // the first of the two values of January 5
+  const std::string text = DescribeFindings(record);
+  EXPECT_THAT(text, HasSubstr("from 2001-01-01 to 2001-01-10: 4 days with a value, 2 rows without, "
+                              "2 gaps (3 days without a row)."));
+  EXPECT_THAT(text, HasSubstr("1 row, the first in line 5."));
+  EXPECT_THAT(text, HasSubstr("the first in line 7."));
+}
+
+TEST(RainRecord, AFileThatIsNotThereIsNamed) {
+  try {
+    ReadRainRecord("nowhere/rain.csv", RainUnit::Inches);
+    FAIL();
+  } catch (const FileError& error) {
+    EXPECT_THAT(error.what(), HasSubstr("nowhere/rain.csv cannot be read"));
+  }
+}
+
+}  // namespace
+}  // namespace orvik

@@ -1,0 +1,107 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "curves/RainYears.h"
+#include "curves/Refusal.h"
+
+namespace orvik {
+namespace {
+
+using std::chrono::days;
+using std::chrono::January;
+using std::chrono::sys_days;
+using std::chrono::year;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+// A record with `depth` on every day from the first day of `from` to the last of `to`.
+RainRecord FullYears(int from, int to, double depth) {
+  RainRecord record;
+  record.First = sys_days(year(from) / January / 1);
+  record.Last = sys_days(year(to + 1) / January / 1) - days(1);
+  for (sys_days day = record.First; day <= record.Last; day += days(1)) {
+    record.Days.push_back({day, depth});
+  }
+  return record;
+}
+
+void Remove(RainRecord& record, sys_days first, int count) {
+  std::erase_if(record.Days, [&](const RainDay& day) {
+    return day.Date >= first && day.Date < first + days(count);
+  });
+}
+
+std::string RefusalOf(const RainRecord& record) {
+  try {
+    SelectRainYears(record);
+  } catch (const Refusal& refusal) {
+    return refusal.what();
+  }
+  return "not refused";
+}
+
+TEST(RainYears, KeepAYearThatMissesTenDaysAndCountThemDry) {
+  RainRecord record = FullYears(2001, 2006, 0.1);
+  Remove(record, sys_days(year(2003) / 3 / 1), 10);
+  const RainYears years = SelectRainYears(record);
+  EXPECT_THAT(years.Years, ElementsAre(2001, 2002, 2003, 2004, 2005, 2006));
+  EXPECT_EQ(years.MissingDays, 10);
+  EXPECT_EQ(years.Daily.size(), 365U * 6 + 1);  // 2004 has a leap day
+  EXPECT_EQ(std::count(years.Daily.begin(), years.Daily.end(), 0.0), 10);
+  EXPECT_EQ(years.Daily[365 * 2 + 31 + 28], 0);  // March 1, 2003
+  EXPECT_EQ(years.Daily[365 * 2 + 31 + 27], 0.1);
+}
+
+TEST(RainYears, LeaveOutAYearThatMissesElevenDays) {
+  RainRecord record = FullYears(2001, 2006, 0.1);
+  Remove(record, sys_days(year(2001) / 3 / 1), 11);
+  const RainYears years = SelectRainYears(record);
+  EXPECT_THAT(years.Years, ElementsAre(2002, 2003, 2004, 2005, 2006));
+  EXPECT_THAT(years.LeftOutYears, ElementsAre(2001));
+  EXPECT_EQ(years.FirstYearDays, 365U);
+  EXPECT_EQ(years.Daily.size(), 365U * 5 + 1);
+}
+
+TEST(RainYears, MeanIsThatOfTheKeptYears) {
+  RainRecord record = FullYears(2001, 2005, 0.1);  // 2004 has a leap day
+  EXPECT_NEAR(SelectRainYears(record).MeanAnnualIn, 36.52, 1e-9);
+}
+
+TEST(RainYears, FewerThanFiveAreRefused) {
+  EXPECT_EQ(RefusalOf(FullYears(2001, 2005, 0.1)), "not refused");
+  EXPECT_THAT(RefusalOf(FullYears(2001, 2004, 0.1)), HasSubstr("4 usable years; at least 5"));
+}
+
+TEST(RainYears, ADepthThatNoPlaceHasIsRefusedWithTheUnitsThatMakeSense) {
+  RainRecord record = FullYears(2001, 2005, 30);  // 30 tenths of a millimetre, read as inches
+  const std::string text = RefusalOf(record);
+  EXPECT_THAT(text, HasSubstr("Read as \"in\""));
+  EXPECT_THAT(text, HasSubstr("10956 inches; 5 to 200 inches are expected"));
+  EXPECT_THAT(text, HasSubstr("--unit tenths-mm (43.1 inches a year)"));
+  EXPECT_THAT(text, HasSubstr("--unit hundredths-in (110 inches a year)"));
+  EXPECT_THAT(text, testing::Not(HasSubstr("--unit mm")));
+
+  RainRecord inches = FullYears(2001, 2005, 0.15 / 254);  // inches, read as tenths of a millimetre
+  inches.Unit = RainUnit::TenthsOfMillimetre;
+  EXPECT_THAT(RefusalOf(inches), HasSubstr("--unit in (54.8 inches a year)"));
+}
+
+TEST(RainYears, LimitsOfTheMeanDepthAreAllowed) {
+  for (const double annual : {5.01, 199.9}) {
+    EXPECT_EQ(RefusalOf(FullYears(2001, 2005, annual / 365.2)), "not refused") << annual;
+  }
+  for (const double annual : {4.99, 200.1}) {
+    EXPECT_THAT(RefusalOf(FullYears(2001, 2005, annual / 365.2)), HasSubstr("5 to 200")) << annual;
+  }
+}
+
+TEST(RainYears, ACodeForAMissingValueIsNotRain) {
+  RainRecord record = FullYears(2001, 2005, 0.1);
+  record.Days[100].DepthIn = 99.99;
+  EXPECT_THAT(RefusalOf(record), HasSubstr("has 100 inches, more than was ever measured"));
+}
+
+}  // namespace
+}  // namespace orvik

@@ -1,0 +1,86 @@
+// The 25 curve files that ship: what they promise, and that the records make the same bytes again.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "curves/CurveCheck.h"
+#include "curves/CurveFileWriter.h"
+#include "curves/RainFolder.h"
+#include "curves/StationCurves.h"
+#include "curves/StationSources.h"
+#include "engine/ClimateStations.h"
+#include "engine/CurveFile.h"
+#include "support/TempFolder.h"
+
+namespace orvik {
+namespace {
+
+const std::string kCurveFolder = std::string(ORVIK_DATA_DIR) + "KAV Data/";
+
+std::string PathOf(std::int16_t station) {
+  return kCurveFolder + std::string(ClimateStationName(station)) + ".crv";
+}
+
+CurveSet ReadStation(std::int16_t station) {
+  clsIOStream stream;
+  CurveSet set;
+  stream.OpenFile(PathOf(station), enumIOStreamMode::AsciiFileInput);
+  EXPECT_TRUE(ReadCurveFile(stream, set)) << PathOf(station);
+  EXPECT_TRUE(stream.EndOfFile());
+  return set;
+}
+
+TEST(ShippedCurves, AllStationsHaveTenCurvesThatPassTheChecks) {
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    const CurveSet set = ReadStation(i);
+    EXPECT_EQ(set.Curves.size(), 10U);
+    EXPECT_EQ(set.Labels.size(), 10U);
+    EXPECT_EQ(set.VMax, 7);
+    EXPECT_EQ(set.RMax, 0.4);
+    EXPECT_THAT(CheckCurves(set, std::nullopt), testing::IsEmpty()) << ClimateStationName(i);
+  }
+}
+
+TEST(ShippedCurves, TitlesNameTheStationItsSourceAndThatWeComputedIt) {
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    const std::string title = ReadStation(i).Title;
+    EXPECT_THAT(title, testing::StartsWith(std::string(ClimateStationName(i)) +
+                                           " - computed by ORVIK from NOAA daily rainfall " +
+                                           std::string(SourceOfStation(i).NoaaNumber)));
+  }
+  EXPECT_THAT(ReadStation(6).Title, testing::HasSubstr("085539 (record of Mayo), 1949-2021, 62 "));
+}
+
+TEST(ShippedCurves, LinesEndWithCrLf) {
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    const std::string bytes = test::ReadBytes(PathOf(i));
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 8 + 7 * 10 + 1 + 2 * 10);
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), 8 + 7 * 10 + 1 + 2 * 10);
+  }
+}
+
+TEST(ShippedCurves, StationsWithOneRecordHaveTheSameCurves) {
+  const std::string one = test::ReadBytes(PathOf(2));     // Belle Glade
+  const std::string other = test::ReadBytes(PathOf(18));  // NNR2 Canal
+  EXPECT_EQ(one.substr(one.find('\n')), other.substr(other.find('\n')));
+}
+
+TEST(ShippedCurves, AreMadeAgainByteForByteFromTheRecords) {
+  const auto rainFolder = test::FindRainFolder();
+  if (!rainFolder) return;
+  std::vector<StationCurves> stations;
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    stations.push_back(MakeStationCurves(*rainFolder, i, {}, {}));
+    EXPECT_EQ(CurveFileText(stations.back().Made.Set), test::ReadBytes(PathOf(i)))
+        << ClimateStationName(i);
+    for (const CurveError& error : stations.back().Made.Errors) {
+      EXPECT_LE(error.Max, kMostError) << ClimateStationName(i);
+      EXPECT_LE(error.Mean, kMostMeanError) << ClimateStationName(i);
+    }
+  }
+  EXPECT_EQ(SourcesTable(stations), test::ReadBytes(kCurveFolder + "SOURCES.md"));
+}
+
+}  // namespace
+}  // namespace orvik
