@@ -134,6 +134,16 @@ TEST_F(Kav, ADamagedFileExitsThree) {
   EXPECT_EQ(run.err, "The curve file of Tampa is damaged or cannot be read.\n");
 }
 
+TEST_F(Kav, AFileWithoutCarriageReturnsIsToldApartFromADamagedOne) {
+  std::string text = LogarithmicCurves().Text();
+  std::erase(text, '\r');
+  WriteTampa(text);
+  const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "The curve file of Tampa cannot be read: its lines must end with CR LF.\n");
+}
+
 TEST_F(Kav, CurvesThatMeetExitThree) {
   auto file = LogarithmicCurves();
   file.curves[1].E = "50";
