@@ -68,6 +68,14 @@ std::string Format(Number value, int significantDigits) {
   return (number.negative ? "-" : "") + (plain ? DecimalForm(number) : ExponentForm(number));
 }
 
+template <typename Number>
+std::string Shortest(Number value) {
+  if (!std::isfinite(value)) throw OverflowError();
+  std::array<char, 32> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+  return {buffer.data(), end};
+}
+
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
@@ -163,6 +171,14 @@ std::string ConvertToString(float value) {
 
 std::string ConvertToString(double value) {
   return AddZeroPrefix(ToDecimalText(value));
+}
+
+std::string ToShortestText(float value) {
+  return Shortest(value);
+}
+
+std::string ToShortestText(double value) {
+  return Shortest(value);
 }
 
 double ParseNumber(std::string_view text) {

@@ -24,6 +24,10 @@ std::string AddZeroPrefix(std::string text);
 std::string ConvertToString(float value);
 std::string ConvertToString(double value);
 
+// The shortest text that reads back as the same number. Throws OverflowError as above.
+std::string ToShortestText(float value);
+std::string ToShortestText(double value);
+
 // The value of the longest numeric prefix (blanks, sign, digits with one period, exponent), 0 when
 // there is none. Values beyond the range of a double are infinite, values too small for one are 0.
 double ParseNumber(std::string_view text);

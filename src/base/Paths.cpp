@@ -18,6 +18,14 @@ std::string WithEndingSeparator(std::string folder) {
   return folder;
 }
 
+std::string FileNameOf(std::string_view path) {
+  return PathToUtf8(PathFromUtf8(path).filename());
+}
+
+std::string FolderOf(std::string_view path) {
+  return WithEndingSeparator(PathToUtf8(PathFromUtf8(path).parent_path()));
+}
+
 bool FolderExists(std::string_view path) {
   std::error_code error;
   return std::filesystem::is_directory(PathFromUtf8(path), error);

@@ -16,6 +16,11 @@ std::string PathToUtf8(const std::filesystem::path& path);
 // `folder` with a separator at its end; the empty text stays empty.
 std::string WithEndingSeparator(std::string folder);
 
+// The two parts of a file's path: its name with the extension, and its folder with a separator at
+// the end (empty where the path names none).
+std::string FileNameOf(std::string_view path);
+std::string FolderOf(std::string_view path);
+
 // False also where the question itself fails (no permission, a path that the system cannot read).
 bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);

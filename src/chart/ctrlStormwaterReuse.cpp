@@ -5,6 +5,7 @@
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/Rounding.h"
+#include "base/RuntimeErrors.h"
 #include "base/Text.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFile.h"
@@ -37,6 +38,7 @@ void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
     return;
   }
   isLoaded_ = false;
+  Repaint();
   stationName_ = ClimateStationName(StationIndex);
   stationIndex_ = StationIndex;
   const std::string folder = designDataDirectory_.empty()
@@ -48,6 +50,7 @@ void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
   }
   isLoaded_ = LoadCurves(folder);
   if (isLoaded_) {
+    ForgetE();  // it was that of the curves before
     LayOut();
   } else {
     stationIndex_ = 0;
@@ -87,6 +90,7 @@ void ctrlStormwaterReuse::Clear() {
   errMsg_.clear();
   helpTopicIndex_ = kNoHelp;
   hotspotVisible_ = false;
+  Repaint();
 }
 
 // --- Geometry ---
@@ -94,15 +98,20 @@ void ctrlStormwaterReuse::Clear() {
 void ctrlStormwaterReuse::Resize(int width, int height) {
   width_ = width;
   height_ = height;
-  if (!isLoaded_) return;
-  LayOut();
+  Repaint();
+  if (isLoaded_) LayOut();
 }
 
 void ctrlStormwaterReuse::LayOut() {
   const clsPlotWindow window{curves_.VMin, curves_.VMax, curves_.RMin, curves_.RMax};
   layout_ = LayoutFrame(width_, height_, window, layoutHeights_);
   geometry_ = PlotGeometry(window, layout_.Frame);
-  if (hotspotVisible_) PlaceHotspot(hotspotV_, hotspotR_);
+  if (!hotspotVisible_) return;
+  try {
+    hotspot_.PlaceAt(hotspot_.V(), hotspot_.R(), geometry_);
+  } catch (const OverflowError&) {
+    hotspotVisible_ = false;  // on these axes it lies beyond the 16-bit pixels
+  }
 }
 
 // --- Outcomes and range checks ---
@@ -167,6 +176,7 @@ bool ctrlStormwaterReuse::CheckE(double E) {
 
 bool ctrlStormwaterReuse::SetHotspotUsing_RV(std::string_view R, std::string_view V,
                                              std::string& E) {
+  Repaint();
   const double rate = ParseNumber(R);
   const double volume = ParseNumber(V);
   E.clear();
@@ -175,7 +185,7 @@ bool ctrlStormwaterReuse::SetHotspotUsing_RV(std::string_view R, std::string_vie
   if (!isLoaded_) return FailHidden(outOfRange, kRangeHelp);
   if (!CheckV(volume) || !CheckR(rate)) return false;
   hotspotVisible_ = true;
-  PlaceHotspot(volume, rate);
+  hotspot_.PlaceAt(volume, rate, geometry_);
   if (!LocateHotspot()) return Fail(outOfRange, kRangeHelp);
   E = ConvertToString(ToSingle(E_));
   return true;
@@ -183,6 +193,7 @@ bool ctrlStormwaterReuse::SetHotspotUsing_RV(std::string_view R, std::string_vie
 
 bool ctrlStormwaterReuse::SetHotspotUsing_ER(std::string_view E, std::string_view R,
                                              std::string& V) {
+  Repaint();
   const double efficiency = ParseNumber(E);
   const double rate = ParseNumber(R);
   const std::string efficiencyText(E);
@@ -202,6 +213,7 @@ bool ctrlStormwaterReuse::SetHotspotUsing_ER(std::string_view E, std::string_vie
 
 bool ctrlStormwaterReuse::SetHotspotUsing_EV(std::string_view E, std::string_view V,
                                              std::string& R) {
+  Repaint();
   const double efficiency = ParseNumber(E);
   const double volume = ParseNumber(V);
   const std::string efficiencyText(E);
@@ -237,15 +249,8 @@ bool ctrlStormwaterReuse::ExtractCurveFor(std::string_view text, double E, Effic
   return true;
 }
 
-void ctrlStormwaterReuse::PlaceHotspot(double V, double R) {
-  hotspotV_ = V;
-  hotspotR_ = R;
-  hotspotX_ = geometry_.XPlotToXFrame(V);
-  hotspotY_ = geometry_.YPlotToYFrame(R);
-}
-
 void ctrlStormwaterReuse::ShowSolution(double V, double R, double E, EfficiencyCurve curve) {
-  PlaceHotspot(V, R);
+  hotspot_.PlaceAt(V, R, geometry_);
   hotspotVisible_ = true;
   E_ = E;
   isEDefined_ = true;
@@ -254,18 +259,21 @@ void ctrlStormwaterReuse::ShowSolution(double V, double R, double E, EfficiencyC
 }
 
 bool ctrlStormwaterReuse::LocateHotspot() {
-  isEDefined_ = false;
-  highlightCurve_.reset();
+  ForgetE();
   for (std::size_t i = 0; i + 1 < curves_.Curves.size(); ++i) {
     if (LocateBetween(curves_.Curves[i], curves_.Curves[i + 1])) return Succeed();
   }
+  return FailLocation();
+}
+
+bool ctrlStormwaterReuse::FailLocation() {
   return Fail("Out of range", kRangeHelp);
 }
 
 bool ctrlStormwaterReuse::LocateBetween(const EfficiencyCurve& A, const EfficiencyCurve& B) {
   const FramePolygon region = FindPolygonInPlotCoordinates(A, B, geometry_);
-  if (!IsPointInsidePolygon(hotspotX_, hotspotY_, region)) return false;
-  const auto found = FindEBetweenCurves(hotspotV_, hotspotR_, A, B);
+  if (!IsPointInsidePolygon(hotspot_.X(), hotspot_.Y(), region)) return false;
+  const auto found = FindEBetweenCurves(hotspot_.V(), hotspot_.R(), A, B);
   if (!found) return false;
   E_ = found->E;
   isEDefined_ = true;
@@ -274,15 +282,20 @@ bool ctrlStormwaterReuse::LocateBetween(const EfficiencyCurve& A, const Efficien
   return true;
 }
 
+void ctrlStormwaterReuse::ForgetE() {
+  isEDefined_ = false;
+  highlightCurve_.reset();
+}
+
 // --- Hotspot ---
 
 bool ctrlStormwaterReuse::GetR(float& R) const {
-  R = hotspotVisible_ ? ToSingle(hotspotR_) : 0;
+  R = hotspotVisible_ ? ToSingle(hotspot_.R()) : 0;
   return hotspotVisible_;
 }
 
 bool ctrlStormwaterReuse::GetV(float& V) const {
-  V = hotspotVisible_ ? ToSingle(hotspotV_) : 0;
+  V = hotspotVisible_ ? ToSingle(hotspot_.V()) : 0;
   return hotspotVisible_;
 }
 

@@ -3,14 +3,17 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/Boolean16.h"
+#include "chart/Hotspot.h"
 #include "chart/PlotGeometry.h"
 #include "engine/CurveSet.h"
 #include "platform/Desktop.h"
+#include "platform/Host.h"
 
 namespace orvik {
 
@@ -19,12 +22,20 @@ namespace orvik {
 //
 // Operations that can fail answer False and leave the reason in ErrMsg and the number of the help
 // topic in HelpTopicIndex; only loading shows messages itself. Numeric faults of unusable curve
-// files (curves that meet, samples beyond 16-bit pixels) are thrown as NumericError.
+// files (curves that meet, samples beyond 16-bit pixels) are thrown as NumericError, except by the
+// answers to mouse and keys: there the efficiency is undefined.
 class ctrlStormwaterReuse {
  public:
   // `defaultDataFolder` holds the folder "KAV Data" where DesignDataDirectory names no other; it
   // ends with a path separator.
   ctrlStormwaterReuse(Desktop& desktop, std::string defaultDataFolder);
+  ctrlStormwaterReuse(const ctrlStormwaterReuse&) = delete;
+  ctrlStormwaterReuse& operator=(const ctrlStormwaterReuse&) = delete;
+  ~ctrlStormwaterReuse() = default;
+
+  // The window that shows the control, null for none. It outlives the control or is taken away
+  // before it goes.
+  void AttachHost(Host* host) { host_ = host; }
 
   // --- Climate station and curves ---
 
@@ -75,6 +86,7 @@ class ctrlStormwaterReuse {
   // --- Hotspot ---
 
   Boolean16 HotSpotVisibile() const { return ToBoolean16(hotspotVisible_); }
+  void HideHotSpot();
 
   // The hotspot's values in single precision; 0 and False while it is hidden (E: also while it is
   // undefined there).
@@ -83,16 +95,46 @@ class ctrlStormwaterReuse {
   bool GetE(float& E) const;
 
   // The hotspot in double precision, as it was solved; the last ones while it is hidden.
-  double HotspotV() const { return hotspotV_; }
-  double HotspotR() const { return hotspotR_; }
+  double HotspotV() const { return hotspot_.V(); }
+  double HotspotR() const { return hotspot_.R(); }
   double HotspotE() const { return E_; }
 
   // The hotspot's pixel.
-  std::int16_t HotspotX() const { return hotspotX_; }
-  std::int16_t HotspotY() const { return hotspotY_; }
+  std::int16_t HotspotX() const { return hotspot_.X(); }
+  std::int16_t HotspotY() const { return hotspot_.Y(); }
 
   // The curve through the hotspot's E; nothing where E is undefined.
   const std::optional<EfficiencyCurve>& HighlightCurve() const { return highlightCurve_; }
+
+  // Draws the hotspot, if it is visible, as the last step of painting the control. A highlight is
+  // not drawn again: painting takes it away, so a window always paints the whole control.
+  void PaintHotspot(Surface& surface);
+
+  // --- Mouse and keys ---
+
+  // True: the mouse places the hotspot.
+  Boolean16 InteractiveMode() const { return ToBoolean16(interactive_); }
+  void InteractiveMode(Boolean16 on);
+
+  // True during a drag.
+  Boolean16 MouseCaptured() const { return ToBoolean16(mouseCaptured_); }
+
+  // What the window's messages say. Button 1 is the left one; x and y are pixels of the control,
+  // and any value is allowed. Arrow keys (37...40) move a visible hotspot by a pixel; the Space bar
+  // (32) shows the curve through it while it is held.
+  void MouseDown(std::int16_t button, double x, double y);
+  void MouseMove(double x, double y);
+  void MouseUp();
+  void CaptureLost();  // the system took the mouse away: ends a drag, once
+  void KeyDown(std::int16_t keyCode);
+  void KeyUp(std::int16_t keyCode);
+  void GotFocus() { hasFocus_ = true; }
+  void LostFocus();
+  Boolean16 HasFocus() const { return ToBoolean16(hasFocus_); }
+
+  std::function<void()> OnChange;         // the user placed or moved the hotspot; E is evaluated
+  std::function<void()> OnMousePressed;   // a drag has begun; right after its first OnChange
+  std::function<void()> OnMouseReleased;  // the drag has ended
 
  private:
   bool LoadCurves(const std::string& folder);
@@ -105,10 +147,23 @@ class ctrlStormwaterReuse {
   bool CheckR(double R);
   bool CheckE(double E);
   bool ExtractCurveFor(std::string_view text, double E, EfficiencyCurve& curve);
-  void PlaceHotspot(double V, double R);
   void ShowSolution(double V, double R, double E, EfficiencyCurve curve);
   bool LocateHotspot();
   bool LocateBetween(const EfficiencyCurve& A, const EfficiencyCurve& B);
+  bool FailLocation();
+  void ForgetE();
+
+  bool IsHotspotShown() const { return isLoaded_ && hotspotVisible_; }
+  bool TakesPoint(double x, double y) const;
+  void PlaceByMouse(double x, double y);
+  void StepHotspot(int dX, int dY);
+  void EvaluateE();
+  void ShowHighlight();
+  void RemoveHighlight();
+  bool DrawHighlight();
+  void ToggleHotspot();
+  Surface* TransientSurface() const;
+  void Repaint();
 
   Desktop& desktop_;
   std::string defaultDataFolder_;
@@ -129,13 +184,16 @@ class ctrlStormwaterReuse {
   std::int16_t helpTopicIndex_ = 0;
 
   bool hotspotVisible_ = false;
-  double hotspotV_ = 0;  // the master copy of the position; the pixel follows from it
-  double hotspotR_ = 0;
-  std::int16_t hotspotX_ = 0;
-  std::int16_t hotspotY_ = 0;
+  Hotspot hotspot_;
   bool isEDefined_ = false;
   double E_ = 0;  // the last solved efficiency
   std::optional<EfficiencyCurve> highlightCurve_;
+
+  Host* host_ = nullptr;
+  bool interactive_ = false;
+  bool mouseCaptured_ = false;
+  bool highlightShown_ = false;  // the highlight curve is on the screen
+  bool hasFocus_ = false;
 };
 
 }  // namespace orvik

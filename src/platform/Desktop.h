@@ -3,11 +3,33 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace orvik {
 
 enum class MessageIcon : std::uint8_t { None, Exclamation };
+
+// What a file dialog is asked to show. Texts as the common file dialog takes them.
+struct FileDialog {
+  std::string filter;            // pairs of description and pattern, each ended by "|"
+  int filterIndex = 1;           // 1-based: the pair that is preselected
+  std::string startFolder;       // empty: the system's own choice
+  std::string defaultExtension;  // put on where the user types a name without one; no period
+  bool overwritePrompt = false;  // ask before an existing file is chosen for saving
+  bool hideReadOnly = false;     // no "open as read-only" box
+  bool explorerStyle = false;
+  bool longNames = false;
+  bool operator==(const FileDialog&) const = default;
+};
+
+struct CalendarDate {
+  int year;
+  int month;  // 1...12
+  int day;    // 1...31
+  bool operator==(const CalendarDate&) const = default;
+};
 
 class Desktop {
  public:
@@ -24,6 +46,16 @@ class Desktop {
 
   // The system beep.
   virtual void Beep() = 0;
+
+  // The path that the user chose, empty when the dialog was cancelled.
+  virtual std::string ChooseFileToOpen(const FileDialog& dialog) = 0;
+  virtual std::string ChooseFileToSave(const FileDialog& dialog) = 0;
+
+  // The user's personal documents folder; nothing where the system cannot tell it.
+  virtual std::optional<std::string> DocumentsFolder() = 0;
+
+  // The date of today where the user is.
+  virtual CalendarDate Today() = 0;
 };
 
 }  // namespace orvik

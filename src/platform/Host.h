@@ -12,7 +12,9 @@ class Host {
   Host& operator=(const Host&) = delete;
   virtual ~Host() = default;
 
-  virtual void Invalidate() = 0;  // paint me again soon
+  // Paint the whole of me again soon, not before this call returns.
+  virtual void Invalidate() = 0;
+
   virtual void CaptureMouse() = 0;
   virtual void ReleaseMouse() = 0;
 

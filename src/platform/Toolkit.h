@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "platform/Colour.h"
+#include "platform/Host.h"
 
 namespace orvik {
 
@@ -33,7 +34,7 @@ class Widget {
   virtual void Move(int left, int top, int width, int height) = 0;
 };
 
-// A field of text, or a read-only one while it is locked. Text is UTF-8; line ends in it are CR LF.
+// A field of one line of text, or a read-only one while it is locked. Text is UTF-8.
 class TextBox : public Widget {
  public:
   virtual std::string Text() const = 0;
@@ -46,10 +47,9 @@ class TextBox : public Widget {
   virtual void BackColor(Colour colour) = 0;
 
   std::function<void()> OnChange;  // after every change of the text, typed or assigned
-  std::function<void(std::int16_t& keyAscii)>
-      OnKeyPress;  // a character typed; 0 swallows it, another value replaces it
-  std::function<void(std::int16_t keyCode)> OnKeyDown;  // 13 = Enter
-  std::function<void()> OnLeave;                        // the keyboard focus has left the field
+  // A character typed (13 = Enter); 0 swallows it, another value replaces it.
+  std::function<void(std::int16_t& keyAscii)> OnKeyPress;
+  std::function<void()> OnLeave;  // the keyboard focus has left the field
 };
 
 // A drop-down list without free text. The index is 0-based, -1 for none; an index outside the list
@@ -84,6 +84,24 @@ class MenuItem : public Widget {
   std::function<void()> OnClick;
 };
 
+// The window of a drawn control (chart, flat button): what the control asks of it, and what it
+// tells the control. Positions in pixels of the control.
+class ControlHost : public Widget, public Host {
+ public:
+  static constexpr std::int16_t kLeftButton = 1;
+
+  std::function<void(Surface& surface)> OnPaint;
+  std::function<void(int width, int height)> OnResize;
+  std::function<void(std::int16_t button, double x, double y)> OnMouseDown;
+  std::function<void(double x, double y)> OnMouseMove;
+  std::function<void(double x, double y)> OnMouseUp;
+  std::function<void()> OnCaptureLost;  // the system took the mouse away
+  std::function<void(std::int16_t keyCode)> OnKeyDown;
+  std::function<void(std::int16_t keyCode)> OnKeyUp;
+  std::function<void()> OnGotFocus;
+  std::function<void()> OnLostFocus;
+};
+
 class Timer {
  public:
   Timer() = default;
@@ -98,11 +116,15 @@ class Timer {
   std::function<void()> OnTick;
 };
 
-// The top-level window.
+// The top-level window. Hiding it ends its modal showing.
 class Window : public Widget {
  public:
   virtual std::string Caption() const = 0;
   virtual void Caption(std::string_view caption) = 0;
+
+  // The user closes the window by its frame or the system menu; true in `cancel` keeps it from
+  // being destroyed.
+  std::function<void(bool& cancel)> OnQueryUnload;
 };
 
 // Makes widgets by the names of the form's controls ("txtBasinArea"), which the native toolkit also
@@ -120,6 +142,7 @@ class Toolkit {
   virtual std::unique_ptr<Label> MakeLabel(std::string_view name) = 0;
   virtual std::unique_ptr<Panel> MakePanel(std::string_view name) = 0;
   virtual std::unique_ptr<MenuItem> MakeMenuItem(std::string_view name) = 0;
+  virtual std::unique_ptr<ControlHost> MakeControlHost(std::string_view name) = 0;
   virtual std::unique_ptr<Timer> MakeTimer() = 0;
 };
 

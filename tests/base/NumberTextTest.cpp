@@ -157,5 +157,15 @@ TEST(NumberText, DoesNotFollowTheLocale) {
   std::setlocale(LC_ALL, "C");
 }
 
+TEST(ShortestText, ReadsBackAsTheSameNumber) {
+  EXPECT_EQ(ToShortestText(0.1F), "0.1");
+  EXPECT_EQ(ToShortestText(3.0F), "3");
+  EXPECT_EQ(ToShortestText(-0.15), "-0.15");
+  for (float value = 1E-20F; value < 1E20F; value *= 1.37F) {
+    EXPECT_EQ(static_cast<float>(ParseNumber(ToShortestText(value))), value);
+  }
+  EXPECT_THROW(ToShortestText(std::numeric_limits<float>::infinity()), OverflowError);
+}
+
 }  // namespace
 }  // namespace orvik

@@ -11,4 +11,12 @@ bool HeadlessDesktop::AskYesNo(std::string_view text, std::string_view title) {
   return answerYes_;
 }
 
+std::string HeadlessDesktop::Choose(const FileDialog& dialog) {
+  fileDialogs_.push_back(dialog);
+  if (fileAnswers_.empty()) return {};
+  std::string path = std::move(fileAnswers_.front());
+  fileAnswers_.pop_front();
+  return path;
+}
+
 }  // namespace orvik

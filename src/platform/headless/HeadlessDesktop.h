@@ -1,7 +1,9 @@
 // A desktop without a screen: it keeps what was shown, for the command line to print and for tests
-// to read.
+// to read, and gives the answers that it was told to give.
 #pragma once
 
+#include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,16 +23,35 @@ class HeadlessDesktop final : public Desktop {
   void ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) override;
   bool AskYesNo(std::string_view text, std::string_view title) override;
   void Beep() override { ++beeps_; }
+  std::string ChooseFileToOpen(const FileDialog& dialog) override { return Choose(dialog); }
+  std::string ChooseFileToSave(const FileDialog& dialog) override { return Choose(dialog); }
+  std::optional<std::string> DocumentsFolder() override { return documentsFolder_; }
+  CalendarDate Today() override { return today_; }
 
   // The answer that the next questions get.
   void AnswerYes(bool yes) { answerYes_ = yes; }
 
+  // The path that the next file dialog answers, one call for each; empty cancels it, as a dialog
+  // without an answer is cancelled.
+  void AnswerFile(std::string path) { fileAnswers_.push_back(std::move(path)); }
+
+  void DocumentsFolder(std::optional<std::string> folder) { documentsFolder_ = std::move(folder); }
+  void Today(CalendarDate date) { today_ = date; }
+
   // In the order shown, questions included.
   const std::vector<Message>& Messages() const { return messages_; }
+  const std::vector<FileDialog>& FileDialogs() const { return fileDialogs_; }
   int Beeps() const { return beeps_; }
+  void ForgetMessages() { messages_.clear(); }
 
  private:
+  std::string Choose(const FileDialog& dialog);
+
   std::vector<Message> messages_;
+  std::vector<FileDialog> fileDialogs_;
+  std::deque<std::string> fileAnswers_;
+  std::optional<std::string> documentsFolder_;
+  CalendarDate today_{2000, 1, 1};
   int beeps_ = 0;
   bool answerYes_ = false;
 };

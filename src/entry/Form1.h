@@ -1,0 +1,87 @@
+// The module's main window: it owns the project's fields, the design chart and the commands, and
+// ends in one of two ways that the host can tell apart: the work is saved, or discarded.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "chart/ctrlStormwaterReuse.h"
+#include "controls/HostedButton.h"
+#include "entry/ProjectResults.h"
+#include "files/FileCommands.h"
+#include "files/ProjectFile.h"
+#include "platform/Desktop.h"
+#include "platform/Toolkit.h"
+#include "project/InteractiveSynchronisation.h"
+#include "project/ProjectForm.h"
+#include "project/RecalculationTriggers.h"
+#include "project/SolveForWorkflow.h"
+
+namespace orvik {
+
+class Form1 {
+ public:
+  // Loaded, and not yet shown. `dataFolder` holds the folder "KAV Data"; it ends with a path
+  // separator.
+  Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder);
+  Form1(const Form1&) = delete;
+  Form1& operator=(const Form1&) = delete;
+  ~Form1() = default;
+
+  // 1 = stand-alone use, with the File menu; 2 = use from within a host project, with the Return
+  // menu and the two exit buttons. Any other value is stored and changes no command.
+  std::int16_t Mode() const { return mode_; }
+  void Mode(std::int16_t mode);
+
+  // 1 = save the work back to the host, 0 = discard it.
+  std::int16_t ReturnCode() const { return returnCode_; }
+  void ReturnCode(std::int16_t code) { returnCode_ = code; }
+
+  // The results for the host, as text; see ProjectResults.
+  std::string ReuseRate() { return ReuseRateResult(form_); }          // gallons per day
+  std::string Efficiency() { return EfficiencyResult(form_); }        // percent
+  std::string StorageVolume() { return StorageVolumeResult(form_); }  // acre-feet
+
+  ProjectForm& Fields() { return form_; }
+  ctrlStormwaterReuse& Chart() { return ctrlStormwaterReuse1_; }
+  FileCommands& Files() { return files_; }
+  ProjectFile& File() { return file_; }
+  SolveForWorkflow& Workflow() { return workflow_; }
+  InteractiveSynchronisation& Interactive() { return interactive_; }
+
+ private:
+  void MakeCommands(Toolkit& toolkit);
+  void Form_Load();
+  void Form_QueryUnload(bool& cancel);
+  void cmdSaveExit_Click();
+  void cmdDiscardExit_Click();
+  void Leave(std::int16_t returnCode);
+
+  Desktop& desktop_;
+  ProjectForm form_;
+  ctrlStormwaterReuse ctrlStormwaterReuse1_;
+  InteractiveSynchronisation interactive_;
+  SolveForWorkflow workflow_;
+  RecalculationTriggers triggers_;
+  ProjectFile file_;
+  FileCommands files_;
+
+  std::unique_ptr<MenuItem> mnuFile_;
+  std::unique_ptr<MenuItem> mnuFile_New_;
+  std::unique_ptr<MenuItem> mnuFile_Open_;
+  std::unique_ptr<MenuItem> mnuFile_Save_;
+  std::unique_ptr<MenuItem> mnuFile_SaveAs_;
+  std::unique_ptr<MenuItem> mnuReturn_;
+  std::unique_ptr<MenuItem> mnuReturn_Save_;
+  std::unique_ptr<MenuItem> mnuReturn_Discard_;
+  HostedButton cmdReCalc_;
+  HostedButton cmdSaveExit_;
+  HostedButton cmdDiscardExit_;
+
+  std::int16_t mode_ = 1;
+  std::int16_t returnCode_ = 0;
+  bool exitDecided_ = false;  // the user has decided how to leave
+};
+
+}  // namespace orvik

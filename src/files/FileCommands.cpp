@@ -1,0 +1,146 @@
+#include "files/FileCommands.h"
+
+#include "base/Paths.h"
+#include "files/SafeReplace.h"
+
+namespace orvik {
+namespace {
+
+constexpr std::string_view kProjectFilter =
+    "All Files (*.*)|*.*|ORVIK Stormwater Harvesting (*.kav)|*.kav|";
+constexpr int kProjectFiles = 2;  // the filter's second pair
+
+}  // namespace
+
+// --- Menu commands ---
+
+void FileCommands::New() {
+  ClearData();
+}
+
+void FileCommands::Open() {
+  const std::string path = GetFileOpenName();
+  if (!path.empty()) OpenProject(path);
+}
+
+bool FileCommands::OpenProject(std::string_view path) {
+  if (LoadFile(path)) return true;
+  ShowError("Error reading data file.");
+  return false;
+}
+
+void FileCommands::Save() {
+  if (currentPath_.empty() || !FileExists(currentPath_)) {
+    SaveAs();
+  } else {
+    SaveFile(currentPath_);
+  }
+}
+
+void FileCommands::SaveAs() {
+  const std::string path = GetFileSaveName();
+  if (!path.empty() && SaveFile(path)) ShowFileName(path);
+}
+
+// --- Reading ---
+
+void FileCommands::ClearData() {
+  file_.ClearData();
+  currentPath_.clear();
+}
+
+bool FileCommands::LoadFile(std::string_view path) {
+  const std::string name(path);
+  ClearData();
+  clsIOStream stream;
+  if (!stream.OpenFile(name, enumIOStreamMode::AsciiFileInput)) return false;
+  const bool isRead = file_.ReadDataFromBuffer(stream);
+  stream.CloseFile();
+  currentPath_ = name;
+  currentFolder_ = FolderOf(name);
+  ShowFileName(name);
+  return isRead;
+}
+
+bool FileCommands::ReadFile(std::string_view text) {
+  const std::string project(text);
+  ClearData();
+  if (project.empty()) return false;
+  clsIOStream stream;
+  const bool isRead = stream.OpenFile(project, enumIOStreamMode::AsciiBufferInput) &&
+                      file_.ReadDataFromBuffer(stream);
+  stream.CloseFile();
+  if (!isRead) ShowError("Error reading data.");
+  workflow_.ReCalc();
+  return isRead;
+}
+
+// --- Saving ---
+
+bool FileCommands::SaveText(std::string& text) const {
+  clsIOStream stream;
+  stream.OpenFile("", enumIOStreamMode::AsciiBufferOutput);
+  if (!file_.SaveDataInBuffer(stream)) return false;
+  text = stream.Buffer();
+  return true;
+}
+
+bool FileCommands::SaveFile(const std::string& path) {
+  if (path.empty()) return false;
+  std::string text;
+  const bool isSaved =
+      SaveText(text) && ReplaceFile(path, text, [this](const std::string& besides) {
+        clsIOStream stream;
+        stream.OpenFile(besides, enumIOStreamMode::AsciiFileOutput);
+        const bool isWritten = file_.SaveDataInBuffer(stream);
+        stream.CloseFile();
+        return isWritten;
+      });
+  currentFolder_ = FolderOf(path);
+  if (isSaved) currentPath_ = path;
+  return isSaved;
+}
+
+// --- Dialogs ---
+
+FileDialog FileCommands::ProjectDialog() {
+  FileDialog dialog;
+  dialog.filter = kProjectFilter;
+  dialog.filterIndex = kProjectFiles;
+  dialog.defaultExtension = "kav";
+  std::string ignored;  // without a start folder the dialog opens where the system likes
+  dialog.startFolder = !currentFolder_.empty() && FolderExists(currentFolder_)
+                           ? currentFolder_
+                           : GetMyDocumentsFolder(ignored);
+  return dialog;
+}
+
+std::string FileCommands::GetFileOpenName() {
+  return desktop_.ChooseFileToOpen(ProjectDialog());
+}
+
+std::string FileCommands::GetFileSaveName() {
+  FileDialog dialog = ProjectDialog();
+  dialog.overwritePrompt = true;
+  dialog.hideReadOnly = true;
+  dialog.explorerStyle = true;
+  dialog.longNames = true;
+  return desktop_.ChooseFileToSave(dialog);
+}
+
+std::string FileCommands::GetMyDocumentsFolder(std::string& error) {
+  error.clear();
+  const auto folder = desktop_.DocumentsFolder();
+  if (!folder) error = "The folder path could not be detected";
+  return folder.value_or("");
+}
+
+void FileCommands::ShowError(std::string_view text) {
+  desktop_.ShowMessage(text, "Error", MessageIcon::Exclamation);
+}
+
+void FileCommands::ShowFileName(std::string_view path) {
+  form_.window->Caption("ORVIK 3.3 KAV - " + FileNameOf(path));
+}
+
+}  // namespace orvik

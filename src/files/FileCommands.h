@@ -1,0 +1,74 @@
+// The commands of the File menu and what stands behind them: choosing a file, reading and saving a
+// project, the window's caption and the current file.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "files/ProjectFile.h"
+#include "platform/Desktop.h"
+#include "project/ProjectForm.h"
+
+namespace orvik {
+
+class FileCommands {
+ public:
+  FileCommands(ProjectForm& form, SolveForWorkflow& workflow, ProjectFile& file, Desktop& desktop)
+      : form_(form), workflow_(workflow), file_(file), desktop_(desktop) {}
+
+  // --- Menu commands ---
+
+  void New();   // asks nothing about unsaved changes
+  void Open();  // asks for a file
+  void Save();  // to the current file; as SaveAs where there is none or it is gone
+  void SaveAs();
+
+  // Opens the project at `path` as the Open command does once it is chosen. False after "Error
+  // reading data file.".
+  bool OpenProject(std::string_view path);
+
+  // --- Behind the commands ---
+
+  // An empty, untitled project.
+  void ClearData();
+
+  // Reads the project at `path`, which becomes the current file whatever the reading gave. Its
+  // result; shows no message of its own.
+  bool LoadFile(std::string_view path);
+
+  // Reads a project handed over as text. "Error reading data." where it cannot be read. False also,
+  // but silently, for an empty text.
+  bool ReadFile(std::string_view text);
+
+  // Saves the project. The file that was there stays as it is until the new one is whole; nothing
+  // half-written remains. False, without a message, where that fails.
+  bool SaveFile(const std::string& path);
+
+  // The project as the text that a file would hold. False, and `text` as it was, where that fails.
+  bool SaveText(std::string& text) const;
+
+  // The chosen path, empty when the dialog was cancelled. The dialogs start in the folder of the
+  // current file if it exists, else in the user's documents folder.
+  std::string GetFileOpenName();
+  std::string GetFileSaveName();
+
+  // The user's documents folder; empty, and the reason in `error`, where the system cannot tell it.
+  std::string GetMyDocumentsFolder(std::string& error);
+
+  const std::string& CurrentPath() const { return currentPath_; }      // empty: untitled
+  const std::string& CurrentFolder() const { return currentFolder_; }  // of the last file
+
+ private:
+  FileDialog ProjectDialog();
+  void ShowError(std::string_view text);
+  void ShowFileName(std::string_view path);
+
+  ProjectForm& form_;
+  SolveForWorkflow& workflow_;
+  ProjectFile& file_;
+  Desktop& desktop_;
+  std::string currentPath_;
+  std::string currentFolder_;
+};
+
+}  // namespace orvik

@@ -1,0 +1,70 @@
+#include "project/NumberInput.h"
+
+#include <cmath>
+
+#include "base/NumberText.h"
+#include "base/Rounding.h"
+#include "base/Text.h"
+
+namespace orvik {
+namespace {
+
+bool IsInRange(float value, Range range) {
+  switch (range) {
+    case Range::AboveZero:
+      return value > 0;
+    case Range::FromZero:
+      return value >= 0;
+    case Range::UpToOne:
+      return 0 < value && value <= 1;
+    case Range::AnyNumber:
+      break;
+  }
+  return true;
+}
+
+float Held(float value) {
+  if (!std::isfinite(value)) throw OverflowError();
+  return value;
+}
+
+}  // namespace
+
+bool IsDefinedNumber(std::string_view text) {
+  return IsNumericText(Trim(text));
+}
+
+float ReadSingle(std::string_view text) {
+  return Held(ToSingle(ParseNumber(text)));
+}
+
+float Quotient(float dividend, float divisor) {
+  if (divisor == 0) throw DivisionByZeroError();
+  return dividend / divisor;
+}
+
+std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& check,
+                                   std::string& message) {
+  const std::string_view trimmed = Trim(text);
+  const auto refuse = [&](std::string_view sentence) {
+    message = sentence;
+    return std::nullopt;
+  };
+  if (trimmed.empty()) return refuse(check.empty);
+  if (!IsNumericText(trimmed)) return refuse(check.notNumeric);
+  const float value = ToSingle(ParseNumber(trimmed));
+  if (!IsInRange(value, check.range)) return refuse(check.outOfRange);
+  return Held(value);
+}
+
+std::string NumericFaultSentence(const NumericError& fault) {
+  if (dynamic_cast<const OverflowError*>(&fault)) {
+    return "A number is too large for the calculation.";
+  }
+  if (dynamic_cast<const DivisionByZeroError*>(&fault)) {
+    return "The calculation divides by zero.";
+  }
+  return fault.what();
+}
+
+}  // namespace orvik

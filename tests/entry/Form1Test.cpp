@@ -1,0 +1,154 @@
+#include "engine/ClimateStations.h"
+#include "support/FormFixture.h"
+
+namespace orvik {
+namespace {
+
+using test::FormFixture;
+
+class Form1Test : public FormFixture {};
+
+TEST_F(Form1Test, StartsStandAloneWithTheFileMenu) {
+  EXPECT_EQ(form_->Mode(), 1);
+  EXPECT_EQ(form_->ReturnCode(), 0);
+  EXPECT_TRUE(toolkit_.IsVisible("mnuFile"));
+  for (const char* hidden : {"mnuReturn", "cmdSaveExit", "cmdDiscardExit"}) {
+    EXPECT_FALSE(toolkit_.IsVisible(hidden)) << hidden;
+  }
+}
+
+TEST_F(Form1Test, ModeTwoShowsTheReturnCommandsAndBack) {
+  form_->Mode(2);
+  EXPECT_FALSE(toolkit_.IsVisible("mnuFile"));
+  for (const char* shown : {"mnuReturn", "cmdSaveExit", "cmdDiscardExit"}) {
+    EXPECT_TRUE(toolkit_.IsVisible(shown)) << shown;
+  }
+  form_->Mode(1);
+  EXPECT_TRUE(toolkit_.IsVisible("mnuFile"));
+  EXPECT_FALSE(toolkit_.IsVisible("mnuReturn"));
+}
+
+TEST_F(Form1Test, AnyOtherModeIsStoredAndLeavesTheCommands) {
+  for (const std::int16_t mode : {std::int16_t{3}, std::int16_t{0}, std::int16_t{-1}}) {
+    form_->Mode(2);
+    form_->Mode(mode);
+    EXPECT_EQ(form_->Mode(), mode);
+    EXPECT_TRUE(toolkit_.IsVisible("mnuReturn")) << mode;
+    EXPECT_FALSE(toolkit_.IsVisible("mnuFile")) << mode;
+  }
+}
+
+TEST_F(Form1Test, ListsTheChartsStationsInTheirOrder) {
+  const auto& list = toolkit_.Find<HeadlessComboBox>("cmbClimateStation");
+  ASSERT_EQ(list.ListCount(), 25);
+  EXPECT_EQ(list.List(0), "Apalachicola");
+  for (std::int16_t i = 1; i <= 25; ++i) {
+    EXPECT_EQ(list.List(static_cast<std::int16_t>(i - 1)), ClimateStationName(i));
+  }
+  EXPECT_EQ(list.ListIndex(), -1);
+}
+
+TEST_F(Form1Test, ListsTheFourModesAndSelectsInteractive) {
+  const auto& list = toolkit_.Find<HeadlessComboBox>("cmbSolveFor");
+  ASSERT_EQ(list.ListCount(), 4);
+  EXPECT_EQ(list.List(0), "Interactive");
+  EXPECT_EQ(list.List(1), "Efficiency");
+  EXPECT_EQ(list.List(2), "Storage Volume");
+  EXPECT_EQ(list.List(3), "Reuse Rate");
+  EXPECT_EQ(list.ListIndex(), 0);
+  EXPECT_EQ(form_->Chart().InteractiveMode(), kTrue16);
+}
+
+TEST_F(Form1Test, TheTitleTellsTheVersionWithFourDigitsOfBuildNumber) {
+  EXPECT_EQ(toolkit_.Caption("Form1"),
+            "KAV - ORVIK 3.3 Stormwater Harvesting Module (Ver 3.3.0001)");
+}
+
+// --- Leaving ---
+
+TEST_F(Form1Test, SaveExitAndDiscardExitHideTheWindow) {
+  const struct {
+    const char* menu;
+    const char* button;
+    int code;
+  } rows[] = {{"mnuReturn_Save", "cmdSaveExit", 1}, {"mnuReturn_Discard", "cmdDiscardExit", 0}};
+  for (const auto& row : rows) {
+    for (const bool byMenu : {true, false}) {
+      form_ = std::make_unique<Form1>(toolkit_, desktop_, folder_.Path());
+      form_->Mode(2);
+      form_->ReturnCode(5);
+      byMenu ? toolkit_.ClickMenu(row.menu) : toolkit_.ClickButton(row.button);
+      EXPECT_EQ(form_->ReturnCode(), row.code) << row.menu;
+      EXPECT_FALSE(toolkit_.IsVisible("Form1")) << row.menu;
+    }
+  }
+}
+
+TEST_F(Form1Test, ClosingInAHostAsksAndNoDiscards) {
+  form_->Mode(2);
+  form_->ReturnCode(1);
+  desktop_.AnswerYes(false);
+  EXPECT_FALSE(toolkit_.CloseByFrame("Form1")) << "hidden, not destroyed";
+  EXPECT_EQ(form_->ReturnCode(), 0);
+  EXPECT_FALSE(toolkit_.IsVisible("Form1"));
+  ASSERT_EQ(desktop_.Messages().size(), 1U);
+  EXPECT_EQ(desktop_.Messages()[0],
+            (HeadlessDesktop::Message{"Do you want to save the current data?",
+                                      "Exit Stormwater Harvesting", MessageIcon::None}));
+}
+
+TEST_F(Form1Test, ClosingInAHostAsksAndYesSaves) {
+  form_->Mode(2);
+  desktop_.AnswerYes(true);
+  EXPECT_FALSE(toolkit_.CloseByFrame("Form1"));
+  EXPECT_EQ(form_->ReturnCode(), 1);
+}
+
+TEST_F(Form1Test, AfterSaveExitALaterCloseAsksNothing) {
+  form_->Mode(2);
+  toolkit_.ClickButton("cmdSaveExit");
+  form_->Fields().window->Visible(true);
+  EXPECT_TRUE(toolkit_.CloseByFrame("Form1"));
+  EXPECT_TRUE(desktop_.Messages().empty());
+  EXPECT_EQ(form_->ReturnCode(), 1);
+}
+
+TEST_F(Form1Test, ClosingStandAloneAsksNothingAndKeepsTheReturnCode) {
+  EXPECT_TRUE(toolkit_.CloseByFrame("Form1"));
+  EXPECT_TRUE(desktop_.Messages().empty());
+  EXPECT_EQ(form_->ReturnCode(), 0);
+}
+
+// --- Results for the host ---
+
+TEST_F(Form1Test, ResultsOfEachMode) {
+  SolveForEfficiency();
+  const std::string E = Text("txtSolveFor(3)");
+  // 0.875 in/week over 5 ac: 0.875 / 84 ft/day x 5 x 43560 sq ft x 7.480519 gal/cu ft = 16971.43
+  EXPECT_NEAR(ParseNumber(form_->ReuseRate()), 0.875 / 84 * 5 * 43560 * 7.480519, 0.01);
+  EXPECT_EQ(form_->Efficiency(), E);
+  EXPECT_EQ(form_->StorageVolume(), "1.25");
+  for (const char* mode : {"Interactive", "Storage Volume", "Reuse Rate"}) {
+    Choose("cmbSolveFor", mode);
+    EXPECT_NEAR(ParseNumber(form_->ReuseRate()), 16971.43, 5) << mode;
+    EXPECT_EQ(form_->Efficiency(), E) << mode;
+    EXPECT_NEAR(ParseNumber(form_->StorageVolume()), 1.25, 1e-3) << mode;
+  }
+}
+
+TEST_F(Form1Test, ResultsAreEmptyWithoutAMode) {
+  SolveForEfficiency();
+  form_->Fields().cmbSolveFor->ListIndex(-1);
+  EXPECT_EQ(form_->ReuseRate() + form_->Efficiency() + form_->StorageVolume(), "");
+}
+
+TEST_F(Form1Test, TheReuseRateIsEmptyWhereItCannotBeConverted) {
+  SolveForEfficiency();
+  for (const char* area : {"", "abc", "1E38"}) {
+    Type("txtIrrigationArea", area);
+    EXPECT_EQ(form_->ReuseRate(), "") << area;
+  }
+}
+
+}  // namespace
+}  // namespace orvik

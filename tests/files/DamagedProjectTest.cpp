@@ -1,0 +1,123 @@
+// Damaged project files never crash or hang, and end as the rules of reading say.
+#include <random>
+
+#include "support/FormFixture.h"
+#include "support/ProjectText.h"
+
+namespace orvik {
+namespace {
+
+using test::FormFixture;
+using test::ProjectLines;
+using test::ProjectText;
+
+class DamagedProject : public FormFixture {
+ protected:
+  // Both ways of reading must agree, except for an empty text.
+  bool Load(const std::string& bytes) {
+    const bool fromFile = form_->Files().LoadFile(folder_.Write("damaged.kav", bytes));
+    form_->Files().ReadFile(bytes);
+    return fromFile;
+  }
+  bool ReadText(const std::string& text) { return form_->Files().ReadFile(text); }
+};
+
+const std::vector<std::vector<std::string>>& GoodProjects() {
+  static const std::vector<std::vector<std::string>> projects{
+      ProjectLines("0", {"1", "0.125", "3"}), ProjectLines("1", {"1.25", "0.875"}), ProjectLines(),
+      ProjectLines("3", {"60", "1.25"})};
+  return projects;
+}
+
+TEST_F(DamagedProject, CutAtEveryLineFailsInBothModes) {
+  for (const auto& good : GoodProjects()) {
+    for (std::size_t count = 0; count < good.size(); ++count) {
+      const std::vector<std::string> lines(good.begin(),
+                                           good.begin() + static_cast<std::ptrdiff_t>(count));
+      EXPECT_FALSE(Load(ProjectText(lines))) << "mode " << good[10] << ", " << count << " lines";
+      EXPECT_FALSE(ReadText(ProjectText(lines)));
+    }
+    EXPECT_TRUE(Load(ProjectText(good)));
+  }
+}
+
+TEST_F(DamagedProject, CutAtEveryByteSucceedsOnlyWithinTheLastLine) {
+  for (const auto& good : GoodProjects()) {
+    const std::string text = ProjectText(good);
+    const std::size_t lastLine = text.size() - good.back().size() - 2;
+    for (std::size_t length = 0; length < text.size(); ++length) {
+      const std::string cut = text.substr(0, length);
+      EXPECT_EQ(Load(cut), length > lastLine) << "mode " << good[10] << ", " << length << " bytes";
+      EXPECT_EQ(ReadText(cut), length > lastLine);
+    }
+  }
+}
+
+TEST_F(DamagedProject, SwappedLinesEndTheSameWayFromFileAndText) {
+  const auto good = ProjectLines();
+  for (std::size_t i = 0; i < good.size(); ++i) {
+    for (std::size_t j = i + 1; j < good.size(); ++j) {
+      auto lines = good;
+      std::swap(lines[i], lines[j]);
+      const std::string text = ProjectText(lines);
+      EXPECT_EQ(Load(text), ReadText(text)) << i << " and " << j;
+    }
+  }
+}
+
+TEST_F(DamagedProject, NoiseIsRefused) {
+  std::mt19937 random(7);
+  std::string noise(1 << 20, '\0');
+  for (char& c : noise) c = static_cast<char>(random());
+  EXPECT_FALSE(Load(noise));
+  EXPECT_FALSE(Load("KAV3.3.01\r\n" + noise.substr(0, 3)));
+}
+
+TEST_F(DamagedProject, NoiseBehindAGoodFirstLineNeverCrashes) {
+  std::mt19937 random(8);
+  for (int round = 0; round < 200; ++round) {
+    auto lines = ProjectLines(std::to_string(round % 5 - 1));
+    for (int hits = 0; hits < 3; ++hits) {
+      std::string& line = lines[1 + random() % (lines.size() - 1)];
+      line.assign(random() % 40, ' ');
+      for (char& c : line) c = static_cast<char>(random());
+    }
+    Load(ProjectText(lines));
+  }
+}
+
+TEST_F(DamagedProject, NulBytesAreTextLikeAnyOther) {
+  EXPECT_FALSE(Load(std::string(1000, '\0')));
+  auto lines = ProjectLines();
+  lines[2] = std::string("a\0b", 3);
+  EXPECT_TRUE(Load(ProjectText(lines)));
+  EXPECT_EQ(Text("txtProjectName"), lines[2]);
+  lines[11] = std::string("10\0", 3);
+  EXPECT_TRUE(Load(ProjectText(lines)));
+  EXPECT_EQ(Message(), "The basin area is not numeric.");
+}
+
+TEST_F(DamagedProject, ALoneLineFeedIsPartOfItsLine) {
+  EXPECT_FALSE(Load("\n"));
+  auto lines = ProjectLines();
+  lines[3] = "two\nparts";
+  EXPECT_TRUE(Load(ProjectText(lines)));
+  EXPECT_EQ(Text("txtDescription"), "two\nparts");
+  std::string unixText = ProjectText();
+  std::erase(unixText, '\r');
+  EXPECT_FALSE(Load(unixText)) << "without a CR the whole file is its first line";
+}
+
+TEST_F(DamagedProject, HugeNumbersEndOnTheBar) {
+  const std::string huge(5000, '9');
+  for (const std::size_t line : {11U, 12U, 13U, 14U, 15U}) {
+    auto lines = ProjectLines();
+    lines[line] = huge;
+    EXPECT_TRUE(Load(ProjectText(lines))) << line;
+    EXPECT_NE(Message(), "") << line;
+    EXPECT_EQ(Text("txtSolveFor(3)"), "") << line;
+  }
+}
+
+}  // namespace
+}  // namespace orvik

@@ -1,0 +1,230 @@
+// The File menu: dialogs, captions, the current file, and saving that loses nothing.
+#include <filesystem>
+
+#include "base/Paths.h"
+#include "support/FormFixture.h"
+#include "support/ProjectText.h"
+
+namespace orvik {
+namespace {
+
+using test::FormFixture;
+using test::ProjectText;
+using test::ReadBytes;
+
+constexpr const char* kUntitled = "ORVIK 3.3 Stormwater Harvesting - [untitled]";
+
+class FileMenu : public FormFixture {
+ protected:
+  void Click(const char* item) { toolkit_.ClickMenu(item); }
+  void Open(const std::string& path) {
+    desktop_.AnswerFile(path);
+    Click("mnuFile_Open");
+  }
+  void SaveAs(const std::string& path) {
+    desktop_.AnswerFile(path);
+    Click("mnuFile_SaveAs");
+  }
+  std::string Caption() { return toolkit_.Caption("Form1"); }
+  std::string CurrentPath() { return form_->Files().CurrentPath(); }
+  std::size_t FilesIn(const std::string& folder) {
+    std::size_t count = 0;
+    for ([[maybe_unused]] const auto& entry :
+         std::filesystem::directory_iterator(PathFromUtf8(folder))) {
+      ++count;
+    }
+    return count;
+  }
+};
+
+TEST_F(FileMenu, OpensAProject) {
+  const std::string path = folder_.Write("Projects/Pond é中.kav", ProjectText());
+  Open(path);
+  EXPECT_EQ(Text("txtProjectName"), "Pond");
+  EXPECT_EQ(Caption(), "ORVIK 3.3 KAV - Pond é中.kav");
+  EXPECT_EQ(CurrentPath(), path);
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeavesTheWindowCleared) {
+  SolveForEfficiency();
+  Open(folder_ / "missing.kav");
+  ASSERT_EQ(desktop_.Messages().size(), 1U);
+  EXPECT_EQ(desktop_.Messages()[0], (HeadlessDesktop::Message{"Error reading data file.", "Error",
+                                                              MessageIcon::Exclamation}));
+  EXPECT_EQ(Text("txtBasinArea"), "");
+}
+
+TEST_F(FileMenu, AForeignFileIsToldTwice) {
+  Open(folder_.Write("letter.txt", "Dear Sir,\r\n"));
+  ASSERT_EQ(desktop_.Messages().size(), 2U);
+  EXPECT_EQ(desktop_.Messages()[0].text,
+            "The data file does not appear to be a valid ORVIK 3.3 KAV file.");
+  EXPECT_EQ(desktop_.Messages()[1].text, "Error reading data file.");
+}
+
+TEST_F(FileMenu, AnotherVersionIsToldTwice) {
+  Open(folder_.Write("new.kav", "KAV3.3.02\r\n"));
+  ASSERT_EQ(desktop_.Messages().size(), 2U);
+  EXPECT_EQ(desktop_.Messages()[0].text, "Invalid file version.");
+  EXPECT_EQ(desktop_.Messages()[1].text, "Error reading data file.");
+}
+
+TEST_F(FileMenu, ADamagedFileLeavesWhatWasReadBeforeTheFault) {
+  SolveForEfficiency();
+  auto lines = test::ProjectLines();
+  lines.resize(12);
+  Open(folder_.Write("cut.kav", ProjectText(lines)));
+  EXPECT_EQ(desktop_.Messages().back().text, "Error reading data file.");
+  EXPECT_EQ(Text("txtProjectName"), "Pond");
+  EXPECT_EQ(Text("txtBasinArea"), "10");
+  EXPECT_EQ(Text("txtRunoffCoefficient"), "");
+  EXPECT_EQ(Caption(), "ORVIK 3.3 KAV - cut.kav");
+}
+
+TEST_F(FileMenu, CancellingADialogChangesNothing) {
+  const std::string path = folder_.Write("Pond.kav", ProjectText());
+  Open(path);
+  Type("txtProjectName", "Changed");
+  for (const char* item : {"mnuFile_Open", "mnuFile_SaveAs"}) {
+    Click(item);
+    EXPECT_EQ(Caption(), "ORVIK 3.3 KAV - Pond.kav") << item;
+    EXPECT_EQ(CurrentPath(), path) << item;
+    EXPECT_EQ(Text("txtProjectName"), "Changed") << item;
+  }
+  EXPECT_EQ(ReadBytes(path), ProjectText());
+}
+
+TEST_F(FileMenu, NewIsUntitledAndAsksNothing) {
+  Open(folder_.Write("Pond.kav", ProjectText()));
+  Click("mnuFile_New");
+  EXPECT_EQ(Caption(), kUntitled);
+  EXPECT_EQ(CurrentPath(), "");
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+// --- Saving ---
+
+TEST_F(FileMenu, SaveAsWritesTheProjectAndTakesItsName) {
+  form_->Files().ReadFile(ProjectText());
+  const std::string path = folder_ / "Niño.kav";
+  SaveAs(path);
+  EXPECT_EQ(ReadBytes(path), ProjectText());
+  EXPECT_EQ(Caption(), "ORVIK 3.3 KAV - Niño.kav");
+  EXPECT_EQ(CurrentPath(), path);
+}
+
+TEST_F(FileMenu, SaveOfAnUntitledProjectAsksForAName) {
+  Click("mnuFile_Save");
+  EXPECT_EQ(desktop_.FileDialogs().size(), 1U);
+}
+
+TEST_F(FileMenu, SaveAfterNewAsksForANameAndLeavesTheOldFile) {
+  const std::string path = folder_.Write("Pond.kav", ProjectText());
+  Open(path);
+  Click("mnuFile_New");
+  Click("mnuFile_Save");
+  EXPECT_EQ(desktop_.FileDialogs().size(), 2U);
+  EXPECT_EQ(ReadBytes(path), ProjectText());
+}
+
+TEST_F(FileMenu, SaveAfterTheFileWasDeletedAsksForAName) {
+  const std::string path = folder_.Write("Pond.kav", ProjectText());
+  Open(path);
+  std::filesystem::remove(PathFromUtf8(path));
+  Click("mnuFile_Save");
+  EXPECT_EQ(desktop_.FileDialogs().size(), 2U);
+}
+
+TEST_F(FileMenu, SaveWritesOverTheCurrentFileWithoutAsking) {
+  const std::string path = folder_.Write("Projects/Pond.kav", ProjectText());
+  Open(path);
+  Type("txtProjectName", "Lake");
+  Click("mnuFile_Save");
+  EXPECT_EQ(desktop_.FileDialogs().size(), 1U) << "the open dialog only";
+  auto lines = test::ProjectLines();
+  lines[2] = "Lake";
+  EXPECT_EQ(ReadBytes(path), ProjectText(lines));
+  EXPECT_EQ(FilesIn(folder_ / "Projects"), 1U) << "nothing is left beside it";
+}
+
+TEST_F(FileMenu, AFailedSaveLeavesNothingAndKeepsCaptionAndPath) {
+  form_->Files().ReadFile(ProjectText());
+  const std::string before = CurrentPath();
+  SaveAs(folder_ / "no such folder/Pond.kav");
+  EXPECT_FALSE(FolderExists(folder_ / "no such folder"));
+  EXPECT_EQ(Caption(), kUntitled);
+  EXPECT_EQ(CurrentPath(), before);
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(FileMenu, AFailedSaveKeepsTheGoodFile) {
+  const std::string path = folder_.Write("Projects/Pond.kav", ProjectText());
+  Open(path);
+  Type("txtProjectName", "Lake");
+  std::filesystem::permissions(PathFromUtf8(path), std::filesystem::perms::owner_write,
+                               std::filesystem::perm_options::remove);
+  Click("mnuFile_Save");
+  EXPECT_EQ(ReadBytes(path), ProjectText());
+  EXPECT_EQ(FilesIn(folder_ / "Projects"), 1U);
+  std::filesystem::permissions(PathFromUtf8(path), std::filesystem::perms::owner_write,
+                               std::filesystem::perm_options::add);
+}
+
+TEST_F(FileMenu, AFolderOfTheNameIsLeftAlone) {
+  folder_.Write("Pond.kav/inside", "x");
+  SaveAs(folder_ / "Pond.kav");
+  EXPECT_TRUE(FileExists(folder_ / "Pond.kav/inside"));
+  EXPECT_EQ(CurrentPath(), "");
+}
+
+TEST_F(FileMenu, AFileThatHappensToLieBesideIsNotTouched) {
+  folder_.Write("Projects/Pond.kav.saving", "the user's own");
+  SaveAs(folder_ / "Projects/Pond.kav");
+  EXPECT_TRUE(FileExists(folder_ / "Projects/Pond.kav"));
+  EXPECT_EQ(ReadBytes(folder_ / "Projects/Pond.kav.saving"), "the user's own");
+  EXPECT_EQ(FilesIn(folder_ / "Projects"), 2U);
+}
+
+// --- Dialogs ---
+
+TEST_F(FileMenu, TheDialogsAskForProjectsInTheRightFolder) {
+  desktop_.DocumentsFolder("/home/user/Documents");
+  Click("mnuFile_Open");
+  const std::string path = folder_.Write("Projects/Pond.kav", ProjectText());
+  Open(path);
+  Click("mnuFile_SaveAs");
+  const auto& dialogs = desktop_.FileDialogs();
+  ASSERT_EQ(dialogs.size(), 3U);
+  EXPECT_EQ(dialogs[0].filter, "All Files (*.*)|*.*|ORVIK Stormwater Harvesting (*.kav)|*.kav|");
+  EXPECT_EQ(dialogs[0].filterIndex, 2);
+  EXPECT_EQ(dialogs[0].startFolder, "/home/user/Documents");
+  EXPECT_FALSE(dialogs[0].overwritePrompt);
+  EXPECT_EQ(dialogs[1].startFolder, "/home/user/Documents");
+  EXPECT_EQ(dialogs[2].startFolder, FolderOf(path)) << "the folder of the current file";
+  EXPECT_TRUE(dialogs[2].overwritePrompt && dialogs[2].hideReadOnly && dialogs[2].explorerStyle &&
+              dialogs[2].longNames);
+}
+
+TEST_F(FileMenu, AFolderThatIsGoneIsNoStartFolder) {
+  desktop_.DocumentsFolder("/home/user/Documents");
+  Open(folder_.Write("Projects/Pond.kav", ProjectText()));
+  std::filesystem::remove_all(PathFromUtf8(folder_ / "Projects"));
+  Click("mnuFile_Open");
+  EXPECT_EQ(desktop_.FileDialogs().back().startFolder, "/home/user/Documents");
+}
+
+TEST_F(FileMenu, AnUnknownDocumentsFolderIsEmptyAndSaysWhy) {
+  desktop_.DocumentsFolder(std::nullopt);
+  std::string error;
+  EXPECT_EQ(form_->Files().GetMyDocumentsFolder(error), "");
+  EXPECT_EQ(error, "The folder path could not be detected");
+  Click("mnuFile_Open");
+  EXPECT_EQ(desktop_.FileDialogs().back().startFolder, "");
+  desktop_.DocumentsFolder("/docs");
+  EXPECT_EQ(form_->Files().GetMyDocumentsFolder(error), "/docs");
+  EXPECT_EQ(error, "");
+}
+
+}  // namespace
+}  // namespace orvik

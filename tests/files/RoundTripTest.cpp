@@ -1,0 +1,137 @@
+// Any project that the window can hold, saved and read back, gives the same fields.
+#include <map>
+#include <random>
+
+#include "base/Text.h"
+#include "support/FormFixture.h"
+
+namespace orvik {
+namespace {
+
+using test::FormFixture;
+
+const char* const kDescriptions[] = {"txtProjectName", "txtDescription",        "txtProjectNumber",
+                                     "txtEngineer",    "txtSuervisingEngineer", "txtDate"};
+const char* const kFields[] = {"txtProjectName",
+                               "txtDescription",
+                               "txtProjectNumber",
+                               "txtEngineer",
+                               "txtSuervisingEngineer",
+                               "txtDate",
+                               "txtBasinArea",
+                               "txtRunoffCoefficient",
+                               "txtEquivalentImperviousArea",
+                               "txtIrrigationArea",
+                               "txtSolveFor(1)",
+                               "txtSolveFor(2)",
+                               "txtSolveFor(3)",
+                               "txtR",
+                               "txtE",
+                               "txtV",
+                               "txtErrMsg"};
+
+class RoundTrip : public FormFixture {
+ protected:
+  using State = std::map<std::string, std::string>;
+
+  State Fields() {
+    State state;
+    for (const char* field : kFields) state[field] = std::string(Trim(Text(field)));
+    state["station"] = std::to_string(form_->Fields().cmbClimateStation->ListIndex());
+    state["mode"] = std::to_string(form_->Fields().cmbSolveFor->ListIndex());
+    state["hotspot"] = std::to_string(form_->Chart().HotSpotVisibile());
+    return state;
+  }
+
+  void ExpectSameAfterSavingAndReading() {
+    PressReCalc();  // what is shown belongs to what is typed
+    const State before = Fields();
+    std::string text;
+    ASSERT_TRUE(form_->Files().SaveText(text));
+    ASSERT_TRUE(form_->Files().ReadFile(text));
+    EXPECT_EQ(Fields(), before);
+    const std::string path = folder_ / "trip.kav";
+    ASSERT_TRUE(form_->Files().SaveFile(path));
+    EXPECT_EQ(test::ReadBytes(path), text);
+    Form1 other(otherToolkit_, desktop_, folder_.Path());
+    ASSERT_TRUE(other.Files().LoadFile(path));
+    for (const char* field : kFields) {
+      EXPECT_EQ(std::string(Trim(otherToolkit_.Text(field))), before.at(field)) << field;
+    }
+  }
+
+  HeadlessToolkit otherToolkit_;
+};
+
+class RandomProject {
+ public:
+  explicit RandomProject(unsigned seed) : random_(seed) {}
+
+  unsigned Below(unsigned limit) { return static_cast<unsigned>(random_()) % limit; }
+
+  std::string Words(unsigned length) {
+    static const char* const kLetters[] = {"a",  "Z", " ",  "é", "ñ", "°",
+                                           "中", ",", "\"", "0", "\t"};
+    std::string text;
+    for (unsigned i = 0; i < length; ++i) text += kLetters[Below(11)];
+    return text;
+  }
+
+  // Mostly a good number, sometimes what else a user may leave in a field.
+  std::string Number(double low, double high) {
+    static const char* const kOthers[] = {"", "0", "-1", "abc", "1E10", " 5 ", ".5"};
+    if (Below(5) == 0) return kOthers[Below(7)];
+    return GoodNumber(low, high);
+  }
+
+  std::string GoodNumber(double low, double high) {
+    const double share = Below(1000) / 1000.0;
+    return ConvertToString(static_cast<float>(low + share * (high - low)));
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+class RandomRoundTrip : public RoundTrip, public testing::WithParamInterface<int> {};
+
+TEST_P(RandomRoundTrip, GivesTheSameFields) {
+  const std::int16_t mode = static_cast<std::int16_t>(GetParam());
+  for (unsigned seed = 0; seed < 60; ++seed) {
+    SCOPED_TRACE("mode " + std::to_string(mode) + ", seed " + std::to_string(seed));
+    RandomProject project(seed);
+    for (const char* field : kDescriptions) Type(field, project.Words(project.Below(30)));
+    Choose("cmbClimateStation", project.Below(4) == 0 ? "Orlando" : "Tampa");
+    Choose("cmbSolveFor", SolveForItem(mode));
+    Type("txtBasinArea", project.Number(5, 20));
+    Type("txtRunoffCoefficient", project.Number(0.3, 0.9));
+    Type("txtIrrigationArea", project.Number(2, 20));
+    if (mode == SolveFor::kInteractive) {
+      if (project.Below(4) != 0) {
+        std::string E;
+        form_->Chart().SetHotspotUsing_RV(project.GoodNumber(0, 0.4), project.GoodNumber(0.5, 7),
+                                          E);
+      }
+    } else {
+      Type("txtSolveFor(1)", project.Number(0.5, 90));
+      Type("txtSolveFor(2)", project.Number(0.1, 5));
+    }
+    ExpectSameAfterSavingAndReading();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, RandomRoundTrip, testing::Values(0, 1, 2, 3));
+
+TEST_F(RoundTrip, ADescriptionOfTenThousandCharacters) {
+  SolveForEfficiency();
+  RandomProject project(1);
+  form_->Fields().txtDescription.Text("x" + project.Words(9998) + "x");
+  ExpectSameAfterSavingAndReading();
+}
+
+TEST_F(RoundTrip, AnEmptyProject) {
+  ExpectSameAfterSavingAndReading();
+}
+
+}  // namespace
+}  // namespace orvik

@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include "base/RuntimeErrors.h"
+#include "project/Conversions.h"
+
+namespace orvik {
+namespace {
+
+TEST(Conversions, OneInchPerWeekOnOneAcreInGallonsPerDay) {
+  // 1/12/7 ft/day x 43560 sq ft x 7.480519 gal/cu ft = 3879.18...
+  EXPECT_EQ(InchesPerWeek_To_GPD("1", "1"), "3879.183");
+}
+
+TEST(Conversions, GallonsPerDayOfATextThatIsNoNumberAreThoseOfZero) {
+  EXPECT_EQ(InchesPerWeek_To_GPD("", "1"), "0");
+  EXPECT_EQ(InchesPerWeek_To_GPD("1", "acre"), "0");
+  EXPECT_EQ(InchesPerWeek_To_GPD("1 in", "1 ac"), "3879.183") << "the numeric prefix counts";
+}
+
+TEST(Conversions, GallonsPerDayBeyondSinglePrecisionAreAFault) {
+  EXPECT_THROW(InchesPerWeek_To_GPD("1E38", "1E38"), OverflowError);
+}
+
+TEST(Conversions, NormalizedStorageIsAFootDepthOnTheEia) {
+  std::string site;
+  std::string message;
+  EXPECT_TRUE(NormalizedStorageToSiteStorage("12", "5", site, message));
+  EXPECT_EQ(site, "5");
+  EXPECT_TRUE(NormalizedStorageToSiteStorage(" 3 ", " 5 ", site, message));
+  EXPECT_EQ(site, "1.25");
+}
+
+TEST(Conversions, NormalizedReuseIsSpreadOverTheIrrigationAreaForAWeek) {
+  std::string site;
+  std::string message = "old";
+  EXPECT_TRUE(NormalizedReuseToSiteReuse("0.125", "5", "5", site, message));
+  EXPECT_EQ(site, "0.875");
+  EXPECT_EQ(message, "");
+  EXPECT_TRUE(NormalizedReuseToSiteReuse("0.125", "5", "10", site, message));
+  EXPECT_EQ(site, "0.4375");
+}
+
+TEST(Conversions, NoSignIsRefused) {
+  std::string site;
+  std::string message;
+  EXPECT_TRUE(NormalizedReuseToSiteReuse("-0.125", "5", "5", site, message));
+  EXPECT_EQ(site, "-.875");
+}
+
+TEST(Conversions, AnIrrigationAreaOfZeroIsADivisionByZero) {
+  std::string site;
+  std::string message;
+  EXPECT_THROW(NormalizedReuseToSiteReuse("1", "5", "0", site, message), DivisionByZeroError);
+}
+
+// The form asks for these conversions only where it has filled V, R and the EIA itself, so their
+// sentences can be reached from here alone.
+TEST(Conversions, EveryMissingOrBadTextHasItsSentence) {
+  const struct {
+    const char* V;
+    const char* EIA;
+    const char* message;
+  } storage[] = {
+      {"", "5", "The normalized storage volume has not been defined."},
+      {"x", "5", "The normalized storage volume is not numeric."},
+      {"1", " ", "The equivalent impervious area (EIA) has not been calculated."},
+      {"1", "x", "The equivalent impervious area (EIA) does not evaluate to a number."},
+      {"", "", "The normalized storage volume has not been defined."},
+  };
+  std::string site;
+  std::string message;
+  for (const auto& bad : storage) {
+    EXPECT_FALSE(NormalizedStorageToSiteStorage(bad.V, bad.EIA, site, message)) << bad.message;
+    EXPECT_EQ(message, bad.message);
+  }
+  const struct {
+    const char* R;
+    const char* EIA;
+    const char* area;
+    const char* message;
+  } reuse[] = {
+      {"", "5", "5", "The normalized reuse rate is undefined."},
+      {"x", "5", "5", "The normalized reuse rate does not evaluate to a number."},
+      {"1", "", "5", "The equivalend impervious area has not been calculated."},
+      {"1", "x", "5", "The equivalend impervious area does not evaluate to a number."},
+      {"1", "5", "", "The irrigation area has not been specified."},
+      {"1", "5", "x", "The irrigation area does not evaluate to a number."},
+      {"1", "", "", "The equivalend impervious area has not been calculated."},
+  };
+  for (const auto& bad : reuse) {
+    EXPECT_FALSE(NormalizedReuseToSiteReuse(bad.R, bad.EIA, bad.area, site, message))
+        << bad.message;
+    EXPECT_EQ(message, bad.message);
+  }
+}
+
+}  // namespace
+}  // namespace orvik

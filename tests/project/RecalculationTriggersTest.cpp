@@ -1,0 +1,122 @@
+// When a recalculation runs, counted as the user would notice it.
+#include "support/FormFixture.h"
+
+namespace orvik {
+namespace {
+
+using test::FormFixture;
+
+class RecalculationTriggersTest : public FormFixture {
+ protected:
+  RecalculationTriggersTest() {
+    SolveForEfficiency();
+    Count();
+  }
+
+  // Counts from here on; the form's own listener goes on working.
+  void Count() {
+    auto& listener = form_->Workflow().OnRecalculated;
+    listener = [this, before = listener] {
+      ++runs_;
+      before();
+    };
+  }
+
+  int runs_ = 0;
+};
+
+const char* const kFields[] = {"txtBasinArea", "txtRunoffCoefficient", "txtIrrigationArea",
+                               "txtSolveFor(1)", "txtSolveFor(2)"};
+
+TEST_F(RecalculationTriggersTest, EnterRecalculates) {
+  int expected = 0;
+  for (const char* field : kFields) {
+    Enter(field);
+    EXPECT_EQ(runs_, ++expected) << field;
+  }
+}
+
+TEST_F(RecalculationTriggersTest, LeavingAChangedFieldRecalculatesOnce) {
+  int expected = 0;
+  for (const char* field : kFields) {
+    Type(field, Text(field) + "1");
+    toolkit_.Leave(field);
+    EXPECT_EQ(runs_, ++expected) << field;
+  }
+}
+
+TEST_F(RecalculationTriggersTest, EnterFollowedByLeavingRecalculatesOnce) {
+  TypeAndEnter("txtSolveFor(1)", "1.3");
+  toolkit_.Leave("txtSolveFor(1)");
+  EXPECT_EQ(runs_, 1);
+}
+
+TEST_F(RecalculationTriggersTest, LeavingAnUnchangedFieldDoesNothing) {
+  Enter("txtBasinArea");
+  runs_ = 0;
+  toolkit_.Leave("txtBasinArea");
+  toolkit_.PressKey("txtSolveFor(2)", 'x');  // typed, and taken back
+  Type("txtSolveFor(2)", "0.875");
+  Enter("txtSolveFor(2)");
+  runs_ = 0;
+  toolkit_.Leave("txtSolveFor(2)");
+  EXPECT_EQ(runs_, 0);
+}
+
+TEST_F(RecalculationTriggersTest, AnotherFieldsResultDoesNotCountAsAChange) {
+  TypeAndEnter("txtBasinArea", "11");
+  runs_ = 0;
+  for (const char* field : {"txtSolveFor(3)", "txtSolveFor(1)"}) {
+    toolkit_.PressKey(field, '\t');
+    toolkit_.Leave(field);
+  }
+  EXPECT_EQ(runs_, 0);
+}
+
+TEST_F(RecalculationTriggersTest, ChangingTheStationRecalculates) {
+  Choose("cmbClimateStation", "Orlando");
+  EXPECT_EQ(runs_, 1);
+}
+
+TEST_F(RecalculationTriggersTest, ChangingTheModeRecalculates) {
+  Choose("cmbSolveFor", "Storage Volume");
+  EXPECT_EQ(runs_, 1);
+  toolkit_.Type("txtSolveFor(1)", "61");
+  toolkit_.Leave("txtSolveFor(1)");
+  EXPECT_EQ(runs_, 2);
+}
+
+TEST_F(RecalculationTriggersTest, TheButtonRecalculatesAlways) {
+  PressReCalc();
+  Type("txtBasinArea", "");
+  toolkit_.Leave("txtBasinArea");
+  EXPECT_EQ(runs_, 1);
+  PressReCalc();
+  EXPECT_EQ(runs_, 2);
+  EXPECT_EQ(Message(), "The basin area has not been defined.");
+}
+
+TEST_F(RecalculationTriggersTest, IncompleteDataTakeTheSolutionAwayInsteadOfLeavingAStaleOne) {
+  TypeAndEnter("txtSolveFor(2)", "");
+  EXPECT_EQ(runs_, 0);
+  EXPECT_FALSE(HotspotIsVisible());
+  EXPECT_EQ(Text("txtSolveFor(3)"), "");
+  EXPECT_EQ(Text("txtR") + Text("txtE") + Text("txtV"), "");
+  EXPECT_EQ(Message(), "") << "quietly: the user is still typing";
+}
+
+TEST_F(RecalculationTriggersTest, AStationWithoutCurvesTakesTheSolutionAway) {
+  Choose("cmbClimateStation", "Key West");
+  EXPECT_EQ(desktop_.Messages().back().text, "Can't find data for Key West");
+  EXPECT_EQ(Text("txtSolveFor(3)"), "");
+  EXPECT_EQ(Text("txtE"), "");
+  EXPECT_FALSE(HotspotIsVisible());
+}
+
+TEST_F(RecalculationTriggersTest, EnterIsTakenByTheFieldAndLeavesItsText) {
+  Enter("txtBasinArea");
+  EXPECT_EQ(Text("txtBasinArea"), "10");
+}
+
+}  // namespace
+}  // namespace orvik

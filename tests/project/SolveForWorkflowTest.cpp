@@ -1,0 +1,200 @@
+// The typed modes end to end, and what carries over when the mode changes. The site: EIA 5 ac, 5 ac
+// irrigated, so V = 2.4 S and R = Q / 7. Tampa's curves: E = 50 + 400 (R + 0.05 ln V - 0.15).
+#include "support/FormFixture.h"
+
+namespace orvik {
+namespace {
+
+using test::FormFixture;
+
+class SolveForWorkflowTest : public FormFixture {};
+
+TEST_F(SolveForWorkflowTest, FindsTheEfficiency) {
+  SolveForEfficiency();
+  EXPECT_EQ(Message(), "");
+  EXPECT_EQ(Text("txtV"), "3");
+  EXPECT_EQ(Text("txtR"), "0.125");
+  EXPECT_NEAR(Number("txtE"), 50 + 400 * (0.125 + 0.05 * std::log(3.0) - 0.15), 0.004);
+  EXPECT_EQ(Text("txtSolveFor(3)"), Text("txtE"));
+}
+
+TEST_F(SolveForWorkflowTest, FindsTheStorageVolume) {
+  TypeSite();
+  Choose("cmbSolveFor", "Storage Volume");
+  Type("txtSolveFor(1)", "60");
+  TypeAndEnter("txtSolveFor(2)", "0.875");
+  // ln V = (0.15 + (60 - 50) / 400 - 0.125) / 0.05 = 1
+  EXPECT_EQ(Message(), "");
+  EXPECT_EQ(Text("txtE"), "60");
+  EXPECT_EQ(Text("txtR"), "0.125");
+  EXPECT_NEAR(Number("txtV"), std::exp(1.0), 6e-4);  // the search ends within 1E-5 in/day of R
+  EXPECT_NEAR(Number("txtSolveFor(3)"), std::exp(1.0) * 5 / 12, 3e-4);
+}
+
+TEST_F(SolveForWorkflowTest, FindsTheReuseRate) {
+  TypeSite();
+  Choose("cmbSolveFor", "Reuse Rate");
+  Type("txtSolveFor(1)", "60");
+  TypeAndEnter("txtSolveFor(2)", "1.25");
+  const double R = 0.175 - 0.05 * std::log(3.0);
+  EXPECT_EQ(Message(), "");
+  EXPECT_EQ(Text("txtE"), "60");
+  EXPECT_EQ(Text("txtV"), "3");
+  EXPECT_NEAR(Number("txtR"), R, 1e-7);
+  EXPECT_NEAR(Number("txtSolveFor(3)"), R * 7, 7e-7);
+}
+
+TEST_F(SolveForWorkflowTest, FiveAcreFeetAndOneInchPerWeekAreTwelveInchesAndASeventh) {
+  TypeSite("Orlando");
+  Choose("cmbSolveFor", "Efficiency");
+  Type("txtSolveFor(1)", "5");
+  TypeAndEnter("txtSolveFor(2)", "1");
+  EXPECT_EQ(Text("txtV"), "12");
+  EXPECT_EQ(Text("txtR"), "0.1428571");
+}
+
+TEST_F(SolveForWorkflowTest, AnotherIrrigationAreaChangesTheReuseRateOnly) {
+  SolveForEfficiency();
+  TypeAndEnter("txtIrrigationArea", "10");
+  EXPECT_EQ(Text("txtV"), "3");
+  EXPECT_EQ(Text("txtR"), "0.25");
+}
+
+TEST_F(SolveForWorkflowTest, AChartFailureShowsItsMessageAndHelpTopic) {
+  SolveForEfficiency();
+  TypeAndEnter("txtSolveFor(1)", "5");
+  EXPECT_EQ(Message(), "Normalized storage volume is greater than 7");
+  EXPECT_EQ(form_->Fields().txtErrMsg.ExtendedHelpTopic(), 1);
+  EXPECT_EQ(Text("txtV"), "12") << "filled before the failure";
+  EXPECT_EQ(Text("txtR"), "0.125");
+  EXPECT_EQ(Text("txtE"), "");
+  EXPECT_EQ(Text("txtSolveFor(3)"), "");
+}
+
+TEST_F(SolveForWorkflowTest, AStorageVolumeOfZeroIsLeftToTheChart) {
+  auto file = test::LogarithmicCurves();
+  file.header[0] = "0.5";
+  folder_.Write("KAV Data/Grady.crv", file.Text());
+  TypeSite("Grady");
+  Choose("cmbSolveFor", "Efficiency");
+  Type("txtSolveFor(1)", "0");
+  TypeAndEnter("txtSolveFor(2)", "0.875");
+  EXPECT_EQ(Text("txtV"), "0");
+  EXPECT_EQ(Message(), "Normalized storage volume is less than 0.5");
+}
+
+TEST_F(SolveForWorkflowTest, AFailedReuseRateHidesTheHotspotWhereTheChartIsInteractive) {
+  TypeSite();
+  Choose("cmbSolveFor", "Reuse Rate");
+  Type("txtSolveFor(1)", "60");
+  TypeAndEnter("txtSolveFor(2)", "1.25");
+  ASSERT_TRUE(HotspotIsVisible());
+  form_->Chart().InteractiveMode(kTrue16);
+  TypeAndEnter("txtSolveFor(2)", "0.5");  // V = 1.2 in, left of the curve's start at 1.25 in
+  EXPECT_EQ(Message(),
+            "The normalized storage volume is less than the minimum value for the specified "
+            "efficiency curve.");
+  EXPECT_FALSE(HotspotIsVisible());
+  EXPECT_EQ(Text("txtR"), "");
+}
+
+TEST_F(SolveForWorkflowTest, WithoutAModeNothingMoreIsDone) {
+  SolveForEfficiency();
+  form_->Fields().cmbSolveFor->ListIndex(-1);
+  PressReCalc();
+  EXPECT_EQ(Message(), "");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "5");
+  EXPECT_EQ(Text("txtR"), "");
+}
+
+// --- Change of mode ---
+
+class ModeChangeTest : public FormFixture {
+ protected:
+  std::string Caption(int slot) {
+    return toolkit_.Caption("lblSolveFor(" + std::to_string(slot) + ")");
+  }
+  std::string Slot(int slot) { return Text("txtSolveFor(" + std::to_string(slot) + ")"); }
+  bool IsLocked(const std::string& field) { return toolkit_.Find<HeadlessTextBox>(field).Locked(); }
+  Colour BackColour(const std::string& field) {
+    return toolkit_.Find<HeadlessTextBox>(field).BackColor();
+  }
+};
+
+constexpr const char* kRate = "Reuse Rate (in/week)";
+constexpr const char* kEfficiency = "Efficiency (%)";
+constexpr const char* kStorage = "Storage Volume (ac-ft)";
+
+TEST_F(ModeChangeTest, EachModeHasItsCaptions) {
+  const struct {
+    const char* mode;
+    const char* captions[3];
+  } rows[] = {{"Efficiency", {kStorage, kRate, kEfficiency}},
+              {"Storage Volume", {kEfficiency, kRate, kStorage}},
+              {"Reuse Rate", {kEfficiency, kStorage, kRate}},
+              {"Interactive", {kRate, kEfficiency, kStorage}}};
+  for (const auto& row : rows) {
+    Choose("cmbSolveFor", row.mode);
+    for (int slot = 1; slot <= 3; ++slot) EXPECT_EQ(Caption(slot), row.captions[slot - 1]);
+  }
+}
+
+TEST_F(ModeChangeTest, CarriesTypedValuesOverByQuantity) {
+  Choose("cmbSolveFor", "Efficiency");
+  Type("txtSolveFor(1)", "1.25");
+  Type("txtSolveFor(2)", "0.875");
+  Choose("cmbSolveFor", "Storage Volume");
+  EXPECT_EQ(Slot(1), "");
+  EXPECT_EQ(Slot(2), "0.875");
+  EXPECT_EQ(Slot(3), "");
+  Type("txtSolveFor(1)", "60");
+  Choose("cmbSolveFor", "Reuse Rate");
+  EXPECT_EQ(Slot(1), "60");
+  EXPECT_EQ(Slot(2), "");
+  Choose("cmbSolveFor", "Interactive");
+  EXPECT_EQ(Slot(1) + Slot(2) + Slot(3), "");
+}
+
+TEST_F(ModeChangeTest, CarriesASolvedValueOverAsAGivenOne) {
+  SolveForEfficiency();
+  const std::string E = Slot(3);
+  Choose("cmbSolveFor", "Storage Volume");
+  EXPECT_EQ(Slot(1), E);
+  EXPECT_EQ(Slot(2), "0.875");
+  EXPECT_NEAR(Number("txtSolveFor(3)"), 1.25, 1e-3) << "and solves for the storage we began with";
+  Choose("cmbSolveFor", "Reuse Rate");
+  EXPECT_EQ(Slot(1), E);
+  EXPECT_NEAR(Number("txtSolveFor(3)"), 0.875, 1e-3);
+}
+
+TEST_F(ModeChangeTest, CarriesTheInteractivePointOver) {
+  SolveForEfficiency();
+  Choose("cmbSolveFor", "Interactive");
+  Choose("cmbSolveFor", "Efficiency");
+  EXPECT_EQ(Slot(1), "1.25");
+  EXPECT_EQ(Slot(2), "0.875");
+}
+
+TEST_F(ModeChangeTest, LocksAndColoursFollowTheMode) {
+  for (const char* mode : {"Efficiency", "Storage Volume", "Reuse Rate"}) {
+    Choose("cmbSolveFor", mode);
+    for (const char* output : {"txtR", "txtE", "txtV", "txtSolveFor(3)"}) {
+      EXPECT_TRUE(IsLocked(output)) << mode << ", " << output;
+      EXPECT_EQ(BackColour(output), kButtonFace) << mode << ", " << output;
+    }
+    for (const char* input : {"txtSolveFor(1)", "txtSolveFor(2)"}) {
+      EXPECT_FALSE(IsLocked(input)) << mode << ", " << input;
+      EXPECT_EQ(BackColour(input), kWindowBackground) << mode << ", " << input;
+    }
+    EXPECT_EQ(form_->Chart().InteractiveMode(), kFalse16) << mode;
+  }
+  Choose("cmbSolveFor", "Interactive");
+  for (const char* field : {"txtR", "txtE", "txtV"}) EXPECT_FALSE(IsLocked(field)) << field;
+  for (int slot = 1; slot <= 3; ++slot) {
+    EXPECT_TRUE(IsLocked("txtSolveFor(" + std::to_string(slot) + ")")) << slot;
+  }
+  EXPECT_EQ(form_->Chart().InteractiveMode(), kTrue16);
+}
+
+}  // namespace
+}  // namespace orvik
