@@ -53,6 +53,7 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
   Commands commands;
   AddCommand(app, commands, AddStationsCommand);
   AddCommand(app, commands, AddSolveCommand);
+  AddCommand(app, commands, AddCalcCommand);
   AddCommand(app, commands, AddCurvesCommand);
 
   try {

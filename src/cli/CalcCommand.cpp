@@ -1,0 +1,126 @@
+// kav calc: a project file, calculated and shown field by field as the window would show it.
+#include <iomanip>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "cli/Command.h"
+#include "entry/Form1.h"
+#include "platform/headless/HeadlessDesktop.h"
+#include "platform/headless/HeadlessToolkit.h"
+
+namespace orvik {
+namespace {
+
+// One line of the answer: the field's name in JSON, its caption and unit in text.
+struct Row {
+  std::string name;
+  std::string caption;
+  std::string value;
+  std::string unit = {};
+};
+
+std::string ChosenItem(const ComboBox& list) {
+  return list.List(list.ListIndex());
+}
+
+void AddDescription(std::vector<Row>& rows, ProjectForm& form) {
+  rows.push_back({"txtProjectName", "Project name", form.txtProjectName.Text()});
+  rows.push_back({"txtDescription", "Description", form.txtDescription.Text()});
+  rows.push_back({"txtProjectNumber", "Project number", form.txtProjectNumber.Text()});
+  rows.push_back({"txtEngineer", "Engineer", form.txtEngineer.Text()});
+  rows.push_back(
+      {"txtSuervisingEngineer", "Supervising engineer", form.txtSuervisingEngineer.Text()});
+  rows.push_back({"txtDate", "Date", form.txtDate.Text()});
+}
+
+void AddSite(std::vector<Row>& rows, ProjectForm& form) {
+  rows.push_back({"txtBasinArea", "Basin area", form.txtBasinArea.Text(), "ac"});
+  rows.push_back({"txtRunoffCoefficient", "Runoff coefficient", form.txtRunoffCoefficient.Text()});
+  rows.push_back({"txtEquivalentImperviousArea", "Equivalent impervious area",
+                  form.txtEquivalentImperviousArea.Text(), "ac"});
+  rows.push_back({"txtIrrigationArea", "Irrigation area", form.txtIrrigationArea.Text(), "ac"});
+  rows.push_back({"cmbClimateStation", "Climate station", ChosenItem(*form.cmbClimateStation)});
+  rows.push_back({"cmbSolveFor", "Solve for", ChosenItem(*form.cmbSolveFor)});
+}
+
+void AddSolution(std::vector<Row>& rows, ProjectForm& form) {
+  for (int slot = 1; slot <= kSolveForSlots; ++slot) {
+    rows.push_back({"txtSolveFor(" + std::to_string(slot) + ")", form.lblSolveFor(slot).Caption(),
+                    form.txtSolveFor(slot).Text()});
+  }
+  rows.push_back({"txtR", "Normalized reuse rate R", form.txtR.Text(), "in/day on the EIA"});
+  rows.push_back({"txtE", "Efficiency E", form.txtE.Text(), "% of the runoff"});
+  rows.push_back({"txtV", "Normalized storage volume V", form.txtV.Text(), "in on the EIA"});
+}
+
+std::vector<Row> RowsOf(Form1& window) {
+  std::vector<Row> rows;
+  AddDescription(rows, window.Fields());
+  AddSite(rows, window.Fields());
+  AddSolution(rows, window.Fields());
+  rows.push_back({"ReuseRate", "Reuse rate of the site", window.ReuseRate(), "gal/day"});
+  return rows;
+}
+
+void PrintJson(std::ostream& out, const std::vector<Row>& rows, const ctrlErrorMessageBar& bar) {
+  nlohmann::ordered_json object;
+  for (const Row& row : rows) object[row.name] = row.value;
+  object["txtErrMsg"] = bar.Text();
+  object["helpTopic"] = bar.ExtendedHelpTopic();
+  // Bytes of a damaged file that are no text are shown as the sign for that.
+  out << object.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+}
+
+void PrintText(std::ostream& out, const std::vector<Row>& rows) {
+  for (const Row& row : rows) {
+    const bool hasUnit = !row.value.empty() && !row.unit.empty();
+    out << std::left << std::setw(29) << row.caption;
+    if (hasUnit) {
+      out << std::setw(12) << row.value << row.unit;
+    } else {
+      out << row.value;
+    }
+    out << '\n';
+  }
+}
+
+// Reads the project and the curves of its station, or says why not.
+bool Open(Console& console, Form1& window, const HeadlessDesktop& desktop,
+          const std::string& path) {
+  const bool isRead = window.Files().OpenProject(path);
+  for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
+  if (!isRead) return false;
+  const std::string station = ChosenItem(*window.Fields().cmbClimateStation);
+  if (station.empty() || window.Chart().IsLoaded()) return true;
+  if (desktop.Messages().empty()) {
+    PrintMessage(console, "The curve file of " + station + " is damaged or cannot be read.");
+  }
+  return false;
+}
+
+ExitCode RunCalc(Console& console, const CommonOptions& options, const std::string& path) {
+  HeadlessToolkit toolkit;
+  HeadlessDesktop desktop;
+  Form1 window(toolkit, desktop, DataFolder(console, options));
+  if (!Open(console, window, desktop, path)) return ExitCode::FileTrouble;
+  const auto rows = RowsOf(window);
+  const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
+  options.json ? PrintJson(console.out, rows, bar) : PrintText(console.out, rows);
+  if (bar.IsSet() == kFalse16) return ExitCode::Done;
+  PrintMessage(console, bar.Text());
+  return ExitCode::CalculationSaysNo;
+}
+
+}  // namespace
+
+CommandRun AddCalcCommand(CLI::App& app) {
+  auto path = std::make_shared<std::string>();
+  auto* command = app.add_subcommand("calc", "Calculate a project file and show every field");
+  command->add_option("project", *path, "Project file")->required()->type_name("PROJECT.kav");
+  command->footer("Example:\n  kav calc samples/efficiency.kav --json");
+  return [path](Console& console, const CommonOptions& options) {
+    return RunCalc(console, options, *path);
+  };
+}
+
+}  // namespace orvik

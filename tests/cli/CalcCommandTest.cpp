@@ -1,0 +1,120 @@
+// kav calc on good, incomplete and unreadable projects.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "support/CurveFileText.h"
+#include "support/KavRun.h"
+#include "support/ProjectText.h"
+#include "support/TempFolder.h"
+
+namespace orvik {
+namespace {
+
+using test::KavRun;
+using test::ProjectLines;
+using test::ProjectText;
+using testing::HasSubstr;
+
+class Calc : public testing::Test {
+ protected:
+  Calc() { folder_.Write("KAV Data/Tampa.crv", test::LogarithmicCurves().Text()); }
+
+  KavRun Calculate(const std::string& project, bool json = false) {
+    const std::string path = folder_.Write("pond é.kav", project);
+    return Run({"calc", path}, json);
+  }
+  KavRun Run(std::vector<std::string> arguments, bool json = false) {
+    if (json) arguments.emplace_back("--json");
+    return test::RunKavWith(arguments, folder_.Path());
+  }
+
+  test::TempFolder folder_;
+};
+
+TEST_F(Calc, ShowsEveryFieldAsATable) {
+  const KavRun run = Calculate(ProjectText());
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_EQ(run.err, "");
+  EXPECT_THAT(run.out, HasSubstr("Project name                 Pond\n"));
+  EXPECT_THAT(run.out, HasSubstr("Equivalent impervious area   5           ac\n"));
+  EXPECT_THAT(run.out, HasSubstr("Solve for                    Storage Volume\n"));
+  EXPECT_THAT(run.out, HasSubstr("Efficiency (%)               60\n"));
+  EXPECT_THAT(run.out, HasSubstr("Normalized reuse rate R      0.125       in/day on the EIA\n"));
+}
+
+TEST_F(Calc, PrintsOneJsonObjectWithTheNamesOfTheForm) {
+  const KavRun run = Calculate(ProjectText(), true);
+  EXPECT_EQ(run.exitCode, 0);
+  const auto fields = nlohmann::json::parse(run.out);
+  for (const char* name :
+       {"txtProjectName", "txtDescription", "txtProjectNumber", "txtEngineer",
+        "txtSuervisingEngineer", "txtDate", "txtBasinArea", "txtRunoffCoefficient",
+        "txtEquivalentImperviousArea", "txtIrrigationArea", "cmbClimateStation", "cmbSolveFor",
+        "txtSolveFor(1)", "txtSolveFor(2)", "txtSolveFor(3)", "txtR", "txtE", "txtV",
+        "txtErrMsg"}) {
+    EXPECT_TRUE(fields.contains(name)) << name;
+  }
+  EXPECT_EQ(fields["cmbClimateStation"], "Tampa");
+  EXPECT_EQ(fields["txtSolveFor(1)"], "60");
+  EXPECT_EQ(fields["txtErrMsg"], "");
+}
+
+TEST_F(Calc, AMessageOnTheBarExitsOneAndStandsOnTheErrorStream) {
+  auto lines = ProjectLines();
+  lines[14] = "99.9";
+  const KavRun run = Calculate(ProjectText(lines), true);
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_EQ(run.err, "Design efficiency is greater than 90%.\n");
+  const auto fields = nlohmann::json::parse(run.out);
+  EXPECT_EQ(fields["txtErrMsg"], "Design efficiency is greater than 90%.");
+  EXPECT_EQ(fields["helpTopic"], 1);
+  EXPECT_EQ(fields["txtE"], "99.9");
+}
+
+TEST_F(Calc, AProjectWithoutAStationExitsOne) {
+  auto lines = ProjectLines();
+  lines[8] = "-1";
+  const KavRun run = Calculate(ProjectText(lines));
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_EQ(run.err, "The climate station has not been selected.\n");
+}
+
+TEST_F(Calc, AFileThatCannotBeReadExitsThreeWithTheCommandsOwnSentences) {
+  const KavRun missing = Run({"calc", folder_ / "missing.kav"});
+  EXPECT_EQ(missing.exitCode, 3);
+  EXPECT_EQ(missing.out, "");
+  EXPECT_EQ(missing.err, "Error reading data file.\n");
+  const KavRun foreign = Calculate("Dear Sir,\r\n");
+  EXPECT_EQ(foreign.exitCode, 3);
+  EXPECT_EQ(foreign.err,
+            "The data file does not appear to be a valid ORVIK 3.3 KAV file.\n"
+            "Error reading data file.\n");
+  const KavRun newer = Calculate("KAV3.3.02\r\n" + ProjectText().substr(11));
+  EXPECT_EQ(newer.err, "Invalid file version.\nError reading data file.\n");
+  auto lines = ProjectLines();
+  lines.pop_back();
+  EXPECT_EQ(Calculate(ProjectText(lines)).exitCode, 3);
+  EXPECT_EQ(Run({"calc", folder_.Path()}).exitCode, 3) << "a folder";
+}
+
+TEST_F(Calc, CurvesThatCannotBeReadExitThree) {
+  auto lines = ProjectLines();
+  lines[8] = "9";
+  const KavRun missing = Calculate(ProjectText(lines));
+  EXPECT_EQ(missing.exitCode, 3);
+  EXPECT_EQ(missing.out, "");
+  EXPECT_EQ(missing.err, "Can't find data for Key West\n");
+  folder_.Write("KAV Data/Key West.crv", "cut off");
+  const KavRun damaged = Calculate(ProjectText(lines));
+  EXPECT_EQ(damaged.exitCode, 3);
+  EXPECT_EQ(damaged.err, "The curve file of Key West is damaged or cannot be read.\n");
+}
+
+TEST_F(Calc, WithoutAProjectTheUsageIsWrong) {
+  EXPECT_EQ(Run({"calc"}).exitCode, 2);
+}
+
+}  // namespace
+}  // namespace orvik
