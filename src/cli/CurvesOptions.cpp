@@ -28,7 +28,7 @@ const std::string_view kBalanceDefinition =
 namespace {
 
 std::string ValidatePositive(const std::string& text) {
-  const std::string fault = ValidateNumber(text);
+  std::string fault = ValidateNumber(text);
   if (!fault.empty()) return fault;
   return ParseNumber(text) > 0 ? "" : "\"" + text + "\" is not above zero";
 }
@@ -39,7 +39,7 @@ std::string ValidateHoldOff(const std::string& text) {
 }
 
 std::string ValidateAbstraction(const std::string& text) {
-  const std::string fault = ValidateNumber(text);
+  std::string fault = ValidateNumber(text);
   if (!fault.empty()) return fault;
   return ParseNumber(text) >= 0 ? "" : "\"" + text + "\" is below zero";
 }

@@ -15,6 +15,7 @@ std::vector<double> JudgedVolumes(double first, double last) {
   const auto steps =
       static_cast<int>(std::clamp(std::ceil((last - first) / kStepV - 1e-9), 1.0, kMostSteps));
   std::vector<double> volumes;
+  volumes.reserve(static_cast<std::size_t>(steps) + 1);
   for (int i = 0; i < steps; ++i) volumes.push_back(first + (last - first) * i / steps);
   volumes.push_back(last);
   return volumes;

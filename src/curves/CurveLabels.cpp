@@ -18,7 +18,7 @@ constexpr double kCharacterShape = 0.58;  // width of a character over the heigh
 constexpr double kFrameShape = 4.0 / 3.0;
 constexpr double kClearanceR = 0.0012;  // between a label and its own curve
 constexpr double kEnoughRoomR = 0.003;  // above a label
-constexpr double kNearlyR = 0.0004;     // half a pixel of a common chart
+constexpr double kNearlyR = 0.0001;     // less than a pixel of a common chart
 constexpr double kColumnShare = 0.5;    // of the V axis
 constexpr double kDecimals = 1e4;       // positions are written with four decimals
 
