@@ -13,7 +13,7 @@
 namespace orvik {
 namespace {
 
-constexpr int kFramePerCurveWidth = 320;  // frame height over the width of a curve's line
+constexpr int kFramePerCurveWidth = 280;  // frame height over the width of a curve's line
 
 int CurveWidth(const clsRectangle_Integer& frame) {
   return std::max(1, (frame.Bottom - frame.Top + kFramePerCurveWidth / 2) / kFramePerCurveWidth);
@@ -59,7 +59,7 @@ void DrawDot(Surface& surface, Point centre, int reach, Colour colour) {
 
 // The paper that a text covers; above its characters a cell is blank.
 Area CharactersOf(Point at, Size size) {
-  return {at.x, at.y + size.height / 8, at.x + size.width, at.y + size.height};
+  return {at.x, at.y + size.height / 6, at.x + size.width, at.y + size.height};
 }
 
 // Nothing where the place is beyond 16-bit pixels, far off the chart.
@@ -71,15 +71,24 @@ std::optional<Point> PlaceOf(const CurveLabel& label, const PlotGeometry& geomet
   }
 }
 
+// A caption whose place lies in the frame is kept off the frame's right and bottom lines.
+Point KeepInFrame(Point at, Size size, const clsRectangle_Integer& frame) {
+  const int off = std::max(2, size.height / 4);  // pixels
+  if (!IsInside(at, frame)) return at;
+  return {std::min(at.x, frame.Right - off - size.width),
+          std::min(at.y, frame.Bottom - off - size.height)};
+}
+
 void DrawLabel(Surface& surface, const ChartScene& scene, const TextRoom& room,
                const CurveLabel& label, const Font& font) {
   const std::string_view text = Trim(label.Text);
-  const auto at = PlaceOf(label, scene.geometry);
-  if (text.empty() || !at) return;
+  const auto place = PlaceOf(label, scene.geometry);
+  if (text.empty() || !place) return;
   const Size size = surface.MeasureText(text, font);
-  if (!room.Has(PlaceLevel(std::string(text), font, size, *at).area)) return;
-  surface.FillArea(CharactersOf(*at, size), kPaper);
-  surface.WriteText(*at, text, font, kBlack);
+  const Point at = KeepInFrame(*place, size, scene.layout.Frame);
+  if (!room.Has(PlaceLevel(std::string(text), font, size, at).area)) return;
+  surface.FillArea(CharactersOf(at, size), kPaper);
+  surface.WriteText(at, text, font, kBlack);
 }
 
 }  // namespace

@@ -24,8 +24,9 @@ void DrawCurves(Surface& surface, const ChartScene& scene);
 void DrawCurveEnds(Surface& surface, const ChartScene& scene);
 
 // Every caption with its upper left corner at its pixel, on cleared paper, so that no line runs
-// through it. One that would leave the room or run into an axis' text is left out: half of "E=95%"
-// would be a wrong number.
+// through it, and moved as far as it needs to stay off the frame's right and bottom lines. One that
+// would leave the room or run into an axis' text is left out: half of "E=95%" would be a wrong
+// number.
 void DrawLabels(Surface& surface, const ChartScene& scene, const TextRoom& room);
 
 }  // namespace orvik

@@ -16,6 +16,9 @@ class CairoImageSurface final : public Surface {
   // What has been drawn.
   Picture Pixels() const;
 
+  // For what Cairo itself can draw upon it.
+  cairo_surface_t* Image() const { return image_.get(); }
+
   // The picture as the bytes of a PNG file.
   std::string Png() const;
 
