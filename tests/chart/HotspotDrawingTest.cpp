@@ -219,9 +219,7 @@ TEST_F(HotspotDrawing, WithoutCurvesThereIsNoMarkToEraseOrHighlight) {
   chart_.HideHotSpot();
   EXPECT_THAT(host_.Take(), IsEmpty());
   EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
-  RecordingSurface surface;
-  chart_.PaintHotspot(surface);
-  EXPECT_THAT(surface.Take(), IsEmpty());
+  EXPECT_THAT(PaintedMarks(), IsEmpty());
 }
 
 TEST_F(HotspotDrawing, AHighlightBeyondThePixelsIsNotDrawn) {
