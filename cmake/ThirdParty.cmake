@@ -13,6 +13,17 @@ endfunction()
 orvik_header_only(orvik_cli11 CLI)
 orvik_header_only(orvik_json nlohmann)
 
+# Pictures in files are drawn with Cairo and Pango. The cross builds have neither: their kav makes no picture files.
+if(NOT CMAKE_CROSSCOMPILING)
+  find_package(PkgConfig)
+  if(PKG_CONFIG_FOUND)
+    pkg_check_modules(PANGOCAIRO IMPORTED_TARGET pangocairo)
+  endif()
+  if(NOT WIN32 AND NOT PANGOCAIRO_FOUND)
+    message(FATAL_ERROR "Pango and Cairo are needed: libpango1.0-dev, libcairo2-dev")
+  endif()
+endif()
+
 if(ORVIK_TESTS)
   if(CMAKE_CROSSCOMPILING)
     set(INSTALL_GTEST OFF) # it names its targets GTest::gmock and GTest::gtest_main itself

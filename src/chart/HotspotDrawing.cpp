@@ -1,31 +1,18 @@
 #include "chart/HotspotDrawing.h"
 
 #include <array>
-#include <vector>
 
-#include "base/RuntimeErrors.h"
+#include "chart/ChartColours.h"
+#include "chart/CurvePixels.h"
 
 namespace orvik {
 namespace {
-
-constexpr Colour kWhite = 0xFFFFFF;
 
 Pen MarkPen(const Surface& surface, int width) {
   if (surface.Supports(SurfaceFeature::ExclusiveOr)) {
     return {kMarkColour, width, DrawMode::ExclusiveOr};
   }
-  return {kWhite ^ kMarkColour, width, DrawMode::Copy};
-}
-
-// The samples' pixels; one that several samples share is taken once.
-std::vector<Point> CurvePixels(const EfficiencyCurve& curve, const PlotGeometry& geometry) {
-  std::vector<Point> pixels;
-  pixels.reserve(curve.V.size());
-  for (std::size_t j = 0; j < curve.V.size(); ++j) {
-    const Point pixel{geometry.XPlotToXFrame(curve.V[j]), geometry.YPlotToYFrame(curve.R[j])};
-    if (pixels.empty() || pixels.back() != pixel) pixels.push_back(pixel);
-  }
-  return pixels;
+  return {kPaper ^ kMarkColour, width, DrawMode::Copy};
 }
 
 }  // namespace
@@ -50,12 +37,9 @@ void DrawHotspot(Surface& surface, const Hotspot& hotspot, const clsRectangle_In
 
 bool DrawHighlightCurve(Surface& surface, const EfficiencyCurve& curve,
                         const PlotGeometry& geometry) {
-  try {
-    surface.Polyline(CurvePixels(curve, geometry), MarkPen(surface, 1));
-    return true;
-  } catch (const NumericError&) {
-    return false;
-  }
+  const auto pixels = CurvePixels(curve, geometry);
+  if (pixels) surface.Polyline(*pixels, MarkPen(surface, 1));
+  return pixels.has_value();
 }
 
 }  // namespace orvik

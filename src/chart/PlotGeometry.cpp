@@ -14,6 +14,13 @@ constexpr double kAboveFactor = 1.01;       // band above the frame, in title he
 constexpr double kBelowFactor =
     1.2;  // band below the frame, in title heights, beside one label height
 
+// Text that starts on the title band's top row ends above the frame; the title's own band is a
+// little lower than the cell of its text, so that the band reaches into the margin.
+constexpr double kTitleLift = 0.25;    // in title heights
+constexpr double kMostTitleLift = 16;  // pixels of the margin
+
+constexpr double kNumberGap = 0.4;  // between the frame and its vertical numbers, in label heights
+
 double Quotient(double dividend, double divisor) {
   if (divisor == 0) throw DivisionByZeroError();
   return dividend / divisor;
@@ -61,10 +68,22 @@ FrameLayout LayoutFrame(int width, int height, const clsPlotWindow& window,
   FrameLayout layout;
   layout.Frame = {ToInt16(left), ToInt16(left + extents.frameWidth), ToInt16(top), ToInt16(bottom)};
   const clsRectangle_Integer& frame = layout.Frame;
-  layout.Title = {frame.Left, frame.Right, ToInt16(titleTop), frame.Top};
-  layout.HorizontalAxis = {frame.Left, frame.Right, frame.Bottom, ToInt16(bottom + extents.below)};
-  layout.VerticalAxis = {ToInt16(kMargin), frame.Left, frame.Top, frame.Bottom};
+  const double pixelsPerUnit = extents.frameHeight / (window.YMax - window.YMin);
+  const double lift = std::min(kMostTitleLift, kTitleLift * title * pixelsPerUnit);
+  const double gap = kNumberGap * heights.Label * pixelsPerUnit;
+  layout.Title = {frame.Left, frame.Right, ToInt16(titleTop - lift), frame.Top};
+  layout.HorizontalAxis = {frame.Left, frame.Right, ToInt16(frame.Bottom + 1),
+                           ToInt16(bottom + extents.below)};
+  layout.VerticalAxis = {ToInt16(std::min(kMargin, frame.Left - gap)), ToInt16(frame.Left - gap),
+                         frame.Top, frame.Bottom};
   return layout;
+}
+
+int PixelHeight(float height, const clsPlotWindow& window, const clsRectangle_Integer& frame) {
+  const double pixels = RoundHalfToEven(static_cast<double>(height) * (frame.Bottom - frame.Top) /
+                                        (window.YMax - window.YMin));
+  constexpr double kMost = 32767;
+  return pixels >= 0 && pixels <= kMost ? static_cast<int>(pixels) : 0;
 }
 
 std::int16_t PlotGeometry::XPlotToXFrame(double x) const {

@@ -16,13 +16,19 @@ struct LayoutHeights {
   float Tick = 0.005F;   // length of a tick
 };
 
-// The frame and the three bands that share its columns or rows.
+// The frame and the three bands that share its columns or rows. Texts start at the band's edge: the
+// title on the top row, the horizontal numbers on the top row, the vertical numbers against the
+// right column. Each edge lies a little off the frame, so that no text touches its lines.
 struct FrameLayout {
   clsRectangle_Integer Frame;
   clsRectangle_Integer Title;           // above the frame, its columns
   clsRectangle_Integer HorizontalAxis;  // below the frame, its columns
   clsRectangle_Integer VerticalAxis;    // left of the frame, its rows
 };
+
+// The height of a text or a mark in pixels, from its height in units of the vertical axis. 0 where
+// it has no 16-bit height.
+int PixelHeight(float height, const clsPlotWindow& window, const clsRectangle_Integer& frame);
 
 // The frame in a control of `width` x `height` pixels: 20 pixels of margin all round, a 4:3 frame
 // as large as the remaining width or height allows, centred, with room above for the title block

@@ -38,7 +38,7 @@ void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
     return;
   }
   isLoaded_ = false;
-  Repaint();
+  Refresh();
   stationName_ = ClimateStationName(StationIndex);
   stationIndex_ = StationIndex;
   const std::string folder = designDataDirectory_.empty()
@@ -90,7 +90,7 @@ void ctrlStormwaterReuse::Clear() {
   errMsg_.clear();
   helpTopicIndex_ = kNoHelp;
   hotspotVisible_ = false;
-  Repaint();
+  Refresh();
 }
 
 // --- Geometry ---
@@ -98,11 +98,12 @@ void ctrlStormwaterReuse::Clear() {
 void ctrlStormwaterReuse::Resize(int width, int height) {
   width_ = width;
   height_ = height;
-  Repaint();
+  Refresh();
   if (isLoaded_) LayOut();
 }
 
 void ctrlStormwaterReuse::LayOut() {
+  regions_.assign(curves_.Curves.size(), std::nullopt);
   const clsPlotWindow window{curves_.VMin, curves_.VMax, curves_.RMin, curves_.RMax};
   layout_ = LayoutFrame(width_, height_, window, layoutHeights_);
   geometry_ = PlotGeometry(window, layout_.Frame);
@@ -176,7 +177,7 @@ bool ctrlStormwaterReuse::CheckE(double E) {
 
 bool ctrlStormwaterReuse::SetHotspotUsing_RV(std::string_view R, std::string_view V,
                                              std::string& E) {
-  Repaint();
+  Refresh();
   const double rate = ParseNumber(R);
   const double volume = ParseNumber(V);
   E.clear();
@@ -193,7 +194,7 @@ bool ctrlStormwaterReuse::SetHotspotUsing_RV(std::string_view R, std::string_vie
 
 bool ctrlStormwaterReuse::SetHotspotUsing_ER(std::string_view E, std::string_view R,
                                              std::string& V) {
-  Repaint();
+  Refresh();
   const double efficiency = ParseNumber(E);
   const double rate = ParseNumber(R);
   const std::string efficiencyText(E);
@@ -213,7 +214,7 @@ bool ctrlStormwaterReuse::SetHotspotUsing_ER(std::string_view E, std::string_vie
 
 bool ctrlStormwaterReuse::SetHotspotUsing_EV(std::string_view E, std::string_view V,
                                              std::string& R) {
-  Repaint();
+  Refresh();
   const double efficiency = ParseNumber(E);
   const double volume = ParseNumber(V);
   const std::string efficiencyText(E);
@@ -261,7 +262,7 @@ void ctrlStormwaterReuse::ShowSolution(double V, double R, double E, EfficiencyC
 bool ctrlStormwaterReuse::LocateHotspot() {
   ForgetE();
   for (std::size_t i = 0; i + 1 < curves_.Curves.size(); ++i) {
-    if (LocateBetween(curves_.Curves[i], curves_.Curves[i + 1])) return Succeed();
+    if (LocateBetween(i)) return Succeed();
   }
   return FailLocation();
 }
@@ -270,9 +271,11 @@ bool ctrlStormwaterReuse::FailLocation() {
   return Fail("Out of range", kRangeHelp);
 }
 
-bool ctrlStormwaterReuse::LocateBetween(const EfficiencyCurve& A, const EfficiencyCurve& B) {
-  const FramePolygon region = FindPolygonInPlotCoordinates(A, B, geometry_);
-  if (!IsPointInsidePolygon(hotspot_.X(), hotspot_.Y(), region)) return false;
+// Between curve i and the next.
+bool ctrlStormwaterReuse::LocateBetween(std::size_t i) {
+  if (!IsPointInsidePolygon(hotspot_.X(), hotspot_.Y(), Region(i))) return false;
+  const EfficiencyCurve& A = curves_.Curves[i];
+  const EfficiencyCurve& B = curves_.Curves[i + 1];
   const auto found = FindEBetweenCurves(hotspot_.V(), hotspot_.R(), A, B);
   if (!found) return false;
   E_ = found->E;
@@ -280,6 +283,14 @@ bool ctrlStormwaterReuse::LocateBetween(const EfficiencyCurve& A, const Efficien
   highlightCurve_ = InterpolateCurve(A, B, found->t, ToSingle(found->E));
   SampleCurve(*highlightCurve_);
   return true;
+}
+
+const FramePolygon& ctrlStormwaterReuse::Region(std::size_t i) {
+  std::optional<FramePolygon>& region = regions_[i];
+  if (!region) {
+    region = FindPolygonInPlotCoordinates(curves_.Curves[i], curves_.Curves[i + 1], geometry_);
+  }
+  return *region;
 }
 
 void ctrlStormwaterReuse::ForgetE() {

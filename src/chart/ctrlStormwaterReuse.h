@@ -7,10 +7,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Boolean16.h"
+#include "chart/ChartScene.h"
+#include "chart/ChartText.h"
 #include "chart/Hotspot.h"
 #include "chart/PlotGeometry.h"
+#include "engine/CurvePolygon.h"
 #include "engine/CurveSet.h"
 #include "platform/Desktop.h"
 #include "platform/Host.h"
@@ -106,9 +110,23 @@ class ctrlStormwaterReuse {
   // The curve through the hotspot's E; nothing where E is undefined.
   const std::optional<EfficiencyCurve>& HighlightCurve() const { return highlightCurve_; }
 
-  // Draws the hotspot, if it is visible, as the last step of painting the control. A highlight is
-  // not drawn again: painting takes it away, so a window always paints the whole control.
-  void PaintHotspot(Surface& surface);
+  // --- Painting ---
+
+  // Paints the whole control: paper, background, and below the border, while curves are loaded and
+  // UserMode is True, the chart with its hotspot. A highlight is not painted again, so a window
+  // always paints the whole control. Nothing else of the control changes.
+  void Paint(Surface& surface);
+
+  // Has the whole control painted again soon.
+  void Refresh();
+
+  // True while the control works for a user; False where a host only lays it out, which shows no
+  // chart. True at first.
+  Boolean16 UserMode() const { return ToBoolean16(userMode_); }
+  void UserMode(Boolean16 on);
+
+  // Lies under the chart while InteractiveMode is False, from the upper left corner on, unscaled.
+  void BackgroundPicture(std::optional<Picture> picture);
 
   // --- Mouse and keys ---
 
@@ -149,7 +167,8 @@ class ctrlStormwaterReuse {
   bool ExtractCurveFor(std::string_view text, double E, EfficiencyCurve& curve);
   void ShowSolution(double V, double R, double E, EfficiencyCurve curve);
   bool LocateHotspot();
-  bool LocateBetween(const EfficiencyCurve& A, const EfficiencyCurve& B);
+  bool LocateBetween(std::size_t i);
+  const FramePolygon& Region(std::size_t i);
   bool FailLocation();
   void ForgetE();
 
@@ -163,7 +182,17 @@ class ctrlStormwaterReuse {
   bool DrawHighlight();
   void ToggleHotspot();
   Surface* TransientSurface() const;
-  void Repaint();
+
+  void PaintBackground(Surface& surface) const;
+  void PaintChart(Surface& surface) const;
+  ChartScene Scene() const;
+  void DrawTitleBlock_Screen(Surface& surface, TextRoom& room) const;
+  void DrawPlotFrame_Screen(Surface& surface) const;
+  void DrawCurves_Screen(Surface& surface) const;
+  void DrawCurveEnds_Screen(Surface& surface) const;
+  void DrawLabels_Screen(Surface& surface, const TextRoom& room) const;
+  void DrawHotspot_Screen(Surface& surface) const;
+  void DrawBorder(Surface& surface) const;
 
   Desktop& desktop_;
   std::string defaultDataFolder_;
@@ -179,6 +208,8 @@ class ctrlStormwaterReuse {
   LayoutHeights layoutHeights_;
   FrameLayout layout_;
   PlotGeometry geometry_;
+  // The region between curve i and the next, made when it is first asked for in a layout.
+  std::vector<std::optional<FramePolygon>> regions_;
 
   std::string errMsg_;
   std::int16_t helpTopicIndex_ = 0;
@@ -190,6 +221,8 @@ class ctrlStormwaterReuse {
   std::optional<EfficiencyCurve> highlightCurve_;
 
   Host* host_ = nullptr;
+  bool userMode_ = true;
+  std::optional<Picture> backgroundPicture_;
   bool interactive_ = false;
   bool mouseCaptured_ = false;
   bool highlightShown_ = false;  // the highlight curve is on the screen

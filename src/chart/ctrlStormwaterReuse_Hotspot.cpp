@@ -15,8 +15,6 @@ constexpr std::int16_t kKeyUp = 38;
 constexpr std::int16_t kKeyRight = 39;
 constexpr std::int16_t kKeyDown = 40;
 
-constexpr int kHotspotPenWidth = 1;  // pixels
-
 void Raise(const std::function<void()>& event) {
   if (event) event();
 }
@@ -31,7 +29,17 @@ void ctrlStormwaterReuse::InteractiveMode(Boolean16 on) {
   const bool interactive = on != kFalse16;
   if (interactive == interactive_) return;
   interactive_ = interactive;
-  Repaint();  // the background differs
+  Refresh();  // the background differs
+}
+
+void ctrlStormwaterReuse::UserMode(Boolean16 on) {
+  userMode_ = on != kFalse16;
+  Refresh();
+}
+
+void ctrlStormwaterReuse::BackgroundPicture(std::optional<Picture> picture) {
+  backgroundPicture_ = std::move(picture);
+  Refresh();
 }
 
 void ctrlStormwaterReuse::HideHotSpot() {
@@ -160,9 +168,9 @@ bool ctrlStormwaterReuse::DrawHighlight() {
 void ctrlStormwaterReuse::ToggleHotspot() {
   if (Surface* surface = TransientSurface()) {
     RemoveHighlight();
-    DrawHotspot(*surface, hotspot_, geometry_.Frame(), kHotspotPenWidth);
+    DrawHotspot_Screen(*surface);
   } else {
-    Repaint();
+    Refresh();
   }
 }
 
@@ -172,13 +180,8 @@ Surface* ctrlStormwaterReuse::TransientSurface() const {
   return surface && surface->Supports(SurfaceFeature::ExclusiveOr) ? surface : nullptr;
 }
 
-void ctrlStormwaterReuse::PaintHotspot(Surface& surface) {
-  highlightShown_ = false;
-  if (IsHotspotShown()) DrawHotspot(surface, hotspot_, geometry_.Frame(), kHotspotPenWidth);
-}
-
 // A painting of everything is on its way, and draws no highlight.
-void ctrlStormwaterReuse::Repaint() {
+void ctrlStormwaterReuse::Refresh() {
   highlightShown_ = false;
   if (host_) host_->Invalidate();
 }

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Command.h"
+#include "cli/ProjectOpening.h"
 #include "entry/Form1.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "platform/headless/HeadlessToolkit.h"
@@ -18,10 +19,6 @@ struct Row {
   std::string value;
   std::string unit = {};
 };
-
-std::string ChosenItem(const ComboBox& list) {
-  return list.List(list.ListIndex());
-}
 
 void AddDescription(std::vector<Row>& rows, ProjectForm& form) {
   rows.push_back({"txtProjectName", "Project name", form.txtProjectName.Text()});
@@ -84,25 +81,11 @@ void PrintText(std::ostream& out, const std::vector<Row>& rows) {
   }
 }
 
-// Reads the project and the curves of its station, or says why not.
-bool Open(Console& console, Form1& window, const HeadlessDesktop& desktop,
-          const std::string& path) {
-  const bool isRead = window.Files().OpenProject(path);
-  for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
-  if (!isRead) return false;
-  const std::string station = ChosenItem(*window.Fields().cmbClimateStation);
-  if (station.empty() || window.Chart().IsLoaded()) return true;
-  if (desktop.Messages().empty()) {
-    PrintMessage(console, "The curve file of " + station + " is damaged or cannot be read.");
-  }
-  return false;
-}
-
 ExitCode RunCalc(Console& console, const CommonOptions& options, const std::string& path) {
   HeadlessToolkit toolkit;
   HeadlessDesktop desktop;
   Form1 window(toolkit, desktop, DataFolder(console, options));
-  if (!Open(console, window, desktop, path)) return ExitCode::FileTrouble;
+  if (!OpenProject(console, window, desktop, path)) return ExitCode::FileTrouble;
   const auto rows = RowsOf(window);
   const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
   options.json ? PrintJson(console.out, rows, bar) : PrintText(console.out, rows);

@@ -21,6 +21,7 @@ using CommandRun = std::function<ExitCode(Console&, const CommonOptions&)>;
 CommandRun AddStationsCommand(CLI::App& app);
 CommandRun AddSolveCommand(CLI::App& app);
 CommandRun AddCalcCommand(CLI::App& app);
+CommandRun AddChartCommand(CLI::App& app);
 CommandRun AddCurvesCommand(CLI::App& app);
 
 // The folder that holds "KAV Data", with a separator at its end.

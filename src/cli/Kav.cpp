@@ -56,6 +56,7 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
   AddCommand(app, commands, AddStationsCommand);
   AddCommand(app, commands, AddSolveCommand);
   AddCommand(app, commands, AddCalcCommand);
+  AddCommand(app, commands, AddChartCommand);
   AddCommand(app, commands, AddCurvesCommand);
 
   try {

@@ -8,31 +8,11 @@
 #include "base/RuntimeErrors.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
-#include "engine/ClimateStations.h"
-#include "engine/CurveFileDiagnosis.h"
+#include "cli/StationQuestion.h"
 #include "platform/headless/HeadlessDesktop.h"
 
 namespace orvik {
 namespace {
-
-// What the user asked; an empty text is the quantity to find.
-struct Question {
-  std::string station;
-  std::string R;
-  std::string V;
-  std::string E;
-};
-
-int CountGiven(const Question& q) {
-  return static_cast<int>(!q.R.empty()) + static_cast<int>(!q.V.empty()) +
-         static_cast<int>(!q.E.empty());
-}
-
-bool Solve(ctrlStormwaterReuse& chart, Question& q) {
-  if (q.E.empty()) return chart.SetHotspotUsing_RV(q.R, q.V, q.E);
-  if (q.V.empty()) return chart.SetHotspotUsing_ER(q.E, q.R, q.V);
-  return chart.SetHotspotUsing_EV(q.E, q.V, q.R);
-}
 
 nlohmann::ordered_json JsonNumber(const std::string& text) {
   if (text.empty()) return nullptr;
@@ -65,29 +45,6 @@ void PrintText(std::ostream& out, const Question& asked, const Question& answer,
   out << std::left << std::setw(19) << "Curves" << title << '\n';
 }
 
-// The station's file is there, but gave no curves.
-std::string DescribeDamage(const Console& console, const CommonOptions& options,
-                           std::int16_t station) {
-  const std::string name(ClimateStationName(station));
-  const std::string path =
-      WithEndingSeparator(DataFolder(console, options) + "KAV Data") + name + ".crv";
-  const std::string why = DiagnoseCurveFile(path);
-  return "The curve file of " + name +
-         (why.empty() ? " is damaged or cannot be read." : " cannot be read: " + why + ".");
-}
-
-// Loads the station's curves, or says why not.
-bool LoadStation(Console& console, const CommonOptions& options, ctrlStormwaterReuse& chart,
-                 const HeadlessDesktop& desktop, std::int16_t station) {
-  chart.SetCurveData(station);
-  if (chart.IsLoaded()) return true;
-  for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
-  if (desktop.Messages().empty()) {
-    PrintMessage(console, DescribeDamage(console, options, station));
-  }
-  return false;
-}
-
 ExitCode Answer(Console& console, bool json, ctrlStormwaterReuse& chart, const Question& asked) {
   Question answer = asked;
   const bool solved = Solve(chart, answer);
@@ -102,27 +59,20 @@ ExitCode Answer(Console& console, bool json, ctrlStormwaterReuse& chart, const Q
 }
 
 ExitCode RunSolve(Console& console, const CommonOptions& options, const Question& question) {
-  const auto station = FindClimateStation(question.station);
-  if (!station) {
-    PrintMessage(console, "There is no climate station \"" + question.station +
-                              "\". kav stations lists them.");
-    return ExitCode::WrongUsage;
-  }
   if (CountGiven(question) != 2) {
     PrintMessage(console, "Give two of --rate, --volume and --efficiency; the third is found.");
     return ExitCode::WrongUsage;
   }
   HeadlessDesktop desktop;
   ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
-  if (!LoadStation(console, options, chart, desktop, *station)) return ExitCode::FileTrouble;
+  const ExitCode loaded = LoadStation(console, options, chart, desktop, question.station);
+  if (loaded != ExitCode::Done) return loaded;
   Question asked = question;
-  asked.station = ClimateStationName(*station);
+  asked.station = chart.StationName();
   try {
     return Answer(console, options.json, chart, asked);
   } catch (const NumericError&) {
-    PrintMessage(console, "The design curves of " + asked.station +
-                              " cannot be used: two of them meet or leave the chart.");
-    return ExitCode::FileTrouble;
+    return RefuseCurves(console, chart);
   }
 }
 
@@ -134,12 +84,7 @@ CommandRun AddSolveCommand(CLI::App& app) {
   command->add_option("--station", question->station, "Climate station, by name")
       ->required()
       ->type_name("NAME");
-  const auto number = [&](const char* name, std::string& target, const char* what) {
-    command->add_option(name, target, what)->type_name("NUMBER")->check(ValidateNumber);
-  };
-  number("--rate", question->R, "Reuse rate R, inches per day on the EIA");
-  number("--volume", question->V, "Storage volume V, inches on the EIA");
-  number("--efficiency", question->E, "Efficiency E, percent of the runoff");
+  AddQuestionOptions(*command, *question);
   command->footer("Example:\n  kav solve --station Gainesville --rate 0.15 --volume 3");
   return [question](Console& console, const CommonOptions& options) {
     return RunSolve(console, options, *question);

@@ -40,13 +40,24 @@ TEST(LayoutFrame, BandsShareTheFramesColumnsOrRows) {
     EXPECT_EQ(band.Left, layout.Frame.Left);
     EXPECT_EQ(band.Right, layout.Frame.Right);
   }
-  EXPECT_EQ(layout.Title.Top, 20);
   EXPECT_EQ(layout.Title.Bottom, layout.Frame.Top);
-  EXPECT_EQ(layout.HorizontalAxis.Top, layout.Frame.Bottom);
   EXPECT_EQ(layout.HorizontalAxis.Bottom, 620);  // the bands fill the usable height
   EXPECT_EQ(layout.VerticalAxis.Top, layout.Frame.Top);
   EXPECT_EQ(layout.VerticalAxis.Bottom, layout.Frame.Bottom);
-  EXPECT_EQ(layout.VerticalAxis.Right, layout.Frame.Left);
+}
+
+// 558.01 pixels for 0.4 in/day: a title is 13.95 pixels high, a label 11.16.
+TEST(LayoutFrame, BandsBeginOffTheFrame) {
+  const FrameLayout layout = Layout(960, 640);
+  EXPECT_EQ(layout.Title.Top, 17);            // a quarter of a title above the usable 20: 16.51
+  EXPECT_EQ(layout.HorizontalAxis.Top, 593);  // the row under the frame's line
+  EXPECT_EQ(layout.VerticalAxis.Right, 104);  // 0.4 of a label off column 108: 103.5, to even
+}
+
+TEST(LayoutFrame, BandsStayWhereTheFrameLeavesNoRoom) {
+  const FrameLayout layout = Layout(340, 640);
+  EXPECT_EQ(layout.Frame.Left, 20);
+  EXPECT_LE(layout.VerticalAxis.Left, layout.VerticalAxis.Right);
 }
 
 TEST(LayoutFrame, KeepsFourToThreeAndTheMarginsAtEverySize) {

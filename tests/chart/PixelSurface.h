@@ -1,4 +1,6 @@
-// A small screen of pixels whose exclusive-or pens really flip them. Thin lines only.
+// The marks on a screen, as pixels: exclusive-or pens really flip them; what is drawn otherwise
+// lies beneath and is not kept. Clearing the screen (filling an area from its corner on) takes the
+// marks away. Thin lines only.
 #pragma once
 
 #include <cstdlib>
@@ -11,7 +13,7 @@ namespace orvik::test {
 
 class PixelSurface final : public Surface {
  public:
-  std::map<std::pair<int, int>, Colour> pixels;  // those that are not black
+  std::map<std::pair<int, int>, Colour> pixels;  // those that are flipped
 
   bool Supports(SurfaceFeature) const override { return true; }
 
@@ -25,10 +27,8 @@ class PixelSurface final : public Surface {
   void Polyline(std::span<const Point> points, const Pen& pen) override {
     for (std::size_t i = 0; i + 1 < points.size(); ++i) Line(points[i], points[i + 1], pen);
   }
-  void FillArea(const Area& area, Colour colour) override {
-    for (int y = area.top; y < area.bottom; ++y) {
-      for (int x = area.left; x < area.right; ++x) Put(x, y, {colour});
-    }
+  void FillArea(const Area& area, Colour) override {
+    if (area.left == 0 && area.top == 0) pixels.clear();
   }
   void FillPolygon(std::span<const Point>, Colour) override {}
   void WriteText(Point, std::string_view, const Font&, Colour) override {}
@@ -39,8 +39,9 @@ class PixelSurface final : public Surface {
 
  private:
   void Put(int x, int y, const Pen& pen) {
+    if (pen.mode != DrawMode::ExclusiveOr) return;
     const auto at = pixels.try_emplace({x, y}, 0).first;
-    at->second = pen.mode == DrawMode::ExclusiveOr ? at->second ^ pen.colour : pen.colour;
+    at->second ^= pen.colour;
     if (at->second == 0) pixels.erase(at);
   }
 };

@@ -1,0 +1,24 @@
+// What a drawing of the chart shows and where: handed to every step of the drawing.
+#pragma once
+
+#include <string_view>
+
+#include "chart/PlotGeometry.h"
+#include "engine/CurveSet.h"
+#include "platform/Surface.h"
+
+namespace orvik {
+
+struct ChartScene {
+  const CurveSet& curves;
+  std::string_view station;  // its name, the chart's title
+  const PlotGeometry& geometry;
+  const FrameLayout& layout;
+  LayoutHeights heights;
+
+  int PixelHeightOf(float height) const {
+    return PixelHeight(height, geometry.Window(), geometry.Frame());
+  }
+};
+
+}  // namespace orvik

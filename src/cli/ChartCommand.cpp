@@ -1,0 +1,152 @@
+// kav chart: the design chart of a station or a project as a picture file.
+#include <memory>
+
+#include "base/NumberText.h"
+#include "base/RuntimeErrors.h"
+#include "cli/Command.h"
+#include "cli/ProjectOpening.h"
+#include "cli/StationQuestion.h"
+#include "curves/FileError.h"
+#include "curves/OutputFile.h"
+#include "platform/cairo/PictureFile.h"
+#include "platform/headless/HeadlessDesktop.h"
+#include "platform/headless/HeadlessToolkit.h"
+
+namespace orvik {
+namespace {
+
+constexpr Size kDefaultSize{960, 640};  // all texts fit beside the frame
+constexpr int kLeastExtent = 60;        // pixels; below that there is no chart to see
+constexpr int kMostExtent = 16000;
+
+struct ChartRequest {
+  std::string project;
+  Question question;
+  std::string output;
+  std::string size;
+};
+
+// "960x640"; nothing where it is not two whole numbers within bounds.
+std::optional<Size> ParseSize(std::string_view text) {
+  const std::size_t cross = text.find('x');
+  if (cross == std::string_view::npos) return std::nullopt;
+  const auto width = ParseWholeNumber(text.substr(0, cross));
+  const auto height = ParseWholeNumber(text.substr(cross + 1));
+  const auto isExtent = [](std::optional<std::int16_t> extent) {
+    return extent && kLeastExtent <= *extent && *extent <= kMostExtent;
+  };
+  if (!isExtent(width) || !isExtent(height)) return std::nullopt;
+  return Size{*width, *height};
+}
+
+std::string ValidateSize(const std::string& text) {
+  if (ParseSize(text)) return {};
+  return "\"" + text + "\" is not a size like 960x640 (" + std::to_string(kLeastExtent) + " to " +
+         std::to_string(kMostExtent) + " pixels each way)";
+}
+
+std::string ValidateOutput(const std::string& path) {
+  return PictureKindOf(path) ? std::string()
+                             : "\"" + path + "\" does not end in .png, .svg or .pdf";
+}
+
+ExitCode DrawToFile(const ChartRequest& request, ctrlStormwaterReuse& chart) {
+  const Size size = request.size.empty() ? kDefaultSize : *ParseSize(request.size);
+  chart.Resize(size.width, size.height);
+  const std::string title = "Design curves of " + chart.StationName();
+  WriteOutputFile(request.output, MakePictureFile(*PictureKindOf(request.output), size, title,
+                                                  [&](Surface& surface) { chart.Paint(surface); }));
+  return ExitCode::Done;
+}
+
+ExitCode SayNo(Console& console, std::string_view message) {
+  PrintMessage(console, message);
+  return ExitCode::CalculationSaysNo;
+}
+
+ExitCode ChartOfStation(Console& console, const CommonOptions& options,
+                        const ChartRequest& request) {
+  HeadlessDesktop desktop;
+  ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
+  const ExitCode loaded = LoadStation(console, options, chart, desktop, request.question.station);
+  if (loaded != ExitCode::Done) return loaded;
+  Question question = request.question;
+  try {
+    if (CountGiven(question) == 2 && !Solve(chart, question)) {
+      return SayNo(console, chart.ErrMsg());
+    }
+    return DrawToFile(request, chart);
+  } catch (const NumericError&) {
+    return RefuseCurves(console, chart);
+  }
+}
+
+ExitCode ChartOfProject(Console& console, const CommonOptions& options,
+                        const ChartRequest& request) {
+  HeadlessToolkit toolkit;
+  HeadlessDesktop desktop;
+  Form1 window(toolkit, desktop, DataFolder(console, options));
+  if (!OpenProject(console, window, desktop, request.project)) return ExitCode::FileTrouble;
+  const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
+  if (bar.IsSet() != kFalse16) return SayNo(console, bar.Text());
+  if (!window.Chart().IsLoaded()) return SayNo(console, "The project has no climate station.");
+  return DrawToFile(request, window.Chart());
+}
+
+ExitCode WrongUsage(Console& console, std::string_view message) {
+  PrintMessage(console, message);
+  return ExitCode::WrongUsage;
+}
+
+ExitCode RunChart(Console& console, const CommonOptions& options, const ChartRequest& request) {
+  const bool hasStation = !request.question.station.empty();
+  const int given = CountGiven(request.question);
+  if (hasStation == !request.project.empty()) {
+    return WrongUsage(console, "Give either a project file or --station.");
+  }
+  if (!hasStation && given > 0) {
+    return WrongUsage(console,
+                      "--rate, --volume and --efficiency go with --station; a project has its own "
+                      "values.");
+  }
+  if (given == 1 || given == 3) {
+    return WrongUsage(console,
+                      "Give two of --rate, --volume and --efficiency to mark a design point, or "
+                      "none of them.");
+  }
+  try {
+    return hasStation ? ChartOfStation(console, options, request)
+                      : ChartOfProject(console, options, request);
+  } catch (const FileError& error) {
+    PrintMessage(console, error.what());
+    return ExitCode::FileTrouble;
+  }
+}
+
+}  // namespace
+
+CommandRun AddChartCommand(CLI::App& app) {
+  auto request = std::make_shared<ChartRequest>();
+  auto* command = app.add_subcommand("chart", "Draw the design chart of a project or a station");
+  command->add_option("project", request->project, "Project file")->type_name("PROJECT.kav");
+  command->add_option("--station", request->question.station, "Climate station, by name")
+      ->type_name("NAME");
+  AddQuestionOptions(*command, request->question);
+  command->add_option("-o,--output", request->output, "Picture file; its ending says the format")
+      ->required()
+      ->type_name("FILE.(png|svg|pdf)")
+      ->check(ValidateOutput);
+  command->add_option("--size", request->size, "Width and height in pixels, 960x640 if not given")
+      ->type_name("WxH")
+      ->check(ValidateSize);
+  command->footer(
+      "A project's chart marks its design point; a station's does with two of --rate, --volume and "
+      "--efficiency.\nOn a PDF's page, 96 pixels are an inch.\n\nExamples:\n"
+      "  kav chart samples/efficiency.kav -o chart.png\n"
+      "  kav chart --station Tampa --rate 0.15 --volume 3 -o tampa.pdf --size 1200x800");
+  return [request](Console& console, const CommonOptions& options) {
+    return RunChart(console, options, *request);
+  };
+}
+
+}  // namespace orvik

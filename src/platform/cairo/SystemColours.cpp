@@ -1,0 +1,32 @@
+#include "platform/cairo/SystemColours.h"
+
+namespace orvik {
+namespace {
+
+std::uint32_t OfSystem(Colour colour) {
+  switch (colour) {
+    case kWindowBackground:
+    case k3DHighlight:
+      return 0xFFFFFF;
+    case kButtonFace:
+      return 0xF0F0F0;
+    case kButtonShadow:
+      return 0xA0A0A0;
+    case k3DDarkShadow:
+      return 0x696969;
+    case k3DLight:
+      return 0xE3E3E3;
+    default:
+      return 0x000000;  // the texts'
+  }
+}
+
+}  // namespace
+
+std::uint32_t RedGreenBlue(Colour colour) {
+  constexpr Colour kSystem = 0x80000000;
+  if ((colour & kSystem) != 0) return OfSystem(colour);
+  return (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
+}
+
+}  // namespace orvik

@@ -1,0 +1,13 @@
+// Colours as red, green and blue, for back ends that have no system to ask.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/Colour.h"
+
+namespace orvik {
+
+// 0x00RRGGBB. System colours are those of a plain, light desktop; an unknown one is black.
+std::uint32_t RedGreenBlue(Colour colour);
+
+}  // namespace orvik
