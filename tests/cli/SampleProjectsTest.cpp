@@ -49,8 +49,8 @@ INSTANTIATE_TEST_SUITE_P(All, SampleFiles, testing::ValuesIn(test::SampleProject
 
 // --- The curves as one would read them off the file by hand ---
 
-// E, VStart, VEnd, A, B, C, D of each curve: the lines behind the title and the seven lines of the
-// header.
+// E, VStart, VEnd, A, B, C, D of each curve, one to a line behind the title, the six numbers of the
+// header and the count of the curves.
 std::vector<std::array<double, 7>> CurveLines(const std::string& station) {
   std::ifstream file(kDataFolder + "KAV Data/" + station + ".crv");
   std::string line;
