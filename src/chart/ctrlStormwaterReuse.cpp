@@ -5,6 +5,7 @@
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/Rounding.h"
+#include "base/RuntimeErrors.h"
 #include "base/Text.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFile.h"
@@ -105,7 +106,12 @@ void ctrlStormwaterReuse::LayOut() {
   const clsPlotWindow window{curves_.VMin, curves_.VMax, curves_.RMin, curves_.RMax};
   layout_ = LayoutFrame(width_, height_, window, layoutHeights_);
   geometry_ = PlotGeometry(window, layout_.Frame);
-  if (hotspotVisible_) hotspot_.PlaceAt(hotspot_.V(), hotspot_.R(), geometry_);
+  if (!hotspotVisible_) return;
+  try {
+    hotspot_.PlaceAt(hotspot_.V(), hotspot_.R(), geometry_);
+  } catch (const OverflowError&) {
+    hotspotVisible_ = false;  // on these axes it lies beyond the 16-bit pixels
+  }
 }
 
 // --- Outcomes and range checks ---

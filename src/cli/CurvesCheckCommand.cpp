@@ -10,6 +10,7 @@
 #include "curves/CurveJudge.h"
 #include "curves/FileError.h"
 #include "engine/CurveFile.h"
+#include "engine/CurveFileDiagnosis.h"
 
 namespace orvik {
 namespace {
@@ -25,6 +26,8 @@ CurveSet ReadCurves(const std::string& path) {
   clsIOStream stream;
   CurveSet set;
   if (!stream.OpenFile(path, enumIOStreamMode::AsciiFileInput) || !ReadCurveFile(stream, set)) {
+    const std::string why = DiagnoseCurveFile(path);
+    if (!why.empty()) throw FileError("The curve file " + path + " cannot be read: " + why + ".");
     throw FileError("The curve file " + path +
                     " is damaged: it ends early, has no curves, or has a number that cannot be "
                     "used.");
@@ -36,7 +39,9 @@ std::optional<PondDays> ReadDays(Console& console, const Request& request) {
   if (request.rain.file.empty()) return std::nullopt;
   const RainRecord record = ReadRain(request.rain);
   PrintMessage(console, DescribeFindings(record));
-  return BuildPondDays(SelectRainYears(record), ToPondOptions(request.pond));
+  const RainYears years = SelectRainYears(record);
+  WarnOfSuspectedCode(console, years);
+  return BuildPondDays(years, ToPondOptions(request.pond));
 }
 
 // How far a simulation along each curve is from its E; empty without rainfall.

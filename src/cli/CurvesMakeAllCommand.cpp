@@ -10,6 +10,7 @@
 #include "curves/CurveFileWriter.h"
 #include "curves/FixedText.h"
 #include "curves/OutputFile.h"
+#include "curves/RainDate.h"
 #include "curves/StationCurves.h"
 #include "engine/ClimateStations.h"
 
@@ -89,12 +90,29 @@ void PrintText(std::ostream& out, const std::vector<StationCurves>& stations) {
   }
 }
 
+nlohmann::ordered_json FindingsJson(const StationCurves& station) {
+  const RainFindings& found = station.Record.Findings;
+  return {{"yearsLeftOut", station.Years.LeftOutYears.size()},
+          {"missingDays", station.Years.MissingDays},
+          {"rowsWithoutDepth", found.Missing},
+          {"gaps", found.Gaps},
+          {"gapDays", found.GapDays},
+          {"duplicates", found.Duplicate},
+          {"conflicts", found.Conflicting},
+          {"negatives", found.Negative}};
+}
+
 void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const StationCurves& station : stations) {
     list.push_back({{"station", NameOf(station)},
                     {"usableYears", station.Years.Years.size()},
                     {"meanAnnualIn", station.Years.MeanAnnualIn},
+                    {"wettestDayIn", station.Years.WettestDayIn},
+                    {"wettestDay", IsoDate(station.Years.WettestDay)},
+                    {"findings", FindingsJson(station)},
+                    {"holdOffDays", station.Options.HoldOffDays},
+                    {"abstractionIn", station.Options.AbstractionIn},
                     {"curves", CurvesJson(station.Made.Set, station.Made.Errors)}});
   }
   out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
@@ -110,10 +128,12 @@ CommandRun AddCurvesMakeAllCommand(CLI::App& curves) {
       ->add_option("--rain-dir", request->rainFolder,
                    "Folder of the records, <station>.csv with depths in inches")
       ->required()
-      ->type_name("DIR");
+      ->type_name("DIR")
+      ->check(ValidateNotBlank);
   command->add_option("-o,--output", request->folder, "Folder of the curve files to write")
       ->required()
-      ->type_name("DIR");
+      ->type_name("DIR")
+      ->check(ValidateNotBlank);
   AddPondOptions(*command, request->pond);
   AddAxesOptions(*command, request->axes);
   command->footer(std::string(kBalanceDefinition) +
@@ -122,6 +142,9 @@ CommandRun AddCurvesMakeAllCommand(CLI::App& curves) {
   return [request](Console& console, const CommonOptions& options) {
     return RunWithMessages(console, [&] {
       const auto stations = MakeAll(console, *request);
+      for (const StationCurves& station : stations) {
+        WarnOfSuspectedCode(console, station.Years, NameOf(station));
+      }
       WriteAll(request->folder, stations);
       options.json ? PrintJson(console.out, stations) : PrintText(console.out, stations);
       return ExitCode::Done;

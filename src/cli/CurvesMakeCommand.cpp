@@ -1,5 +1,6 @@
 // kav curves make: the curves of one place from its daily rainfall.
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -37,12 +38,14 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
       << "Record " << IsoDate(record.First) << " to " << IsoDate(record.Last) << ", "
       << years.Years.size() << " usable years (" << years.LeftOutYears.size() << " left out, "
       << years.MissingDays << " missing days taken as dry), mean "
-      << FixedText(years.MeanAnnualIn, 1) << " inches a year\n\n";
+      << FixedText(years.MeanAnnualIn, 1) << " inches a year, wettest day "
+      << FixedText(years.WettestDayIn, 2) << " inches on " << IsoDate(years.WettestDay) << "\n\n";
   PrintCurvesTable(out, made.Set, made.Errors);
 }
 
 void PrintJson(std::ostream& out, const Request& request, const RainRecord& record,
                const RainYears& years, const MadeCurves& made) {
+  const PondOptions pond = ToPondOptions(request.pond);
   const nlohmann::ordered_json object{{"name", request.name},
                                       {"title", made.Set.Title},
                                       {"file", request.file},
@@ -50,21 +53,39 @@ void PrintJson(std::ostream& out, const Request& request, const RainRecord& reco
                                       {"last", IsoDate(record.Last)},
                                       {"usableYears", years.Years.size()},
                                       {"meanAnnualIn", years.MeanAnnualIn},
+                                      {"wettestDayIn", years.WettestDayIn},
+                                      {"wettestDay", IsoDate(years.WettestDay)},
+                                      {"holdOffDays", pond.HoldOffDays},
+                                      {"abstractionIn", pond.AbstractionIn},
                                       {"curves", CurvesJson(made.Set, made.Errors)}};
   out << object.dump(2) << '\n';
 }
 
-ExitCode Make(Console& console, bool json, const Request& request) {
+// What can be said before any work is done.
+void CheckRequest(const Request& request) {
   const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
   if (std::ranges::any_of(request.name + request.source, isControl)) {
     throw UsageError("The name and the source must be one line of text.");
   }
+  std::error_code error;
+  if (std::filesystem::equivalent(PathFromUtf8(request.rain.file), PathFromUtf8(request.file),
+                                  error)) {
+    throw UsageError("--rain and --output are the same file; the record would be lost.");
+  }
+  RequireReplaceable(request.file);
+}
+
+ExitCode Make(Console& console, bool json, const Request& request) {
+  CheckRequest(request);
+  const PondOptions pond = ToPondOptions(request.pond);
   const ChartAxes axes = ToChartAxes(request.axes);
   const RainRecord record = ReadRain(request.rain);
   PrintMessage(console, DescribeFindings(record));
   const RainYears years = SelectRainYears(record);
-  const MadeCurves made = MakeCurves(BuildPondDays(years, ToPondOptions(request.pond)), axes,
-                                     CurveTitle(request.name, SourceOf(request), record, years));
+  WarnOfSuspectedCode(console, years);
+  const MadeCurves made =
+      MakeCurves(BuildPondDays(years, pond), axes,
+                 CurveTitle(request.name, SourceOf(request), record, years, pond));
   WriteOutputFile(request.file, CurveFileText(made.Set));
   if (json) {
     PrintJson(console.out, request, record, years, made);
@@ -82,14 +103,16 @@ CommandRun AddCurvesMakeCommand(CLI::App& curves) {
   AddRainOptions(*command, request->rain, true);
   command->add_option("--name", request->name, "Name of the place, for the file's title")
       ->required()
-      ->type_name("NAME");
+      ->type_name("NAME")
+      ->check(ValidateNotBlank);
   command
       ->add_option("--source", request->source,
                    "Where the rainfall comes from, for the file's title")
       ->type_name("TEXT");
   command->add_option("-o,--output", request->file, "The curve file to write")
       ->required()
-      ->type_name("FILE.crv");
+      ->type_name("FILE.crv")
+      ->check(ValidateNotBlank);
   AddPondOptions(*command, request->pond);
   AddAxesOptions(*command, request->axes);
   command->footer(std::string(kBalanceDefinition) +

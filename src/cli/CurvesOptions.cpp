@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "base/NumberText.h"
+#include "base/Text.h"
 #include "curves/FileError.h"
 #include "curves/RainUnit.h"
 #include "curves/Refusal.h"
@@ -68,6 +69,10 @@ void SetAxis(const std::string& mostText, const std::string& intervalText, const
 }
 
 }  // namespace
+
+std::string ValidateNotBlank(const std::string& text) {
+  return Trim(text).empty() ? "must not be empty" : "";
+}
 
 void AddPondOptions(CLI::App& command, PondArguments& arguments) {
   command
@@ -136,6 +141,12 @@ ChartAxes ToChartAxes(const AxesArguments& arguments) {
 RainRecord ReadRain(const RainArguments& arguments) {
   const RainUnit unit = FindRainUnit(arguments.unit).value();
   return ReadRainRecord(arguments.file, unit, arguments.columns);
+}
+
+void WarnOfSuspectedCode(Console& console, const RainYears& years, const std::string& name) {
+  const std::string warning = DescribeSuspectedCode(years);
+  if (warning.empty()) return;
+  PrintMessage(console, (name.empty() ? "" : name + ": ") + warning);
 }
 
 ExitCode RunWithMessages(Console& console, const std::function<ExitCode()>& work) {

@@ -20,6 +20,9 @@ CommandRun AddCurvesCheckCommand(CLI::App& curves);
 // The daily water balance in a few lines, for --help.
 extern const std::string_view kBalanceDefinition;
 
+// For options that must say something: what is wrong with the text, or empty.
+std::string ValidateNotBlank(const std::string& text);
+
 // Options as the user typed them; empty where not given.
 struct PondArguments {
   std::string holdOff;
@@ -46,6 +49,10 @@ PondOptions ToPondOptions(const PondArguments& arguments);
 ChartAxes ToChartAxes(const AxesArguments& arguments);
 // Reads the record that the arguments name; throws FileError.
 RainRecord ReadRain(const RainArguments& arguments);
+
+// A message where the record's largest depth looks like a code for a missing value; `name` says
+// whose record it is where there are several.
+void WarnOfSuspectedCode(Console& console, const RainYears& years, const std::string& name = {});
 
 // Options that contradict each other; what() is the sentence for the user.
 class UsageError : public std::runtime_error {

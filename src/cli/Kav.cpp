@@ -17,8 +17,10 @@ using Commands = std::vector<std::pair<CLI::App*, CommandRun>>;
 
 void AddCommand(CLI::App& app, Commands& commands, CommandRun (*add)(CLI::App&)) {
   CommandRun run = add(app);
-  commands.emplace_back(app.get_subcommands([](const CLI::App*) { return true; }).back(),
-                        std::move(run));
+  CLI::App* command = app.get_subcommands([](const CLI::App*) { return true; }).back();
+  command->footer(command->get_footer() +
+                  "\n\nEvery command takes --data DIR and --json too; kav --help explains them.");
+  commands.emplace_back(command, std::move(run));
 }
 
 // The parser's texts end with or without a line end; ours always with one.
@@ -47,7 +49,7 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
       "Exit codes: 0 done; 1 the calculation says no, its message is on standard error; 2 wrong "
       "usage;\n"
       "3 a file cannot be read or written.");
-  app.fallthrough();  // the common options may stand behind the command
+  app.fallthrough();                       // the common options may stand behind the command
   app.allow_windows_style_options(false);  // "/folder/file" is a path on every system
 
   Commands commands;
@@ -60,6 +62,11 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {
     const bool asked = error.get_exit_code() == 0;  // --help, --version
+    if (!asked && !app.remaining().empty() && app.get_subcommands().empty()) {
+      PrintMessage(console, "There is no command \"" + app.remaining().front() +
+                                "\". kav --help lists them.");
+      return ExitCode::WrongUsage;
+    }
     std::ostringstream text;
     app.exit(error, text, text);
     PrintWhole(asked ? console.out : console.err, text.str());
@@ -84,6 +91,13 @@ int RunKav(const std::vector<std::string>& arguments, Console& console) {
   } catch (const std::exception& error) {
     PrintMessage(console, std::string("The command could not be finished: ") + error.what());
   }
+  return static_cast<int>(ExitCode::FileTrouble);
+}
+
+int RunKavToTheEnd(const std::vector<std::string>& arguments, Console& console) {
+  const int exitCode = RunKav(arguments, console);
+  if (console.out.flush()) return exitCode;
+  PrintMessage(console, "Standard output cannot be written.");
   return static_cast<int>(ExitCode::FileTrouble);
 }
 

@@ -12,4 +12,8 @@ namespace orvik {
 // nothing: what a command does not expect ends as one sentence and ExitCode::FileTrouble.
 int RunKav(const std::vector<std::string>& arguments, Console& console);
 
+// RunKav for a program that ends behind it: also sees to it that all data has arrived. A full disk
+// or a closed pipe on standard output ends as a sentence and ExitCode::FileTrouble.
+int RunKavToTheEnd(const std::vector<std::string>& arguments, Console& console);
+
 }  // namespace orvik

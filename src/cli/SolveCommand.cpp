@@ -4,10 +4,12 @@
 #include <nlohmann/json.hpp>
 
 #include "base/NumberText.h"
+#include "base/Paths.h"
 #include "base/RuntimeErrors.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
 #include "engine/ClimateStations.h"
+#include "engine/CurveFileDiagnosis.h"
 #include "platform/headless/HeadlessDesktop.h"
 
 namespace orvik {
@@ -63,15 +65,25 @@ void PrintText(std::ostream& out, const Question& asked, const Question& answer,
   out << std::left << std::setw(19) << "Curves" << title << '\n';
 }
 
+// The station's file is there, but gave no curves.
+std::string DescribeDamage(const Console& console, const CommonOptions& options,
+                           std::int16_t station) {
+  const std::string name(ClimateStationName(station));
+  const std::string path =
+      WithEndingSeparator(DataFolder(console, options) + "KAV Data") + name + ".crv";
+  const std::string why = DiagnoseCurveFile(path);
+  return "The curve file of " + name +
+         (why.empty() ? " is damaged or cannot be read." : " cannot be read: " + why + ".");
+}
+
 // Loads the station's curves, or says why not.
-bool LoadStation(Console& console, ctrlStormwaterReuse& chart, const HeadlessDesktop& desktop,
-                 std::int16_t station) {
+bool LoadStation(Console& console, const CommonOptions& options, ctrlStormwaterReuse& chart,
+                 const HeadlessDesktop& desktop, std::int16_t station) {
   chart.SetCurveData(station);
   if (chart.IsLoaded()) return true;
   for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
   if (desktop.Messages().empty()) {
-    PrintMessage(console, "The curve file of " + std::string(ClimateStationName(station)) +
-                              " is damaged or cannot be read.");
+    PrintMessage(console, DescribeDamage(console, options, station));
   }
   return false;
 }
@@ -102,7 +114,7 @@ ExitCode RunSolve(Console& console, const CommonOptions& options, const Question
   }
   HeadlessDesktop desktop;
   ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
-  if (!LoadStation(console, chart, desktop, *station)) return ExitCode::FileTrouble;
+  if (!LoadStation(console, options, chart, desktop, *station)) return ExitCode::FileTrouble;
   Question asked = question;
   asked.station = ClimateStationName(*station);
   try {

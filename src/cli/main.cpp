@@ -20,5 +20,6 @@ std::string ProgramFolder() {
 
 int main(int argc, char** argv) {
   orvik::Console console{std::cout, std::cerr, isatty(STDERR_FILENO) != 0, ProgramFolder()};
-  return orvik::RunKav(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc), console);
+  return orvik::RunKavToTheEnd(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc),
+                               console);
 }

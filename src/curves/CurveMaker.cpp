@@ -172,10 +172,18 @@ class Maker {
     if (needed && *needed < 0.9 * axes_.RMax) {
       throw Refusal(text + " with the accuracy that is asked. Choose a larger --r-max or --v-max.");
     }
+    if (!needed) {
+      throw Refusal(text + ": at the largest volume even R = " + FixedText(table_.MostR(), 3) +
+                    " in/day is too little. Choose a larger --r-max or --v-max.");
+    }
     const std::string rate =
-        needed ? FixedText(*needed, 2) : "more than " + FixedText(table_.MostR(), 2);
-    throw Refusal(text + ": at the largest volume it needs R = " + rate +
-                  " in/day. Choose a larger --r-max.");
+        ": at the largest volume it needs R = " + FixedText(*needed, 3) + " in/day";
+    // As printed: a rate that rounds to the end of the axis does not lie above it.
+    if (*needed < axes_.RMax + 0.0005) {
+      throw Refusal(text + rate +
+                    ", which leaves too little of the V axis. Choose a larger --r-max or --v-max.");
+    }
+    throw Refusal(text + rate + ". Choose a larger --r-max.");
   }
 
   const PondDays& days_;

@@ -6,8 +6,12 @@
 
 namespace orvik {
 
-// Writes the bytes beside the target and renames the file over it. Throws FileError; the target is
-// then as it was.
+// Throws FileError where the path is taken by something that is not a file: a folder, a device, a
+// pipe, links in a circle.
+void RequireReplaceable(const std::string& path);
+
+// Writes the bytes to a new file beside the target and renames it over the target, or over what the
+// target links to. Throws FileError; the target is then as it was.
 void WriteOutputFile(const std::string& path, std::string_view bytes);
 
 // Makes the folder and those above it where they do not exist. Throws FileError.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "base/NumberText.h"
 #include "curves/Refusal.h"
 
 namespace orvik {
@@ -34,6 +35,15 @@ std::vector<double> ShareUse(const std::vector<bool>& heldOff, std::size_t warmU
 }
 
 }  // namespace
+
+std::string HoldOffText(const PondOptions& options) {
+  return "hold-off " + std::to_string(options.HoldOffDays) +
+         (options.HoldOffDays == 1 ? " day" : " days");
+}
+
+std::string AbstractionText(const PondOptions& options) {
+  return "abstraction " + ConvertToString(options.AbstractionIn) + " in";
+}
 
 PondDays BuildPondDays(const RainYears& years, const PondOptions& options) {
   std::vector<double> rain;

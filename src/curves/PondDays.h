@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "curves/RainYears.h"
@@ -13,6 +14,10 @@ struct PondOptions {
   int HoldOffDays = 0;       // no use on so many days after a day with rain; 0: use on every day
   double AbstractionIn = 0;  // inches lost from each day with rain before it runs off
 };
+
+// "hold-off 2 days" and "abstraction 0.1 in", for titles and tables.
+std::string HoldOffText(const PondOptions& options);
+std::string AbstractionText(const PondOptions& options);
 
 // The days of a simulation, in order: the first kept year as a warm-up, then the whole record (the
 // first kept year again, and all others). Everything is per unit of equivalent impervious area.

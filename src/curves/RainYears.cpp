@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/NumberText.h"
+#include "curves/FixedText.h"
 #include "curves/RainDate.h"
 #include "curves/Refusal.h"
 
@@ -16,12 +17,25 @@ namespace {
 // The wettest day ever measured: 71.9 inches (Foc-Foc, La Reunion, 1966-01-07 to 08).
 constexpr double kWettestDayIn = 72;
 
+// Rain as heavy as this is not measured twice alike at one place.
+constexpr double kSuspectDayIn = 15;
+
 std::chrono::sys_days NewYear(int year) {
   return std::chrono::sys_days(std::chrono::year(year) / std::chrono::January / 1);
 }
 
 std::size_t DaysOfYear(int year) {
   return static_cast<std::size_t>((NewYear(year + 1) - NewYear(year)).count());
+}
+
+void NoteWettest(const RainDay& day, RainYears& years) {
+  if (years.WettestDays > 0 && day.DepthIn < years.WettestDayIn) return;
+  if (years.WettestDays == 0 || day.DepthIn > years.WettestDayIn) {
+    years.WettestDayIn = day.DepthIn;
+    years.WettestDay = day.Date;
+    years.WettestDays = 0;
+  }
+  ++years.WettestDays;
 }
 
 // Appends the year if few enough of its days are missing. [begin, end) are its days with a value.
@@ -38,6 +52,7 @@ void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
   for (auto day = begin; day != end; ++day) {
     years.Daily[offset + static_cast<std::size_t>((day->Date - NewYear(year)).count())] =
         day->DepthIn;
+    NoteWettest(*day, years);
   }
   if (years.Years.empty()) years.FirstYearDays = days;
   years.Years.push_back(year);
@@ -99,9 +114,15 @@ RainYears SelectRainYears(const RainRecord& record) {
                   "10 days is not usable.");
   }
   years.MeanAnnualIn = std::accumulate(years.Daily.begin(), years.Daily.end(), 0.0) / count;
-  years.WettestDayIn = *std::ranges::max_element(years.Daily);
   RefuseImplausible(years, record.Unit);
   return years;
+}
+
+std::string DescribeSuspectedCode(const RainYears& years) {
+  if (years.WettestDays < 2 || years.WettestDayIn <= kSuspectDayIn) return {};
+  return "The largest depth, " + FixedText(years.WettestDayIn, 2) + " inches, stands on " +
+         std::to_string(years.WettestDays) + " days, first on " + IsoDate(years.WettestDay) +
+         ": a code for a missing value? If so, leave these depths empty.";
 }
 
 }  // namespace orvik

@@ -1,7 +1,9 @@
 // The years of a rainfall record that a simulation can use.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "curves/RainRecord.h"
@@ -18,17 +20,23 @@ inline constexpr double kMostAnnualIn = 200;
 
 // Calendar years that are nearly complete, one after the other without the years between them.
 struct RainYears {
-  std::vector<int> Years;         // the kept calendar years, rising
-  std::vector<double> Daily;      // inches per day, all days of all kept years; missing days 0
-  std::size_t FirstYearDays = 0;  // 365 or 366
-  std::vector<int> LeftOutYears;  // years of the record's period that miss too many days
-  int MissingDays = 0;            // days of the kept years without a value
-  double MeanAnnualIn = 0;        // inches per kept year
-  double WettestDayIn = 0;        // inches
+  std::vector<int> Years;            // the kept calendar years, rising
+  std::vector<double> Daily;         // inches per day, all days of all kept years; missing days 0
+  std::size_t FirstYearDays = 0;     // 365 or 366
+  std::vector<int> LeftOutYears;     // years of the record's period that miss too many days
+  int MissingDays = 0;               // days of the kept years without a value
+  double MeanAnnualIn = 0;           // inches per kept year
+  double WettestDayIn = 0;           // inches
+  int WettestDays = 0;               // days with exactly this depth
+  std::chrono::sys_days WettestDay;  // the first of them
 };
 
 // Throws Refusal for fewer than 5 usable years, a mean annual depth outside 5 to 200 inches
 // (the sentence says which unit would make sense), and a day that is wetter than any ever measured.
 RainYears SelectRainYears(const RainRecord& record);
+
+// A sentence for the user where the largest depth looks like a code for a missing value (more than
+// 15 inches on two or more days alike), else empty. Such codes pass as rain: 999.9 mm is 39 inches.
+std::string DescribeSuspectedCode(const RainYears& years);
 
 }  // namespace orvik

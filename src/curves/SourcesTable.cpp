@@ -34,6 +34,20 @@ constexpr std::string_view kIntroduction =
     "in |\n"
     "| --: | --- | --- | --- | --- | --: | --: | --: |\n";
 
+constexpr std::string_view kFindingsIntroduction =
+    "\n"
+    "## What the records lack\n"
+    "\n"
+    "Years left out miss more than 10 days; days missing in the usable years count as dry. The "
+    "other numbers are those of the\n"
+    "whole record: rows without a depth, gaps between rows and the days in them, rows whose date "
+    "stood before (the first value\n"
+    "counts), those of them with another depth, and negative depths, which are taken as missing.\n"
+    "\n"
+    "| station | years left out | missing days | rows without depth | gaps | days in gaps | "
+    "duplicates | conflicts | negatives |\n"
+    "| --- | --: | --: | --: | --: | --: | --: | --: | --: |\n";
+
 constexpr std::string_view kErrorsIntroduction =
     "\n"
     "## Fit errors\n"
@@ -59,6 +73,17 @@ std::string SourceRow(const StationCurves& station) {
          IsoDate(station.Record.Last) + " | " + std::to_string(station.Years.Years.size()) + " | " +
          FixedText(station.Years.MeanAnnualIn, 1) + " | " +
          FixedText(station.Years.WettestDayIn, 2) + " |\n";
+}
+
+std::string FindingsRow(const StationCurves& station) {
+  const RainFindings& found = station.Record.Findings;
+  std::string text = "| " + std::string(ClimateStationName(station.Station)) + " |";
+  for (const int number : {static_cast<int>(station.Years.LeftOutYears.size()),
+                           station.Years.MissingDays, found.Missing, found.Gaps, found.GapDays,
+                           found.Duplicate, found.Conflicting, found.Negative}) {
+    text += " " + std::to_string(number) + " |";
+  }
+  return text + "\n";
 }
 
 // A table with one row for each station and one column for each curve.
@@ -87,6 +112,11 @@ std::string SourcesTable(const std::vector<StationCurves>& stations) {
   std::string text(kIntroduction);
   for (const StationCurves& station : stations) text += SourceRow(station);
   if (stations.empty()) return text;
+  text += kFindingsIntroduction;
+  for (const StationCurves& station : stations) text += FindingsRow(station);
+  const PondOptions& options = stations.front().Options;
+  text += "\n## Method\n\nAll curves: " + HoldOffText(options) + ", " + AbstractionText(options) +
+          ".\n";
   text += kErrorsIntroduction;
   text += CurveTable(stations, [](const MadeCurves& made, std::size_t i) {
     return FixedText(made.Errors[i].Max, 2) + " / " + FixedText(made.Errors[i].Mean, 2);

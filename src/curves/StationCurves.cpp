@@ -11,11 +11,12 @@ StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t stat
   const std::string name(ClimateStationName(station));
   StationCurves result;
   result.Station = station;
+  result.Options = options;
   result.Record = ReadRainRecord(rainFolder + name + ".csv", RainUnit::Inches);
   try {
     result.Years = SelectRainYears(result.Record);
-    const std::string title =
-        CurveTitle(name, SourceText(SourceOfStation(station)), result.Record, result.Years);
+    const std::string title = CurveTitle(name, SourceText(SourceOfStation(station)), result.Record,
+                                         result.Years, options);
     result.Made = MakeCurves(BuildPondDays(result.Years, options), axes, title);
   } catch (const Refusal& refusal) {
     throw Refusal(name + ": " + refusal.what());

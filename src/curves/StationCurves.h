@@ -16,6 +16,7 @@ struct StationCurves {
   std::int16_t Station = 0;  // 1...25
   RainRecord Record;         // its days are dropped, the findings kept
   RainYears Years;           // likewise
+  PondOptions Options;       // that they were made with
   MadeCurves Made;
 };
 

@@ -51,10 +51,13 @@ std::string SourceText(const StationSource& source) {
 }
 
 std::string CurveTitle(std::string_view name, std::string_view source, const RainRecord& record,
-                       const RainYears& years) {
+                       const RainYears& years, const PondOptions& options) {
+  std::string method;
+  if (options.HoldOffDays > 0) method += ", " + HoldOffText(options);
+  if (options.AbstractionIn > 0) method += ", " + AbstractionText(options);
   return std::string(name) + " - computed by ORVIK from " + std::string(source) + ", " +
          std::to_string(YearOf(record.First)) + "-" + std::to_string(YearOf(record.Last)) + ", " +
-         std::to_string(years.Years.size()) + " usable years";
+         std::to_string(years.Years.size()) + " usable years" + method;
 }
 
 }  // namespace orvik

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "curves/PondDays.h"
 #include "curves/RainRecord.h"
 #include "curves/RainYears.h"
 
@@ -22,8 +23,8 @@ const StationSource& SourceOfStation(std::int16_t station);
 std::string SourceText(const StationSource& source);
 
 // The first line of a curve file: "<name> - computed by ORVIK from <source>, 1949-2021, 62 usable
-// years".
+// years", and what is not 0 of ", hold-off 2 days" and ", abstraction 0.1 in".
 std::string CurveTitle(std::string_view name, std::string_view source, const RainRecord& record,
-                       const RainYears& years);
+                       const RainYears& years, const PondOptions& options);
 
 }  // namespace orvik

@@ -28,11 +28,16 @@ bool ScanNumber(clsIOStream& stream, double& value) {
   return std::isfinite(value);
 }
 
+bool HasExtent(double min, double max) {
+  return max > min && std::isfinite(max - min);
+}
+
 bool ReadHeader(clsIOStream& stream, CurveSet& set) {
   return ScanLine(stream, set.Title) && ScanNumber(stream, set.VMin) &&
          ScanNumber(stream, set.VMax) && ScanNumber(stream, set.VInterval) &&
          ScanNumber(stream, set.RMin) && ScanNumber(stream, set.RMax) &&
-         ScanNumber(stream, set.RInterval) && set.VMax > set.VMin && set.RMax > set.RMin;
+         ScanNumber(stream, set.RInterval) && HasExtent(set.VMin, set.VMax) &&
+         HasExtent(set.RMin, set.RMax);
 }
 
 bool AreFinite(const std::vector<double>& values) {

@@ -55,6 +55,9 @@ TEST(PlotGeometry, AValueThereAndBackIsWithinHalfAPixel) {
   for (double x = 0; x <= 8; x += 0.0137) {
     EXPECT_NEAR(kGeometry.XFrameToXPlot(kGeometry.XPlotToXFrame(x)), x, 0.01 + 1e-12);
   }
+  for (double y = 0; y <= 0.5; y += 0.00137) {
+    EXPECT_NEAR(kGeometry.YFrameToYPlot(kGeometry.YPlotToYFrame(y)), y, 0.001 + 1e-12);
+  }
 }
 
 TEST(PlotGeometry, BeyondSixteenBitsIsAnOverflow) {
@@ -74,6 +77,8 @@ TEST(PlotGeometry, WithoutExtentIsADivisionByZero) {
 TEST(IsPointInFrame, CountsTheFrameLines) {
   EXPECT_EQ(kGeometry.IsPointInFrame(100, 300), kTrue16);
   EXPECT_EQ(kGeometry.IsPointInFrame(500, 50), kTrue16);
+  EXPECT_EQ(kGeometry.IsPointInFrame(100, 200), kTrue16);  // the left line
+  EXPECT_EQ(kGeometry.IsPointInFrame(300, 300), kTrue16);  // the bottom line
   EXPECT_EQ(kGeometry.IsPointInFrame(99, 200), kFalse16);
   EXPECT_EQ(kGeometry.IsPointInFrame(501, 200), kFalse16);
   EXPECT_EQ(kGeometry.IsPointInFrame(300, 49), kFalse16);

@@ -84,6 +84,18 @@ TEST_F(SetCurveData, AFailedReloadLeavesNoCurvesInUse) {
   EXPECT_EQ(result, "");
 }
 
+TEST_F(SetCurveData, AHotspotFarOffTheNewAxesIsHidden) {
+  Load(LogarithmicCurves());
+  std::string result;
+  ASSERT_TRUE(chart_.SetHotspotUsing_RV("0.12", "3", result));
+  CurveFileText tiny = LogarithmicCurves();
+  tiny.header = {"0", "0.001", "0.001",
+                 "0", "0.4",   "0.1"};  // V = 3 would lie 3,000 frame widths to the right
+  Load(tiny);
+  EXPECT_TRUE(chart_.IsLoaded());
+  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+}
+
 TEST_F(SetCurveData, TakesDesignDataDirectoryAsItStands) {
   folder_.Write("own/Tampa.crv", LogarithmicCurves().Text());
   chart_.DesignDataDirectory(folder_.Path() + "own" + kPathSeparator);

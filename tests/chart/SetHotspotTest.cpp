@@ -137,7 +137,8 @@ TEST_F(SetHotspot, AValueOnALimitPasses) {
   Load(file);
   EXPECT_TRUE(Ask(Pair::EV, "50", "1"));
   EXPECT_TRUE(Ask(Pair::EV, "90", "7"));
-  ExpectAnswer(Pair::ER, "50", "0.15", 1, 2e-4);  // 1E-5 in R is 2E-4 in V at the start of the curve
+  ExpectAnswer(Pair::ER, "50", "0.15", 1,
+               2e-4);  // 1E-5 in R is 2E-4 in V at the start of the curve
 }
 
 TEST_F(SetHotspot, ReuseRateAtTheMaximumPasses) {
@@ -210,28 +211,51 @@ TEST_F(SetHotspot, WithoutCurvesTheEfficiencyTextIsRepeatedUnchanged) {
             "The specified point is out of range of the design efficiency curves.");
 }
 
-TEST_F(SetHotspot, CurvesOutOfOrderCannotBeExtracted) {
+TEST_F(SetHotspot, CurvesOutOfOrderGiveTheLimitsOfTheFirstAndTheLast) {
   CurveFileText file = LogarithmicCurves();
-  file.curves[1].E =
-      "95";  // 50, 95, 90: between 90 and 95 only the pair 50...95 encloses, below 90 too
-  file.curves[2].E = "40";  // 50, 95, 40: the limits are 50 and 40, no value passes both
+  file.curves[2].E = "40";  // 50, 70, 40
   Load(file);
+  EXPECT_FALSE(Ask(Pair::EV, "45", "3"));
+  EXPECT_EQ(chart_.ErrMsg(), "Design efficiency is less than 50%.");
   EXPECT_FALSE(Ask(Pair::EV, "60", "3"));
   EXPECT_EQ(chart_.ErrMsg(), "Design efficiency is greater than 40%.");
 }
 
-TEST_F(SetHotspot, AGapBetweenTheLimitsIsReportedByItsText) {
+TEST_F(SetHotspot, ASearchWithoutEndIsARateOutOfTheCurvesRange) {
+  // Around 3E299 inches neighbouring doubles lie farther apart than the tolerance on V, and this
+  // curve's values jump over R = 1 by far more than the tolerance on R.
+  CurveFileText file;
+  file.header = {"0", "1e300", "1e299", "0", "2", "1"};
+  const std::string A = ConvertToString(1e200 * std::log(3e299));
+  file.curves = {{"50", "1e299", "1e300", A, "-1e200", "0", "0"}};
+  Load(file);
+  ASSERT_TRUE(chart_.IsLoaded());
+  EXPECT_FALSE(Ask(Pair::ER, "50", "1"));
+  EXPECT_EQ(chart_.ErrMsg(),
+            "The normalized reuse rate is out of range of the specified efficiency curve.");
+  EXPECT_EQ(chart_.HelpTopicIndex(), 1);
+}
+
+TEST_F(SetHotspot, VolumesOnTheLimitsPassTheRangeCheck) {
   CurveFileText file = LogarithmicCurves();
-  file.curves = {file.curves[0]};
-  file.curves.push_back({"40", "1", "7", "0.1", "-0.05", "0", "0"});
-  file.curves.push_back({"60", "1", "7", "0.2", "-0.05", "0", "0"});  // 50, 40, 60
+  file.header[0] = "1";
   Load(file);
-  EXPECT_TRUE(Ask(Pair::EV, "55", "3"));  // enclosed by 40...60
-  file.curves = {{"50", "1", "7", "0.1", "-0.05", "0", "0"},
-                 {"40", "1", "7", "0.1", "-0.05", "0", "0"},
-                 {"52", "1", "7", "0.1", "-0.05", "0", "0"}};
-  Load(file);
-  EXPECT_TRUE(Ask(Pair::EV, "51", "3"));
+  for (const char* V : {"1", "7"}) {
+    Ask(Pair::RV, "0.39", V);  // above all curves, but within the limits
+    EXPECT_EQ(chart_.ErrMsg(),
+              "The specified point is out of range of the design efficiency curves.")
+        << V;
+  }
+}
+
+TEST_F(SetHotspot, ThePixelOfTheLowestCurveMayLieOutsideItsRegion) {
+  // The region is a polygon of whole pixels whose lower edge is the lowest curve itself. At V = 7
+  // the curve of 50 has R = 0.0527045, which EV finds; the pixel of that point is on the polygon's
+  // last column, where no region is entered.
+  ASSERT_TRUE(Ask(Pair::EV, "50", "7"));
+  EXPECT_FALSE(Ask(Pair::RV, result_, "7"));
+  EXPECT_EQ(chart_.ErrMsg(),
+            "The specified point is out of range of the design efficiency curves.");
 }
 
 TEST_F(SetHotspot, ASingleCurveHasNoRegion) {
@@ -247,6 +271,8 @@ TEST_F(SetHotspot, ASingleCurveHasNoRegion) {
 TEST_F(SetHotspot, AFailureKeepsTheLastSolvedPointButNotAsAnAnswer) {
   ASSERT_TRUE(Ask(Pair::EV, "60", "3"));
   EXPECT_FALSE(Ask(Pair::EV, "99", "3"));
+  EXPECT_EQ(chart_.HotspotE(), 60);
+  EXPECT_EQ(chart_.HotspotV(), 3);
   float value = 1;
   EXPECT_FALSE(chart_.GetE(value));  // the hotspot is hidden
   EXPECT_EQ(value, 0);

@@ -31,11 +31,44 @@ TEST_F(Kav, SolvesForEachQuantity) {
   EXPECT_EQ(R.exitCode, 0);
   EXPECT_EQ(R.err, "");
   EXPECT_THAT(R.out, HasSubstr("Reuse rate R       0.1200694   in/day on the EIA   <- found\n"));
-  const KavRun E = Run({"solve", "--station", "Tampa", "--rate", "0.1200694", "--volume", "3"});
-  EXPECT_THAT(E.out, HasSubstr("% of the runoff   <- found"));
+  const KavRun E =
+      Run({"solve", "--station", "Tampa", "--rate", "0.1200694", "--volume", "3", "--json"});
+  EXPECT_NEAR(nlohmann::json::parse(E.out)["E"].get<double>(), 60, 1e-4);
   const KavRun V =
-      Run({"solve", "--station", "Tampa", "--rate", "0.1200694", "--efficiency", "60"});
-  EXPECT_THAT(V.out, HasSubstr("in on the EIA   <- found"));
+      Run({"solve", "--station", "Tampa", "--rate", "0.1200694", "--efficiency", "60", "--json"});
+  EXPECT_NEAR(nlohmann::json::parse(V.out)["V"].get<double>(), 3,
+              6e-4);  // 1E-5 in R is 6E-4 in V here
+  EXPECT_EQ(E.exitCode + V.exitCode, 0);
+}
+
+// The three questions of the README: each answer, asked back, gives what was asked.
+TEST(KavWithTheShippedCurves, AgreesWithItselfOnGainesville) {
+  const auto solve = [](const std::vector<std::string>& given, const char* wanted) {
+    std::vector<std::string> arguments = {"solve", "--station", "Gainesville", "--json"};
+    arguments.insert(arguments.end(), given.begin(), given.end());
+    const KavRun run = test::RunKavWith(arguments, ORVIK_DATA_DIR "/");
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    return nlohmann::json::parse(run.out)[wanted].dump();
+  };
+  const std::string E = solve({"--rate", "0.15", "--volume", "3"}, "E");
+  EXPECT_NEAR(std::stod(solve({"--efficiency", E, "--volume", "3"}, "R")), 0.15, 1e-5);
+  const std::string V = solve({"--efficiency", "80", "--rate", "0.15"}, "V");
+  EXPECT_NEAR(std::stod(solve({"--rate", "0.15", "--volume", V}, "E")), 80, 0.01);
+  const std::string R = solve({"--efficiency", "80", "--volume", "3"}, "R");
+  EXPECT_NEAR(std::stod(solve({"--rate", R, "--volume", "3"}, "E")), 80, 0.01);
+}
+
+TEST_F(Kav, NamesACommandThatDoesNotExist) {
+  EXPECT_EQ(Run({"foo"}).err, "There is no command \"foo\". kav --help lists them.\n");
+}
+
+TEST_F(Kav, AFullDiskOnStandardOutputIsAFailure) {
+  std::ostringstream out;
+  std::ostringstream err;
+  out.setstate(std::ios::badbit);
+  Console console{out, err, false, folder_.Path()};
+  EXPECT_EQ(RunKavToTheEnd({"stations"}, console), 3);
+  EXPECT_EQ(err.str(), "Standard output cannot be written.\n");
 }
 
 TEST_F(Kav, PrintsOneJsonObject) {
@@ -99,6 +132,16 @@ TEST_F(Kav, ADamagedFileExitsThree) {
   const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
   EXPECT_EQ(run.exitCode, 3);
   EXPECT_EQ(run.err, "The curve file of Tampa is damaged or cannot be read.\n");
+}
+
+TEST_F(Kav, AFileWithoutCarriageReturnsIsToldApartFromADamagedOne) {
+  std::string text = LogarithmicCurves().Text();
+  std::erase(text, '\r');
+  WriteTampa(text);
+  const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "The curve file of Tampa cannot be read: its lines must end with CR LF.\n");
 }
 
 TEST_F(Kav, CurvesThatMeetExitThree) {

@@ -79,6 +79,7 @@ TEST(BoundedLeastSquares, NoAllowedPointIsNearer) {
     const Vector target = randomVector();
     BoundedLeastSquares problem = NearestTo(target);
     std::vector<std::pair<Vector, double>> requirements;
+    requirements.reserve(40);
     for (int i = 0; i < 40; ++i) requirements.emplace_back(randomVector(), 0.15 * random() - 0.16);
     for (const auto& [a, b] : requirements) problem.Require(a, b);
     const auto isAllowed = [&](const Vector& x, double slack) {

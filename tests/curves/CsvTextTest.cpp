@@ -1,12 +1,9 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "curves/CsvText.h"
 
 namespace orvik {
 namespace {
-
-using testing::ElementsAre;
 
 TEST(CsvLines, EndAtLfOrCrLf) {
   CsvLines lines("a\r\nb\n\nc");

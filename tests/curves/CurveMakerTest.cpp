@@ -5,7 +5,9 @@
 
 #include "curves/CurveCheck.h"
 #include "curves/CurveFileWriter.h"
+#include "curves/CurveFit.h"
 #include "curves/CurveMaker.h"
+#include "curves/EfficiencyTable.h"
 #include "curves/Refusal.h"
 #include "curves/SampleRecords.h"
 
@@ -39,13 +41,47 @@ TEST(MakeCurves, MakesTenCurvesWithinTheLimitsOfError) {
   }
 }
 
+// The rate that reaches E at a volume, found by halving; not from the maker's table.
+double RateFor(const PondDays& days, double V, double E) {
+  double low = 0;
+  double high = 2;
+  for (int i = 0; i < 40; ++i) {
+    const double middle = (low + high) / 2;
+    (SimulatePond(days, {V, middle}).Efficiency() < E ? low : high) = middle;
+  }
+  return high;
+}
+
+// Whether a curve of this efficiency within one point of the simulation can begin at VStart and
+// still keep its distance from the one below.
+bool CanBeginAt(const PondDays& days, double VStart, double E, const EfficiencyCurve* lower) {
+  std::vector<RateBand> bands;
+  for (const double V : GeometricSteps(VStart, 7, 32)) {
+    bands.push_back({V, RateFor(days, V, E - 1), RateFor(days, V, E), RateFor(days, V, E + 1)});
+  }
+  const double asymptote = days.MeanRunoff() / 100;
+  return FitCurve(bands, {.MostError = 1,
+                          .VStart = VStart,
+                          .VEnd = 7,
+                          .MostR = 0.4,
+                          .LeastR = asymptote * E * 1.001,
+                          .lower = lower,
+                          .Gap = 2.5 * asymptote})
+      .has_value();
+}
+
 TEST(MakeCurves, NoCurveCouldBeginMuchSmaller) {
-  // At the next smaller step the limit of the axis or of the error is reached by simulation: the
-  // rate of the axis reaches E less 1 at VStart only just.
+  // Two steps of 0.05 inch: the maker accepts a little less than one point of error, as its table
+  // and its fit do not see every volume.
   const PondDays days = SampleDays();
   const MadeCurves made = MakeCurves(days, {}, "x");
-  const EfficiencyCurve& last = made.Set.Curves.back();
-  EXPECT_LT(SimulatePond(days, {last.VStart - 0.45, 0.4}).Efficiency(), 94);
+  const EfficiencyCurve* lower = nullptr;
+  for (const EfficiencyCurve& curve : made.Set.Curves) {
+    const auto E = static_cast<double>(curve.E);
+    EXPECT_FALSE(CanBeginAt(days, curve.VStart - 0.1, E, lower)) << E;
+    EXPECT_TRUE(CanBeginAt(days, curve.VStart + 0.1, E, lower)) << E;
+    lower = &curve;
+  }
 }
 
 TEST(MakeCurves, StartsDoNotFallFromCurveToCurve) {
@@ -74,9 +110,9 @@ TEST(MakeCurves, WorksOnOtherAxesAndWithHoldOffAndAbstraction) {
     const PondDays days = SampleDays(options);
     const MadeCurves made = MakeCurves(days, wide, "x");
     EXPECT_EQ(made.Set.RMax, 0.8);
-    for (std::size_t i = 0; i < made.Errors.size(); ++i) {
-      EXPECT_LE(made.Errors[i].Max, kMostError);
-      EXPECT_LE(made.Errors[i].Mean, kMostMeanError);
+    for (const CurveError& error : made.Errors) {
+      EXPECT_LE(error.Max, kMostError);
+      EXPECT_LE(error.Mean, kMostMeanError);
     }
   }
 }
@@ -90,6 +126,34 @@ TEST(MakeCurves, RefusesAxesThatAreTooSmallAndSaysWhatHelps) {
     EXPECT_THAT(refusal.what(), testing::HasSubstr("No curve for E = "));
     EXPECT_THAT(refusal.what(), testing::HasSubstr("Choose a larger --r-max."));
   }
+}
+
+std::string RefusalOf(const PondDays& days, const ChartAxes& axes) {
+  try {
+    MakeCurves(days, axes, "x");
+  } catch (const Refusal& refusal) {
+    return refusal.what();
+  }
+  return "not refused";
+}
+
+TEST(MakeCurves, ARefusalDoesNotContradictTheAxis) {
+  // Under constant rain of 1 inch a day every volume needs 0.5 inch for half of it.
+  EXPECT_EQ(RefusalOf(BuildPondDays(test::ConstantRain(1, 6), {}), {}),
+            "No curve for E = 50% fits within V = 7 in and R = 0.4 in/day: at the largest volume "
+            "it needs R = 0.500 in/day. Choose a larger --r-max.");
+  EXPECT_EQ(RefusalOf(BuildPondDays(test::ConstantRain(2, 6), {}), {}),
+            "No curve for E = 50% fits within V = 7 in and R = 0.4 in/day: at the largest volume "
+            "even R = 0.600 in/day is too little. Choose a larger --r-max or --v-max.");
+  // The axis ends just above what the largest volume needs.
+  const PondDays days = SampleDays();
+  const double needed = RateFor(days, 7, 95);
+  ASSERT_GT(needed, 0.2);
+  ASSERT_LT(needed, 0.202);
+  EXPECT_THAT(RefusalOf(days, {.RMax = 0.202, .RInterval = 0.101}),
+              testing::HasSubstr("No curve for E = 95% fits within V = 7 in and R = 0.202 in/day: "
+                                 "at the largest volume it needs R = 0.201 in/day, which leaves "
+                                 "too little of the V axis. Choose a larger --r-max or --v-max."));
 }
 
 TEST(MakeCurves, UnderConstantRainEveryCurveIsItsShareOfTheRain) {

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/Paths.h"
+#include "engine/ClimateStations.h"
 #include "support/KavRun.h"
 #include "support/TempFolder.h"
 
@@ -143,6 +144,75 @@ TEST(CurvesMake, RefusesOptionsThatMakeNoSense) {
   }
 }
 
+TEST(CurvesMake, NeverWritesOverTheRecord) {
+  const test::TempFolder folder;
+  const std::string text = test::ReadBytes(kSample);
+  const std::string rain = folder.Write("mine.csv", text);
+  for (const std::string& output : {rain, folder / "./mine.csv"}) {
+    const KavRun result = RunCommand(MakeArguments(rain, output));
+    EXPECT_EQ(result.exitCode, 2) << output;
+    EXPECT_EQ(result.err, "--rain and --output are the same file; the record would be lost.\n");
+    EXPECT_EQ(test::ReadBytes(rain), text);
+  }
+}
+
+TEST(CurvesMake, WantsANameAndAFileBeforeAnyWork) {
+  const test::TempFolder folder;
+  for (const std::size_t place : {7U, 9U}) {
+    for (const char* blank : {"", " "}) {
+      // The record does not exist: reading it would be exit 3.
+      auto arguments = MakeArguments(folder / "none.csv", folder / "a.crv");
+      arguments[place] = blank;
+      const KavRun result = RunCommand(arguments);
+      EXPECT_EQ(result.exitCode, 2) << arguments[place - 1];
+      EXPECT_THAT(result.err, HasSubstr("must not be empty")) << arguments[place - 1];
+    }
+  }
+}
+
+TEST(CurvesMake, SaysThatTheOutputIsAFolderBeforeAnyWork) {
+  const test::TempFolder folder;
+  const KavRun result = RunCommand(MakeArguments(folder / "none.csv", folder.Path()));
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_THAT(result.err, HasSubstr("cannot be written: it is a folder."));
+}
+
+TEST(CurvesMake, NamesHoldOffAndAbstractionInTheTitleAndInJson) {
+  const test::TempFolder folder;
+  auto arguments = MakeArguments(kSample, folder / "a.crv");
+  arguments.insert(arguments.end(),
+                   {"--hold-off", "2", "--abstraction", "0.1", "--r-max", "0.8", "--json"});
+  const KavRun made = RunCommand(arguments);
+  ASSERT_EQ(made.exitCode, 0) << made.err;
+  EXPECT_THAT(test::ReadBytes(folder / "a.crv"),
+              HasSubstr(", 10 usable years, hold-off 2 days, abstraction 0.1 in\r\n"));
+  const auto object = nlohmann::json::parse(made.out);
+  EXPECT_EQ(object["holdOffDays"], 2);
+  EXPECT_EQ(object["abstractionIn"], 0.1);
+}
+
+TEST(CurvesMake, PrintsTheWettestDayAndWarnsOfACodeForAMissingValue) {
+  const test::TempFolder folder;
+  std::string text = test::ReadBytes(kSample);
+  for (const char* date : {"\n2003-05-05,", "\n2006-07-08,"}) {
+    const auto place = text.find(date);
+    ASSERT_NE(place, std::string::npos);
+    const auto depth = place + std::string(date).size();
+    text.replace(depth, text.find_first_of("\r\n", depth) - depth, "16");
+  }
+  const std::string rain = folder.Write("coded.csv", text);
+  auto arguments = MakeArguments(rain, folder / "a.crv");
+  arguments.insert(arguments.end(), {"--r-max", "0.8"});
+  const KavRun made = RunCommand(arguments);
+  EXPECT_THAT(made.err, HasSubstr("16.00 inches, stands on 2 days, first on 2003-05-05: a code"));
+  EXPECT_EQ(made.exitCode, 0) << made.err;
+  EXPECT_THAT(made.out, HasSubstr("wettest day 16.00 inches on 2003-05-05"));
+
+  const KavRun plain = RunCommand(MakeArguments(kSample, folder / "b.crv"));
+  EXPECT_THAT(plain.out, HasSubstr("inches a year, wettest day "));
+  EXPECT_THAT(plain.err, testing::Not(HasSubstr("missing value")));
+}
+
 TEST(CurvesMake, ARainTooWetForTheAxesIsRefused) {
   const test::TempFolder folder;
   const KavRun result =
@@ -168,6 +238,35 @@ TEST(CurvesMakeAll, WritesNothingUnlessAllStationsAreThere) {
   EXPECT_EQ(result.exitCode, 3);
   EXPECT_THAT(result.err, HasSubstr("Belle Glade.csv cannot be read"));
   EXPECT_FALSE(FolderExists(folder / "out"));
+}
+
+TEST(CurvesMakeAll, TablesNameTheMethodAndWhatTheRecordsLack) {
+  const test::TempFolder folder;
+  const std::string rain = test::ReadBytes(kSample);
+  const std::string tail = "2012-01-01,0\n2012-01-01,0.5\n2012-01-02,-1\n2012-01-05,\n";
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    folder.Write("rain/" + std::string(ClimateStationName(i)) + ".csv", rain + tail);
+  }
+  const KavRun result = RunCommand({"curves", "make-all", "--rain-dir", folder / "rain", "-o",
+                                    folder / "out", "--hold-off", "1", "--r-max", "0.8", "--json"});
+  ASSERT_EQ(result.exitCode, 0) << result.err;
+  const std::string sources = test::ReadBytes(folder / "out/SOURCES.md");
+  EXPECT_THAT(sources, HasSubstr("All curves: hold-off 1 day, abstraction 0 in.\n"));
+  // Left out 2011 and 2012; the row without a depth; two gaps, 2011 and January 3 and 4.
+  EXPECT_THAT(sources, HasSubstr("| Tampa | 2 | 0 | 1 | 2 | 367 | 1 | 1 | 1 |\n"));
+  EXPECT_THAT(test::ReadBytes(folder / "out/Tampa.crv"),
+              HasSubstr(" usable years, hold-off 1 day\r\n"));
+  const auto station = nlohmann::json::parse(result.out)["stations"][22];
+  EXPECT_EQ(station["holdOffDays"], 1);
+  EXPECT_EQ(station["abstractionIn"], 0);
+  EXPECT_EQ(station["findings"]["gapDays"], 367);
+  EXPECT_EQ(station["findings"]["duplicates"], 1);
+  EXPECT_EQ(station["findings"]["negatives"], 1);
+}
+
+TEST(CurvesMakeAll, WantsItsFoldersNamed) {
+  EXPECT_EQ(RunCommand({"curves", "make-all", "--rain-dir", "x", "-o", ""}).exitCode, 2);
+  EXPECT_EQ(RunCommand({"curves", "make-all", "--rain-dir", "", "-o", "x"}).exitCode, 2);
 }
 
 TEST(CurvesCheck, PassesAShippedFile) {
@@ -206,6 +305,24 @@ TEST(CurvesCheck, AFileThatCannotBeReadIsFileTrouble) {
   const KavRun result = RunCommand({"curves", "check", folder.Write("half.crv", half)});
   EXPECT_EQ(result.exitCode, 3);
   EXPECT_THAT(result.err, HasSubstr("is damaged"));
+}
+
+TEST(CurvesCheck, SaysThatLinesMustEndWithCrLf) {
+  std::string text = test::ReadBytes(kTampa);
+  std::erase(text, '\r');
+  const test::TempFolder folder;
+  const std::string path = folder.Write("lf.crv", text);
+  const KavRun result = RunCommand({"curves", "check", path});
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_EQ(result.err,
+            "The curve file " + path + " cannot be read: its lines must end with CR LF.\n");
+}
+
+TEST(Curves, HelpShowsTheirOwnExamples) {
+  const KavRun help = RunCommand({"curves", "--help"});
+  EXPECT_EQ(help.exitCode, 0);
+  EXPECT_THAT(help.out, HasSubstr("kav curves make --rain"));
+  EXPECT_THAT(help.out, testing::Not(HasSubstr("kav solve")));
 }
 
 TEST(Curves, WantASubcommand) {

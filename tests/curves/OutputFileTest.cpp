@@ -1,4 +1,11 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <iterator>
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 #include "base/Paths.h"
 #include "curves/FileError.h"
@@ -8,12 +15,17 @@
 namespace orvik {
 namespace {
 
+std::ptrdiff_t CountFiles(const test::TempFolder& folder) {
+  const std::filesystem::directory_iterator files(PathFromUtf8(folder.Path()));
+  return std::distance(begin(files), end(files));
+}
+
 TEST(WriteOutputFile, ReplacesAFileByteForByteAndLeavesNothingElse) {
   const test::TempFolder folder;
   const std::string path = folder.Write("a.crv", "old and longer");
   WriteOutputFile(path, "new\r\n");
   EXPECT_EQ(test::ReadBytes(path), "new\r\n");
-  EXPECT_FALSE(FileExists(path + ".new"));
+  EXPECT_EQ(CountFiles(folder), 1);
 }
 
 TEST(WriteOutputFile, SaysWhichFileCannotBeWritten) {
@@ -21,8 +33,68 @@ TEST(WriteOutputFile, SaysWhichFileCannotBeWritten) {
   EXPECT_THROW(WriteOutputFile(folder / "no such folder/a.crv", "x"), FileError);
   MakeOutputFolder(folder / "taken");
   EXPECT_THROW(WriteOutputFile(folder / "taken", "x"), FileError);
-  EXPECT_FALSE(FileExists(folder / "taken.new"));
+  EXPECT_EQ(CountFiles(folder), 1);
 }
+
+std::string FaultOf(const std::string& path) {
+  try {
+    WriteOutputFile(path, "x");
+  } catch (const FileError& error) {
+    return error.what();
+  }
+  return "written";
+}
+
+TEST(WriteOutputFile, LeavesOtherFilesBesideItAlone) {
+  const test::TempFolder folder;
+  const std::string mine = folder.Write("a.crv.new", "mine");
+  WriteOutputFile(folder / "a.crv", "x");
+  EXPECT_EQ(test::ReadBytes(mine), "mine");
+  EXPECT_EQ(CountFiles(folder), 2);
+}
+
+TEST(WriteOutputFile, SaysThatAFolderIsOne) {
+  const test::TempFolder folder;
+  MakeOutputFolder(folder / "taken");  // empty: a rename could replace it
+  EXPECT_EQ(FaultOf(folder / "taken"),
+            "The file " + (folder / "taken") + " cannot be written: it is a folder.");
+  EXPECT_TRUE(FolderExists(folder / "taken"));
+  EXPECT_EQ(CountFiles(folder), 1);
+}
+
+TEST(WriteOutputFile, WritesThroughALink) {
+  const test::TempFolder folder;
+  std::error_code error;
+  for (const char* name : {"there.crv", "not yet.crv"}) {
+    std::filesystem::create_symlink(name, PathFromUtf8(folder / "link"), error);
+    if (error) GTEST_SKIP() << "This system makes no links: " << error.message();
+    if (name == std::string("there.crv")) folder.Write(name, "old");
+    WriteOutputFile(folder / "link", "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(PathFromUtf8(folder / "link"))) << name;
+    EXPECT_EQ(test::ReadBytes(folder / name), "new");
+    std::filesystem::remove(PathFromUtf8(folder / "link"));
+  }
+}
+
+TEST(WriteOutputFile, ALinkToItselfIsAFault) {
+  const test::TempFolder folder;
+  std::error_code error;
+  std::filesystem::create_symlink("link", PathFromUtf8(folder / "link"), error);
+  if (error) GTEST_SKIP() << "This system makes no links: " << error.message();
+  EXPECT_THAT(FaultOf(folder / "link"), testing::HasSubstr("cannot be written"));
+  EXPECT_TRUE(std::filesystem::is_symlink(PathFromUtf8(folder / "link")));
+}
+
+#ifndef _WIN32
+TEST(WriteOutputFile, RefusesAPipe) {
+  const test::TempFolder folder;
+  const std::string pipe = folder / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(FaultOf(pipe),
+            "The file " + pipe + " cannot be written: it is a device or a pipe, not a file.");
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
+#endif
 
 TEST(MakeOutputFolder, MakesFoldersOnTheWay) {
   const test::TempFolder folder;

@@ -104,6 +104,7 @@ TEST(SimulateEfficiencies, EqualOnePondAtATimeBitForBit) {
        {PondOptions{}, PondOptions{.HoldOffDays = 2, .AbstractionIn = 0.1}}) {
     const PondDays days = BuildPondDays(IrregularRain(), options);
     std::vector<PondCell> cells;  // neither a whole block nor a multiple of one
+    cells.reserve(301);
     for (int i = 0; i < 301; ++i) cells.push_back({0.05 + 0.023 * i, 0.4 - 0.0013 * i});
     const auto E = SimulateEfficiencies(days, cells);
     ASSERT_EQ(E.size(), cells.size());

@@ -103,5 +103,38 @@ TEST(RainYears, ACodeForAMissingValueIsNotRain) {
   EXPECT_THAT(RefusalOf(record), HasSubstr("has 100 inches, more than was ever measured"));
 }
 
+TEST(RainYears, KnowTheirWettestDay) {
+  RainRecord record = FullYears(2001, 2005, 0.1);
+  record.Days[31 + 4].DepthIn = 7.5;
+  record.Days[31 + 9].DepthIn = 7.25;
+  const RainYears years = SelectRainYears(record);
+  EXPECT_EQ(years.WettestDayIn, 7.5);
+  EXPECT_EQ(years.WettestDay, sys_days(year(2001) / 2 / 5));
+  EXPECT_EQ(years.WettestDays, 1);
+}
+
+TEST(RainYears, TheSameLargestDepthAboveFifteenInchesTwiceIsSuspect) {
+  struct Case {
+    double first;
+    double second;
+    bool isSuspect;
+  };
+  // 999.9 mm and 9999 tenths of a millimetre are 39.37 inches.
+  for (const auto& [first, second, isSuspect] :
+       {Case{999.9 / 25.4, 999.9 / 25.4, true}, Case{15.01, 15.01, true}, Case{15, 15, false},
+        Case{22.75, 22.5, false}, Case{22.75, 0.1, false}}) {
+    RainRecord record = FullYears(2001, 2005, 0.1);
+    record.Days[59].DepthIn = first;
+    record.Days[500].DepthIn = second;
+    const std::string text = DescribeSuspectedCode(SelectRainYears(record));
+    EXPECT_EQ(!text.empty(), isSuspect) << first << " " << second << ": " << text;
+  }
+  RainRecord record = FullYears(2001, 2005, 0.1);
+  for (const std::size_t day : {59U, 400U, 500U}) record.Days[day].DepthIn = 999.9 / 25.4;
+  EXPECT_EQ(DescribeSuspectedCode(SelectRainYears(record)),
+            "The largest depth, 39.37 inches, stands on 3 days, first on 2001-03-01: a code for a "
+            "missing value? If so, leave these depths empty.");
+}
+
 }  // namespace
 }  // namespace orvik

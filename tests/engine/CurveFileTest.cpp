@@ -97,6 +97,11 @@ TEST(ReadCurveFile, RefusesASetThatCannotBeUsed) {
       {"infinite V maximum", [](CurveFileText& f) { f.header[1] = "1e999"; }},
       {"V maximum not above minimum", [](CurveFileText& f) { f.header[1] = "0"; }},
       {"R maximum not above minimum", [](CurveFileText& f) { f.header[4] = "-1"; }},
+      {"limits infinitely far apart",
+       [](CurveFileText& f) {
+         f.header[3] = "-1e308";
+         f.header[4] = "1e308";
+       }},
       {"infinite coefficient", [](CurveFileText& f) { f.curves[1].D = "1e999"; }},
       {"samples beyond a double",
        [](CurveFileText& f) { f.curves[2].C = f.curves[2].D = "1e308"; }},

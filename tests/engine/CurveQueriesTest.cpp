@@ -127,6 +127,22 @@ TEST(FindEBetweenCurves, TakesTheCurveItselfWithinTheTolerance) {
   EXPECT_NE(FindEBetweenCurves(3, CurveR(3, A) + 1.1e-5, A, B)->E, 50);
 }
 
+TEST(FindEBetweenCurves, GivesUpWhereItsStepsAreTooCoarse) {
+  // A sum of two numbers near 1E20 can only be a multiple of 16384, which never comes within 1E-5
+  // of this rate.
+  const double shift = 1e20 * std::log(2.0);
+  EfficiencyCurve A = Logarithmic(50, shift + 1.5e16, 1);
+  EfficiencyCurve B = Logarithmic(70, shift + 2e16, 1);
+  A.B = B.B = -1e20;
+  EXPECT_FALSE(FindEBetweenCurves(2, 1.7e16 + 2, A, B));
+}
+
+TEST(FindEBetweenCurves, GivesUpOnWhatIsNotANumber) {
+  EfficiencyCurve A = Logarithmic(50, 0.15, 1);
+  A.A = std::nan("");
+  EXPECT_FALSE(FindEBetweenCurves(3, 0.13, A, Logarithmic(70, 0.20, 1.5)));
+}
+
 TEST(FindEBetweenCurves, EqualEOrEqualRIsADivisionByZero) {
   const EfficiencyCurve A = Logarithmic(50, 0.15, 1);
   EfficiencyCurve sameE = Logarithmic(50, 0.20, 1);

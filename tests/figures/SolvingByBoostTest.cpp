@@ -110,8 +110,11 @@ TEST_P(SolvingByBoost, EfficiencyAgreesToTheRatesTolerance) {
   // over that pixel: less than 0.1 percentage points.
   int solved = 0;
   int nextDoor = 0;
+  const double pixelV = chart_.Geometry().XFrameToXPlot(101) - chart_.Geometry().XFrameToXPlot(100);
+  const double pixelR = chart_.Geometry().YFrameToYPlot(100) - chart_.Geometry().YFrameToYPlot(101);
   const auto& curves = chart_.Curves().Curves;
   for (std::size_t i = 0; i + 1 < curves.size(); ++i) {
+    const int solvedBefore = solved;
     for (double V = curves[i + 1].VStart; V <= 7; V += 0.0917) {
       const double low = CurveR(V, curves[i]);
       const double high = CurveR(V, curves[i + 1]);
@@ -123,8 +126,12 @@ TEST_P(SolvingByBoost, EfficiencyAgreesToTheRatesTolerance) {
                  curves[i].E, curves[i + 1].E);
         if (!chart_.SetHotspotUsing_RV(ConvertToString(R), ConvertToString(V), text_)) {
           // Only on the outermost pixels of the curves' region.
-          EXPECT_TRUE(V < curves[i + 1].VStart + 0.02 || V > 6.98 || i == 0 ||
-                      i + 2 == curves.size());
+          const double stepLow = pixelR + CurveR(V - pixelV, curves[i]) - low;
+          const double stepHigh = pixelR + CurveR(V - pixelV, curves[i + 1]) - high;
+          const bool lowest = i == 0 && R - low < stepLow;
+          const bool highest = i + 2 == curves.size() && high - R < stepHigh;
+          const bool atAnEnd = V < curves[i + 1].VStart + pixelV || V > 7 - pixelV;
+          EXPECT_TRUE(lowest || highest || atAnEnd) << R << " " << V;
           continue;
         }
         const double perRate = (curves[i + 1].E - curves[i].E) / (high - low);
@@ -134,6 +141,8 @@ TEST_P(SolvingByBoost, EfficiencyAgreesToTheRatesTolerance) {
         ++solved;
       }
     }
+    EXPECT_GT(solved, solvedBefore + 100)
+        << "between " << curves[i].E << " and " << curves[i + 1].E;
   }
   EXPECT_GT(solved, 2000);
   EXPECT_LT(nextDoor, solved / 10);

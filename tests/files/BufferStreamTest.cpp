@@ -111,11 +111,12 @@ TEST(BufferInput, ScanSingleTakesOneLineAndWantsANumber) {
 
 TEST(BufferInput, ScanIntegerTakesWholeNumbersOnly) {
   clsIOStream stream;
-  ASSERT_TRUE(stream.OpenFile(" 25 \r\n2.5\r\n-1\r\n40000\r\n+3", AsciiBufferInput));
+  ASSERT_TRUE(stream.OpenFile(" 25 \r\n2.5\r\n3.5\r\n-1\r\n40000\r\n+3", AsciiBufferInput));
   std::int16_t value = 0;
   EXPECT_TRUE(stream.ScanInteger(value));
   EXPECT_EQ(value, 25);
   EXPECT_FALSE(stream.ScanInteger(value));  // a fraction is not a whole number
+  EXPECT_FALSE(stream.ScanInteger(value));
   EXPECT_EQ(value, 25);
   EXPECT_TRUE(stream.ScanInteger(value));
   EXPECT_EQ(value, -1);

@@ -32,5 +32,5 @@ int wmain(int argc, wchar_t** argv) {
   std::vector<std::string> arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(orvik::PathToUtf8(argv[i]));
   orvik::Console console{std::cout, std::cerr, _isatty(_fileno(stderr)) != 0, ProgramFolder()};
-  return orvik::RunKav(arguments, console);
+  return orvik::RunKavToTheEnd(arguments, console);
 }
