@@ -1,8 +1,8 @@
-#include "platform/headless/HeadlessToolkit.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+
+#include "platform/headless/HeadlessToolkit.h"
 
 namespace orvik {
 namespace {
