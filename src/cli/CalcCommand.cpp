@@ -81,6 +81,16 @@ void PrintText(std::ostream& out, const std::vector<Row>& rows) {
   }
 }
 
+// Why a project without a message on its bar has no results; empty where it has some.
+std::string WhyWithoutResults(Form1& window) {
+  const std::int16_t mode = window.Fields().cmbSolveFor->ListIndex();
+  if (!IsSolveForMode(mode)) return "No solve-for mode is chosen.";
+  if (mode == SolveFor::kInteractive && window.Chart().HotSpotVisibile() == kFalse16) {
+    return "No point is placed on the chart.";
+  }
+  return {};
+}
+
 ExitCode RunCalc(Console& console, const CommonOptions& options, const std::string& path) {
   HeadlessToolkit toolkit;
   HeadlessDesktop desktop;
@@ -89,8 +99,9 @@ ExitCode RunCalc(Console& console, const CommonOptions& options, const std::stri
   const auto rows = RowsOf(window);
   const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
   options.json ? PrintJson(console.out, rows, bar) : PrintText(console.out, rows);
-  if (bar.IsSet() == kFalse16) return ExitCode::Done;
-  PrintMessage(console, bar.Text());
+  const std::string message = bar.IsSet() != kFalse16 ? bar.Text() : WhyWithoutResults(window);
+  if (message.empty()) return ExitCode::Done;
+  PrintMessage(console, message);
   return ExitCode::CalculationSaysNo;
 }
 

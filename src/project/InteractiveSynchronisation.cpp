@@ -74,12 +74,14 @@ void InteractiveSynchronisation::ShowR(bool intoSlot) {
   if (!chart_.GetR(R)) return ShowChartMessage();
   form_.txtR.Text(ConvertToString(R));
   if (!intoSlot) return;
-  std::string site;
-  std::string message;
-  const bool converted =
-      NormalizedReuseToSiteReuse(form_.txtR.Text(), form_.txtEquivalentImperviousArea.Text(),
-                                 form_.txtIrrigationArea.Text(), site, message);
-  ShowConverted(SiteQuantity::ReuseRate, converted, site, message);
+  ShowFaultsOnBar(form_.txtErrMsg, [this] {
+    std::string site;
+    std::string message;
+    const bool converted =
+        NormalizedReuseToSiteReuse(form_.txtR.Text(), form_.txtEquivalentImperviousArea.Text(),
+                                   form_.txtIrrigationArea.Text(), site, message);
+    ShowConverted(SiteQuantity::ReuseRate, converted, site, message);
+  });
 }
 
 void InteractiveSynchronisation::ShowE(bool intoSlot) {
@@ -94,11 +96,13 @@ void InteractiveSynchronisation::ShowV(bool intoSlot) {
   if (!chart_.GetV(V)) return ShowChartMessage();
   form_.txtV.Text(ConvertToString(V));
   if (!intoSlot) return;
-  std::string site;
-  std::string message;
-  const bool converted = NormalizedStorageToSiteStorage(
-      form_.txtV.Text(), form_.txtEquivalentImperviousArea.Text(), site, message);
-  ShowConverted(SiteQuantity::StorageVolume, converted, site, message);
+  ShowFaultsOnBar(form_.txtErrMsg, [this] {
+    std::string site;
+    std::string message;
+    const bool converted = NormalizedStorageToSiteStorage(
+        form_.txtV.Text(), form_.txtEquivalentImperviousArea.Text(), site, message);
+    ShowConverted(SiteQuantity::StorageVolume, converted, site, message);
+  });
 }
 
 void InteractiveSynchronisation::ShowConverted(SiteQuantity quantity, bool converted,

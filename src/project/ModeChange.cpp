@@ -13,6 +13,7 @@ void SetLocked(ctrlMyTextBox& field, bool locked) {
 void ModeChange::Apply() {
   const std::int16_t mode = form_.cmbSolveFor->ListIndex();
   const SiteTexts texts = TextsOfOldMode();
+  const bool leavesSolution = IsTypedMode(mode_) && IsTypedMode(mode);
   mode_ = mode;
   if (IsSolveForMode(mode)) FillSlots(mode, texts);
   SetLocks(mode);
@@ -24,7 +25,18 @@ void ModeChange::Apply() {
     workflow_.ReCalc();
   } else if (placed) {
     interactive_.AnswerChange();
+  } else {
+    form_.txtErrMsg.Clear();
+    if (leavesSolution) EmptySolution();
   }
+}
+
+// What another mode has solved is no solution of this one, which still lacks numbers.
+void ModeChange::EmptySolution() {
+  chart_.HideHotSpot();
+  form_.txtR.Text("");
+  form_.txtE.Text("");
+  form_.txtV.Text("");
 }
 
 ModeChange::SiteTexts ModeChange::TextsOfOldMode() {

@@ -29,6 +29,7 @@ class ModeChange {
   SiteTexts TextsOfOldMode();
   void FillSlots(std::int16_t mode, const SiteTexts& texts);
   void SetLocks(std::int16_t mode);
+  void EmptySolution();
 
   ProjectForm& form_;
   ctrlStormwaterReuse& chart_;

@@ -55,7 +55,7 @@ void RecalculationTriggers::Watch(Entry& entry) {
   const bool definesEIA =
       &entry.field == &form_.txtBasinArea || &entry.field == &form_.txtRunoffCoefficient;
   entry.field.OnChange = [this, &entry, definesEIA] {
-    entry.changed = true;
+    entry.changed = !entry.field.Locked();  // a locked field shows results; nobody typed there
     if (definesEIA) workflow_.UpdateEquivalentImperviousArea();
   };
   OnEnter(entry.field, [this, &entry] { Process(entry); });

@@ -134,6 +134,8 @@ TEST_F(Interactive, ASiteValueBeyondSinglePrecisionIsAFaultOnTheBar) {
   Type("txtIrrigationArea", "1E-40");
   PressReCalc();
   EXPECT_EQ(Message(), "A number is too large for the calculation.");
+  EXPECT_NE(Text("txtE"), "");  // the point's own numbers are shown all the same
+  EXPECT_EQ(Text("txtV"), "3");
 }
 
 // --- Which pair can place the point ---

@@ -53,6 +53,38 @@ TEST_F(SolveForWorkflowTest, FiveAcreFeetAndOneInchPerWeekAreTwelveInchesAndASev
   EXPECT_EQ(Text("txtR"), "0.1428571");
 }
 
+// The digits of single precision at every step, in this order; double precision gives 5.59604 and
+// 0.1273065.
+TEST_F(SolveForWorkflowTest, NormalizedValuesAreCalculatedInSinglePrecision) {
+  TypeSite();
+  Choose("cmbSolveFor", "Efficiency");
+  Type("txtRunoffCoefficient", "1");
+  Type("txtBasinArea", "10.1");
+  Type("txtSolveFor(1)", "4.71");
+  TypeAndEnter("txtSolveFor(2)", "1.45");
+  EXPECT_EQ(Text("txtV"), "5.596039");
+  Type("txtBasinArea", "9.6");
+  TypeAndEnter("txtIrrigationArea", "5.9");
+  EXPECT_EQ(Text("txtR"), "0.1273066");
+}
+
+// A solution of one mode does not stand, locked, as if it were the next mode's.
+TEST_F(SolveForWorkflowTest, AModeThatLacksNumbersShowsNothingOfTheLastOne) {
+  SolveForEfficiency();
+  Type("txtSolveFor(1)", "");
+  TypeAndEnter("txtSolveFor(2)", "5000");  // lacks the storage volume
+  Type("txtSolveFor(1)", "5");
+  TypeAndEnter("txtSolveFor(2)", "0.875");
+  ASSERT_EQ(Message(), "Normalized storage volume is greater than 7");
+  Type("txtSolveFor(2)", "");
+  Choose("cmbSolveFor", "Reuse Rate");  // no efficiency to carry over
+  EXPECT_EQ(Message(), "");
+  EXPECT_EQ(form_->Fields().txtErrMsg.ExtendedHelpTopic(), 0);
+  EXPECT_EQ(Text("txtV"), "");
+  EXPECT_EQ(Text("txtR"), "");
+  EXPECT_FALSE(HotspotIsVisible());
+}
+
 TEST_F(SolveForWorkflowTest, AnotherIrrigationAreaChangesTheReuseRateOnly) {
   SolveForEfficiency();
   TypeAndEnter("txtIrrigationArea", "10");

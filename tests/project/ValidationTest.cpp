@@ -209,9 +209,10 @@ TEST_F(Validation, WithTheBasinAreaEmptyTheRunoffCoefficientLeavesTheEia) {
 }
 
 TEST_F(Validation, TheEiaIsMultipliedInSinglePrecision) {
-  Type("txtBasinArea", "12.3");
-  Type("txtRunoffCoefficient", "0.35");
-  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "4.305");
+  // In double precision 0.73 x 135.55 = 98.9515; of the singles next to the factors it is 98.95151.
+  Type("txtBasinArea", "135.55");
+  Type("txtRunoffCoefficient", "0.73");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "98.95151");
 }
 
 TEST_F(Validation, TheEiaCannotBeTyped) {

@@ -68,7 +68,7 @@ inline std::vector<SampleProject> SampleProjects() {
        [](HeadlessToolkit& toolkit, Form1&) {
          TypeSite(toolkit,
                   {"Sandhill Oaks School", "School campus; play fields irrigated from the pond",
-                   "26-022", "02-24-2026", "Orlando", "25", "0.48", "10"});
+                   "26-022", "02-24-2026", "Orlando", "25", "0.5", "10"});
          TypeGiven(toolkit, "Storage Volume", "78", "1.2");
        }},
       {"reuse-rate.kav",
