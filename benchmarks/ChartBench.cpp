@@ -35,7 +35,7 @@ struct Chart {
 void EmptyCopy(benchmark::State& state) {
   CairoImageSurface screen(kSize);
   const Picture picture = CairoImageSurface(kSize).Pixels();
-  for (auto _ : state) screen.CopyPicture(picture, {0, 0, kSize.width, kSize.height});
+  for ([[maybe_unused]] auto _ : state) screen.CopyPicture(picture, {0, 0, kSize.width, kSize.height});
 }
 BENCHMARK(EmptyCopy)->Unit(benchmark::kMicrosecond);
 
@@ -44,7 +44,7 @@ void FullPainting(benchmark::State& state) {
   std::string E;
   chart.control.SetHotspotUsing_RV("0.15", "3", E);
   CairoImageSurface screen(kSize);
-  for (auto _ : state) chart.control.Paint(screen);
+  for ([[maybe_unused]] auto _ : state) chart.control.Paint(screen);
 }
 BENCHMARK(FullPainting)->Unit(benchmark::kMicrosecond);
 
@@ -58,9 +58,9 @@ void MouseMove(benchmark::State& state) {
   chart.control.OnChange = [&] { ++changes; };
   chart.control.MouseDown(kLeftButton, 300, 400);
   int x = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     x = (x + 7) % 500;
-    chart.control.MouseMove(300 + x, 300 + x / 4);
+    chart.control.MouseMove(300 + x, 300 + x * 0.25);
   }
   benchmark::DoNotOptimize(changes);
   chart.control.AttachHost(nullptr);
