@@ -43,4 +43,8 @@ function(orvik_test target)
   cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
   orvik_program(${target} SOURCES ${TEST_SOURCES} LINKS ${TEST_LINKS} orvik_test_support GTest::gmock GTest::gtest_main)
   add_test(NAME ${target} COMMAND ${target} WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
+  if(ORVIK_SANITIZE)
+    set_tests_properties(${target} PROPERTIES ENVIRONMENT
+      "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/known-leaks.txt:print_suppressions=0")
+  endif()
 endfunction()

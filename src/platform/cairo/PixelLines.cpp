@@ -47,8 +47,7 @@ std::vector<Point> PixelsOfLine(std::span<const Point> points, int penWidth) {
     PutSegment(pixels, points[i], points[i + 1], penWidth);
   }
   std::ranges::sort(pixels, ByRows);
-  const auto again = std::ranges::unique(pixels);
-  pixels.erase(again.begin(), again.end());
+  pixels.erase(std::unique(pixels.begin(), pixels.end()), pixels.end());
   return pixels;
 }
 
