@@ -1,13 +1,8 @@
 #include "chart/Hotspot.h"
 
-#include "base/NumberText.h"
 #include "base/Rounding.h"
 
 namespace orvik {
-
-double AsStored(double value) {
-  return ParseNumber(ToShortestText(ToSingle(value)));
-}
 
 void Hotspot::PlaceAt(double V, double R, const PlotGeometry& geometry) {
   PutCentre(geometry.XPlotToXFrame(V), geometry.YPlotToYFrame(R));
@@ -17,8 +12,8 @@ void Hotspot::PlaceAt(double V, double R, const PlotGeometry& geometry) {
 
 void Hotspot::MoveBy(int dX, int dY, const PlotGeometry& geometry) {
   PutCentre(ToInt16(X_ + dX), ToInt16(Y_ + dY));
-  if (dX != 0) V_ = AsStored(geometry.XFrameToXPlot(X_));
-  if (dY != 0) R_ = AsStored(geometry.YFrameToYPlot(Y_));
+  if (dX != 0) V_ = geometry.XFrameToXPlot(X_);
+  if (dY != 0) R_ = geometry.YFrameToYPlot(Y_);
 }
 
 void Hotspot::PutCentre(std::int16_t X, std::int16_t Y) {

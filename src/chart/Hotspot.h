@@ -7,11 +7,6 @@
 
 namespace orvik {
 
-// A coordinate taken from a pixel, as a project file holds it: the shortest decimal text of the
-// single next to it. So a point placed by mouse or keys is the same point after saving and reading;
-// the difference is a millionth of a pixel.
-double AsStored(double value);
-
 // V (inches on the EIA) and R (inches per day on the EIA) are the master copy of the position; the
 // pixel and the box follow from them.
 class Hotspot {

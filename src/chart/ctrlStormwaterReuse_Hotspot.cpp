@@ -90,8 +90,8 @@ bool ctrlStormwaterReuse::TakesPoint(double x, double y) const {
 }
 
 void ctrlStormwaterReuse::PlaceByMouse(double x, double y) {
-  const double V = AsStored(geometry_.XFrameToXPlot(ToInt16(x)));
-  const double R = AsStored(geometry_.YFrameToYPlot(ToInt16(y)));
+  const double V = geometry_.XFrameToXPlot(ToInt16(x));
+  const double R = geometry_.YFrameToYPlot(ToInt16(y));
   hotspotVisible_ = true;
   hotspot_.PlaceAt(V, R, geometry_);
   EvaluateE();

@@ -129,22 +129,6 @@ TEST_F(RoundTrip, ADescriptionOfTenThousandCharacters) {
   ExpectSameAfterSavingAndReading();
 }
 
-TEST_F(RoundTrip, APointPlacedByMouseAndArrowKeys) {
-  TypeSite();
-  RandomProject project(7);
-  ctrlStormwaterReuse& chart = form_->Chart();
-  const clsRectangle_Integer& frame = chart.Layout().Frame;
-  for (int i = 0; i < 200; ++i) {
-    SCOPED_TRACE(i);
-    const double x = frame.Left + project.Below(static_cast<unsigned>(frame.Right - frame.Left));
-    const double y = frame.Top + project.Below(static_cast<unsigned>(frame.Bottom - frame.Top));
-    chart.MouseDown(1, x, y);
-    chart.MouseUp();
-    chart.KeyDown(static_cast<std::int16_t>(37 + project.Below(4)));
-    ExpectSameAfterSavingAndReading();
-  }
-}
-
 TEST_F(RoundTrip, AnEmptyProject) {
   ExpectSameAfterSavingAndReading();
 }
