@@ -50,12 +50,14 @@ PlacedTexts HorizontalNumbers(Surface& surface, const ChartScene& scene, const F
   const clsRectangle_Integer& frame = scene.layout.Frame;
   const auto values =
       AxisValues(window.XMin, window.XMax, scene.curves.VInterval, frame.Right - frame.Left);
+  const bool endsAtRight =
+      ReachesEnd(values.size(), window.XMin, window.XMax, scene.curves.VInterval);
   PlacedTexts numbers;
   for (std::size_t i = 0; i < values.size(); ++i) {
     std::string text = ConvertToString(values[i]);
     const Size size = surface.MeasureText(text, font);
     int left = scene.geometry.XPlotToXFrame(values[i]);
-    if (i + 1 == values.size() && i > 0) {
+    if (i + 1 == values.size() && endsAtRight) {
       left -= size.width;
     } else if (i > 0) {
       left -= size.width / 2;

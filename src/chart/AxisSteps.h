@@ -1,6 +1,7 @@
 // The values along an axis at which ticks, grid lines and numbers stand.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 namespace orvik {
@@ -10,5 +11,8 @@ namespace orvik {
 // has no place on the axis and is left out. Empty where the step is not positive, or so small that
 // its values would stand less than two of the axis' `pixels` apart.
 std::vector<double> AxisValues(double min, double max, double step, int pixels);
+
+// Is the last of these values the one after the inner ones? It is not where that was left out.
+bool ReachesEnd(std::size_t count, double min, double max, double step);
 
 }  // namespace orvik

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "base/RuntimeErrors.h"
@@ -19,8 +20,22 @@ int CurveWidth(const clsRectangle_Integer& frame) {
   return std::max(1, (frame.Bottom - frame.Top + kFramePerCurveWidth / 2) / kFramePerCurveWidth);
 }
 
-Area WithItsLines(const clsRectangle_Integer& frame) {
-  return {frame.Left, frame.Top, frame.Right + 1, frame.Bottom + 1};
+// Between the frame's lines, whose pixels lie about half on each side of its edges.
+Area WithoutItsLines(const clsRectangle_Integer& frame, int lineWidth) {
+  const int reach = lineWidth / 2;
+  return {frame.Left + reach + 1, frame.Top + reach + 1, frame.Right - reach, frame.Bottom - reach};
+}
+
+// Wide lines end where they end; filled, they meet in square corners.
+void FillFrameLines(Surface& surface, const clsRectangle_Integer& frame, int width) {
+  const int before = width / 2;
+  const int after = width - before;
+  const Area outer{frame.Left - before, frame.Top - before, frame.Right + after,
+                   frame.Bottom + after};
+  surface.FillArea({outer.left, outer.top, outer.right, outer.top + width}, kBlack);
+  surface.FillArea({outer.right - width, outer.top, outer.right, outer.bottom}, kBlack);
+  surface.FillArea({outer.left, outer.bottom - width, outer.right, outer.bottom}, kBlack);
+  surface.FillArea({outer.left, outer.top, outer.left + width, outer.bottom}, kBlack);
 }
 
 bool IsInside(Point point, const clsRectangle_Integer& frame) {
@@ -57,11 +72,6 @@ void DrawDot(Surface& surface, Point centre, int reach, Colour colour) {
                    colour);
 }
 
-// The paper that a text covers; above its characters a cell is blank.
-Area CharactersOf(Point at, Size size) {
-  return {at.x, at.y + size.height / 6, at.x + size.width, at.y + size.height};
-}
-
 // Nothing where the place is beyond 16-bit pixels, far off the chart.
 std::optional<Point> PlaceOf(const CurveLabel& label, const PlotGeometry& geometry) {
   try {
@@ -79,16 +89,17 @@ Point KeepInFrame(Point at, Size size, const clsRectangle_Integer& frame) {
           std::min(at.y, frame.Bottom - off - size.height)};
 }
 
-void DrawLabel(Surface& surface, const ChartScene& scene, const TextRoom& room,
-               const CurveLabel& label, const Font& font) {
+std::optional<PlacedText> PlaceLabel(Surface& surface, const ChartScene& scene,
+                                     const TextRoom& room, const CurveLabel& label,
+                                     const Font& font) {
   const std::string_view text = Trim(label.Text);
   const auto place = PlaceOf(label, scene.geometry);
-  if (text.empty() || !place) return;
+  if (text.empty() || !place) return std::nullopt;
   const Size size = surface.MeasureText(text, font);
   const Point at = KeepInFrame(*place, size, scene.layout.Frame);
-  if (!room.Has(PlaceLevel(std::string(text), font, size, at).area)) return;
-  surface.FillArea(CharactersOf(at, size), kPaper);
-  surface.WriteText(at, text, font, kBlack);
+  PlacedText placed = PlaceLevel(std::string(text), font, size, at);
+  if (!room.Has(placed.area)) return std::nullopt;
+  return placed;
 }
 
 }  // namespace
@@ -105,6 +116,7 @@ void DrawTitleBlock(Surface& surface, const ChartScene& scene, TextRoom& room) {
 }
 
 void DrawPlotFrame(Surface& surface, const clsRectangle_Integer& frame, int penWidth) {
+  if (penWidth > 1) return FillFrameLines(surface, frame, penWidth);
   const Pen pen{kBlack, penWidth};
   surface.Line({frame.Left, frame.Top}, {frame.Right, frame.Top}, pen);
   surface.Line({frame.Right, frame.Top}, {frame.Right, frame.Bottom}, pen);
@@ -113,22 +125,28 @@ void DrawPlotFrame(Surface& surface, const clsRectangle_Integer& frame, int penW
 }
 
 void DrawGridAndTicks(Surface& surface, const ChartScene& scene) {
-  const clsRectangle_Integer& frame = scene.layout.Frame;
+  const Area inside = WithoutItsLines(scene.layout.Frame, scene.frameLine);
   const auto columns = StepColumns(scene);
   const auto rows = StepRows(scene);
-  for (const int x : columns) surface.Line({x, frame.Bottom - 1}, {x, frame.Top}, {kGridLines});
-  for (const int y : rows) surface.Line({frame.Left + 1, y}, {frame.Right, y}, {kGridLines});
+  const int bottom = inside.bottom - 1;
+  const Pen grid{kGridLines, scene.thinLine};
+  for (const int x : columns) surface.Line({x, bottom}, {x, inside.top - 1}, grid);
+  for (const int y : rows) surface.Line({inside.left, y}, {inside.right, y}, grid);
   const int tick = scene.PixelHeightOf(scene.heights.Tick);
-  for (const int x : columns) surface.Line({x, frame.Bottom - 1}, {x, frame.Bottom - 1 - tick}, {});
-  for (const int y : rows) surface.Line({frame.Left + 1, y}, {frame.Left + 1 + tick, y}, {});
+  const Pen ink{kBlack, scene.thinLine};
+  for (const int x : columns) surface.Line({x, bottom}, {x, bottom - tick}, ink);
+  for (const int y : rows) surface.Line({inside.left, y}, {inside.left + tick, y}, ink);
 }
 
-void DrawCurves(Surface& surface, const ChartScene& scene) {
-  const ClipScope clip(surface, WithItsLines(scene.layout.Frame));
+void DrawCurves(Surface& surface, const ChartScene& scene, std::span<const Area> spared) {
+  const ClipScope clip(surface, CurveArea(scene.layout.Frame));
   const int width = CurveWidth(scene.layout.Frame);
   for (std::size_t i = 0; i < scene.curves.Curves.size(); ++i) {
     const auto pixels = CurvePixels(scene.curves.Curves[i], scene.geometry);
-    if (pixels) surface.Polyline(*pixels, {CurveColour(i), width});
+    if (!pixels) continue;
+    for (const auto& piece : PiecesOutside(*pixels, spared)) {
+      surface.Polyline(piece, {CurveColour(i), width});
+    }
   }
 }
 
@@ -143,11 +161,26 @@ void DrawCurveEnds(Surface& surface, const ChartScene& scene) {
   }
 }
 
-void DrawLabels(Surface& surface, const ChartScene& scene, const TextRoom& room) {
+std::vector<PlacedText> PlaceLabels(Surface& surface, const ChartScene& scene,
+                                    const TextRoom& room) {
   const int height = scene.PixelHeightOf(scene.heights.Label);
-  if (!IsReadable(height)) return;
-  const Font font = ChartFont(height);
-  for (const CurveLabel& label : scene.curves.Labels) DrawLabel(surface, scene, room, label, font);
+  if (!IsReadable(height)) return {};
+  std::vector<PlacedText> placed;
+  for (const CurveLabel& label : scene.curves.Labels) {
+    auto text = PlaceLabel(surface, scene, room, label, ChartFont(height));
+    const bool isFree = text && std::ranges::none_of(placed, [&](const PlacedText& other) {
+                          return Overlap(text->area, other.area);
+                        });
+    if (isFree) placed.push_back(std::move(*text));
+  }
+  return placed;
+}
+
+void DrawLabels(Surface& surface, std::span<const PlacedText> labels) {
+  for (const PlacedText& label : labels) {
+    surface.FillArea(CharactersOf(label), kPaper);
+    surface.WriteText(label.at, label.text, label.font, kBlack);
+  }
 }
 
 }  // namespace orvik

@@ -15,6 +15,8 @@ struct ChartScene {
   const PlotGeometry& geometry;
   const FrameLayout& layout;
   LayoutHeights heights;
+  int thinLine = 1;   // width of grid lines and ticks, pixels
+  int frameLine = 1;  // width of the frame's lines
 
   int PixelHeightOf(float height) const {
     return PixelHeight(height, geometry.Window(), geometry.Frame());

@@ -27,6 +27,11 @@ PlacedText PlaceUpwards(std::string text, const Font& font, Size size, Point cor
           {corner.x, corner.y, corner.x + size.height, bottom}};
 }
 
+Area CharactersOf(const PlacedText& text) {
+  const Area& cell = text.area;
+  return {cell.left, cell.top + (cell.bottom - cell.top) / 6, cell.right, cell.bottom};
+}
+
 bool Overlap(const Area& a, const Area& b) {
   return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }

@@ -34,6 +34,9 @@ PlacedText PlaceLevel(std::string text, const Font& font, Size size, Point at);
 // `corner` is the upper left corner of the area that the upright text covers.
 PlacedText PlaceUpwards(std::string text, const Font& font, Size size, Point corner);
 
+// The paper that a level text covers; above its characters a cell is blank.
+Area CharactersOf(const PlacedText& text);
+
 // Nothing where two areas share no pixel.
 bool Overlap(const Area& a, const Area& b);
 

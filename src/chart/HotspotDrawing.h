@@ -1,6 +1,9 @@
 // Draws the chart's transient marks: the hotspot, and the highlighted curve through it.
 #pragma once
 
+#include <span>
+#include <string>
+
 #include "chart/Hotspot.h"
 #include "engine/EfficiencyCurve.h"
 #include "platform/Surface.h"
@@ -15,6 +18,18 @@ inline constexpr Colour kMarkColour = 0xFFFF00;
 // hotspot is drawn in the colour that it has on white.
 void DrawHotspot(Surface& surface, const Hotspot& hotspot, const clsRectangle_Integer& frame,
                  int penWidth);
+
+// The hotspot on paper: a filled red mark at its pixel, with thin leaders to the frame's left and
+// bottom edges. `size` is the height of the chart's texts in pixels.
+void PrintHotspotMark(Surface& surface, Point centre, const clsRectangle_Integer& frame, int size,
+                      int penWidth);
+
+// Its text, in red on cleared paper, beside the mark: in the first place round it that lies in the
+// frame and covers neither a caption nor a curve, else no caption; else as near as the frame
+// allows.
+void PrintHotspotText(Surface& surface, const std::string& text, Point centre,
+                      const clsRectangle_Integer& frame, int size, std::span<const Area> captions,
+                      std::span<const std::vector<Point>> curves);
 
 // The curve through its samples. Exclusive-or: drawn again, it is gone. False, and nothing is
 // drawn, where a sample lies beyond 16-bit pixels.

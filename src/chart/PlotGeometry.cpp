@@ -9,15 +9,27 @@ namespace orvik {
 namespace {
 
 constexpr double kAspectRatio = 4.0 / 3.0;  // width to height of the frame
-constexpr double kMargin = 20;              // pixels on each side of the control
-constexpr double kAboveFactor = 1.01;       // band above the frame, in title heights
-constexpr double kBelowFactor =
-    1.2;  // band below the frame, in title heights, beside one label height
+constexpr double kMargin = 20;              // pixels on each side of the target
+
+// The bands above and below the frame, in heights of the texts that stand there.
+struct Bands {
+  double aboveInTitles;
+  double belowInTitles;
+  double belowInLabels;
+  double mostTitleLift;  // pixels
+};
+
+constexpr Bands kScreenBands{1.01, 1.2, 1, 16};  // a lift within the margin
+
+// On paper the lift is a part of the text's cell that is blank, however large the text is.
+constexpr Bands kPrintBands{1.02, 1.2, 1.1, 32767};
+
+// Beside a printed frame, in label heights: the vertical numbers, their title and the gaps.
+constexpr double kVerticalTexts = 4.4;
 
 // Text that starts on the title band's top row ends above the frame; the title's own band is a
 // little lower than the cell of its text, so that the band reaches into the margin.
-constexpr double kTitleLift = 0.25;    // in title heights
-constexpr double kMostTitleLift = 16;  // pixels of the margin
+constexpr double kTitleLift = 0.25;  // in title heights
 
 constexpr double kNumberGap = 0.4;  // between the frame and its vertical numbers, in label heights
 
@@ -49,19 +61,27 @@ Extents FitExtents(double usableWidth, double usableHeight, double aboveUnits, d
 
 }  // namespace
 
-FrameLayout LayoutFrame(int width, int height, const clsPlotWindow& window,
-                        const LayoutHeights& heights) {
-  const double usableWidth = std::max(1.0, width - 2 * kMargin);
-  const double usableHeight = std::max(1.0, height - 2 * kMargin);
-  const double title = heights.Title;
-  const Extents extents =
-      FitExtents(usableWidth, usableHeight, kAboveFactor * title, window.YMax - window.YMin,
-                 kBelowFactor * title + heights.Label);
+namespace {
+
+double AboveUnits(const Bands& bands, const LayoutHeights& heights) {
+  return bands.aboveInTitles * heights.Title;
+}
+
+double BelowUnits(const Bands& bands, const LayoutHeights& heights) {
+  return bands.belowInTitles * heights.Title + bands.belowInLabels * heights.Label;
+}
+
+FrameLayout LayOutIn(const clsRectangle_Integer& target, const clsPlotWindow& window,
+                     const LayoutHeights& heights, const Bands& bands) {
+  const double usableWidth = std::max(1.0, target.Right - target.Left - 2 * kMargin);
+  const double usableHeight = std::max(1.0, target.Bottom - target.Top - 2 * kMargin);
+  const Extents extents = FitExtents(usableWidth, usableHeight, AboveUnits(bands, heights),
+                                     window.YMax - window.YMin, BelowUnits(bands, heights));
 
   const double freeWidth = usableWidth - extents.frameWidth;
   const double freeHeight = usableHeight - (extents.above + extents.frameHeight + extents.below);
-  const double left = kMargin + freeWidth / 2;
-  const double titleTop = kMargin + freeHeight / 2;
+  const double left = target.Left + kMargin + freeWidth / 2;
+  const double titleTop = target.Top + kMargin + freeHeight / 2;
   const double top = titleTop + extents.above;
   const double bottom = top + extents.frameHeight;
 
@@ -69,14 +89,35 @@ FrameLayout LayoutFrame(int width, int height, const clsPlotWindow& window,
   layout.Frame = {ToInt16(left), ToInt16(left + extents.frameWidth), ToInt16(top), ToInt16(bottom)};
   const clsRectangle_Integer& frame = layout.Frame;
   const double pixelsPerUnit = extents.frameHeight / (window.YMax - window.YMin);
-  const double lift = std::min(kMostTitleLift, kTitleLift * title * pixelsPerUnit);
+  const double lift = std::min(bands.mostTitleLift, kTitleLift * heights.Title * pixelsPerUnit);
   const double gap = kNumberGap * heights.Label * pixelsPerUnit;
   layout.Title = {frame.Left, frame.Right, ToInt16(titleTop - lift), frame.Top};
   layout.HorizontalAxis = {frame.Left, frame.Right, ToInt16(frame.Bottom + 1),
                            ToInt16(bottom + extents.below)};
-  layout.VerticalAxis = {ToInt16(std::min(kMargin, frame.Left - gap)), ToInt16(frame.Left - gap),
-                         frame.Top, frame.Bottom};
+  layout.VerticalAxis = {ToInt16(std::min(target.Left + kMargin, frame.Left - gap)),
+                         ToInt16(frame.Left - gap), frame.Top, frame.Bottom};
   return layout;
+}
+
+}  // namespace
+
+FrameLayout LayoutFrame(int width, int height, const clsPlotWindow& window,
+                        const LayoutHeights& heights) {
+  const clsRectangle_Integer control{0, ToInt16(width), 0, ToInt16(height)};
+  return LayOutIn(control, window, heights, kScreenBands);
+}
+
+FrameLayout LayoutPrintedFrame(const clsRectangle_Integer& target, const clsPlotWindow& window,
+                               const LayoutHeights& heights) {
+  return LayOutIn(target, window, heights, kPrintBands);
+}
+
+double PrintedHeight(double width, const clsPlotWindow& window, const LayoutHeights& heights) {
+  const double plot = window.YMax - window.YMin;
+  const double pixelsPerUnit = std::max(1.0, width - 2 * kMargin) /
+                               (kAspectRatio * plot + 2 * kVerticalTexts * heights.Label);
+  const double units = AboveUnits(kPrintBands, heights) + plot + BelowUnits(kPrintBands, heights);
+  return units * pixelsPerUnit + 2 * kMargin;
 }
 
 int PixelHeight(float height, const clsPlotWindow& window, const clsRectangle_Integer& frame) {

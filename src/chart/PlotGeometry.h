@@ -37,6 +37,15 @@ int PixelHeight(float height, const clsPlotWindow& window, const clsRectangle_In
 FrameLayout LayoutFrame(int width, int height, const clsPlotWindow& window,
                         const LayoutHeights& heights);
 
+// The same scheme on a page, in the printer's units: a little more room above and below the frame.
+// The title's text may begin a little above the target, with the blank part of its cell.
+FrameLayout LayoutPrintedFrame(const clsRectangle_Integer& target, const clsPlotWindow& window,
+                               const LayoutHeights& heights);
+
+// The height of the target in which a printed chart is as large as a page of this width allows,
+// with room beside the frame for the vertical numbers and title.
+double PrintedHeight(double width, const clsPlotWindow& window, const LayoutHeights& heights);
+
 // Both axes are linear. Plot to frame is rounded half to even to 16 bits, beyond which
 // OverflowError is thrown; frame to plot is not rounded. Throws DivisionByZeroError where the
 // window or the frame has no extent.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace orvik {
 
@@ -21,6 +22,40 @@ struct clsRectangle_Integer {
   std::int16_t Top = 0;
   std::int16_t Bottom = 0;
   bool operator==(const clsRectangle_Integer&) const = default;
+};
+
+// Positions on a page in the printer's units, y down.
+struct clsRectangle_Single {
+  float Left = 0;
+  float Right = 0;
+  float Top = 0;
+  float Bottom = 0;
+  bool operator==(const clsRectangle_Single&) const = default;
+};
+
+struct clsRectangle_Double {
+  double Left = 0;
+  double Right = 0;
+  double Top = 0;
+  double Bottom = 0;
+  bool operator==(const clsRectangle_Double&) const = default;
+};
+
+// Distances from the edges of a page, in the printer's units.
+struct clsMargins {
+  float Left = 0;
+  float Right = 0;
+  float Top = 0;
+  float Bottom = 0;
+  bool operator==(const clsMargins&) const = default;
+};
+
+// The measures of one rendering target: where the chart is drawn on it, and what it shows.
+struct clsPlotMetrics {
+  clsRectangle_Integer Target;  // the area given for the chart
+  clsRectangle_Integer Frame;   // within it
+  clsPlotWindow Window;
+  std::string Title;  // the station's name
 };
 
 }  // namespace orvik

@@ -32,18 +32,22 @@ ctrlStormwaterReuse::ctrlStormwaterReuse(Desktop& desktop, std::string defaultDa
 
 // --- Climate station and curves ---
 
+std::string ctrlStormwaterReuse::CurveFolder() const {
+  return designDataDirectory_.empty() ? defaultDataFolder_ + "KAV Data" + kPathSeparator
+                                      : designDataDirectory_;
+}
+
 void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
   if (StationIndex == 0) {
     Clear();
     return;
   }
   isLoaded_ = false;
+  beforeDrag_.reset();
   Refresh();
   stationName_ = ClimateStationName(StationIndex);
   stationIndex_ = StationIndex;
-  const std::string folder = designDataDirectory_.empty()
-                                 ? defaultDataFolder_ + "KAV Data" + kPathSeparator
-                                 : designDataDirectory_;
+  const std::string folder = CurveFolder();
   if (!FolderExists(folder)) {
     ShowError(desktop_, "Can't find data path:\r\n" + folder);
     return;
@@ -87,6 +91,7 @@ std::optional<double> ctrlStormwaterReuse::MaxY() const {
 
 void ctrlStormwaterReuse::Clear() {
   isLoaded_ = false;
+  beforeDrag_.reset();
   errMsg_.clear();
   helpTopicIndex_ = kNoHelp;
   hotspotVisible_ = false;
@@ -102,14 +107,21 @@ void ctrlStormwaterReuse::Resize(int width, int height) {
   if (isLoaded_) LayOut();
 }
 
+clsPlotWindow ctrlStormwaterReuse::Window() const {
+  return {curves_.VMin, curves_.VMax, curves_.RMin, curves_.RMax};
+}
+
 void ctrlStormwaterReuse::LayOut() {
   regions_.assign(curves_.Curves.size(), std::nullopt);
-  const clsPlotWindow window{curves_.VMin, curves_.VMax, curves_.RMin, curves_.RMax};
+  const clsPlotWindow window = Window();
   layout_ = LayoutFrame(width_, height_, window, layoutHeights_);
   geometry_ = PlotGeometry(window, layout_.Frame);
-  if (!hotspotVisible_) return;
+  if (hotspotVisible_) PlaceWithinPixels(hotspot_.V(), hotspot_.R());
+}
+
+void ctrlStormwaterReuse::PlaceWithinPixels(double V, double R) {
   try {
-    hotspot_.PlaceAt(hotspot_.V(), hotspot_.R(), geometry_);
+    hotspot_.PlaceAt(V, R, geometry_);
   } catch (const OverflowError&) {
     hotspotVisible_ = false;  // on these axes it lies beyond the 16-bit pixels
   }

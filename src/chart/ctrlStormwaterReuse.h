@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,7 @@
 #include "engine/CurveSet.h"
 #include "platform/Desktop.h"
 #include "platform/Host.h"
+#include "platform/Printer.h"
 
 namespace orvik {
 
@@ -51,6 +53,9 @@ class ctrlStormwaterReuse {
   const std::string& DesignDataDirectory() const { return designDataDirectory_; }
   void DesignDataDirectory(std::string folder) { designDataDirectory_ = std::move(folder); }
 
+  // The folder that curve files are read from: that one, or the default.
+  std::string CurveFolder() const;
+
   bool IsLoaded() const { return isLoaded_; }
   std::int16_t StationIndex() const { return stationIndex_; }
   const std::string& StationName() const { return stationName_; }
@@ -73,6 +78,7 @@ class ctrlStormwaterReuse {
   // V and R.
   void Resize(int width, int height);
 
+  Size ControlSize() const { return {width_, height_}; }
   const FrameLayout& Layout() const { return layout_; }
   const PlotGeometry& Geometry() const { return geometry_; }
 
@@ -128,6 +134,21 @@ class ctrlStormwaterReuse {
   // Lies under the chart while InteractiveMode is False, from the upper left corner on, unscaled.
   void BackgroundPicture(std::optional<Picture> picture);
 
+  // --- Printing ---
+
+  // Prints the chart into the rectangle (the printer's units), laid out afresh: title, frame, grid
+  // and ticks, axis texts, labels, curves, their ends, and a visible hotspot. Nothing where no
+  // curves are loaded or the rectangle has no place for them. Nothing of the control changes.
+  void PrintDesignChart(Printer& printer, std::int16_t Left, std::int16_t Top, std::int16_t Right,
+                        std::int16_t Bottom) const;
+
+  // The measures of the chart in such a rectangle. Requires loaded curves.
+  clsPlotMetrics PrintMetrics(std::int16_t Left, std::int16_t Top, std::int16_t Right,
+                              std::int16_t Bottom) const;
+
+  // The height that uses a page's width best, in the units of `width`. Requires loaded curves.
+  double PrintedHeight(double width) const;
+
   // --- Mouse and keys ---
 
   // True: the mouse places the hotspot.
@@ -139,13 +160,15 @@ class ctrlStormwaterReuse {
 
   // What the window's messages say. Button 1 is the left one; x and y are pixels of the control,
   // and any value is allowed. Arrow keys (37...40) move a visible hotspot by a pixel; the Space bar
-  // (32) shows the curve through it while it is held.
+  // (32) shows the curve through it while it is held; Esc (27) ends a drag and puts everything back
+  // as it was before, which is a change too.
   void MouseDown(std::int16_t button, double x, double y);
   void MouseMove(double x, double y);
   void MouseUp();
   void CaptureLost();  // the system took the mouse away: ends a drag, once
   void KeyDown(std::int16_t keyCode);
   void KeyUp(std::int16_t keyCode);
+  bool WantsKey(std::int16_t keyCode) const;  // whether KeyDown would heed it now
   void GotFocus() { hasFocus_ = true; }
   void LostFocus();
   Boolean16 HasFocus() const { return ToBoolean16(hasFocus_); }
@@ -157,6 +180,7 @@ class ctrlStormwaterReuse {
  private:
   bool LoadCurves(const std::string& folder);
   void LayOut();
+  void PlaceWithinPixels(double V, double R);
 
   bool Succeed();
   bool Fail(std::string message, std::int16_t helpTopic);
@@ -172,9 +196,23 @@ class ctrlStormwaterReuse {
   bool FailLocation();
   void ForgetE();
 
+  // What a cancelled drag puts back.
+  struct DesignPoint {
+    bool hotspotVisible;
+    double V;
+    double R;
+    bool isEDefined;
+    double E;
+    std::optional<EfficiencyCurve> highlightCurve;
+    std::string errMsg;
+    std::int16_t helpTopicIndex;
+  };
+
   bool IsHotspotShown() const { return isLoaded_ && hotspotVisible_; }
   bool TakesPoint(double x, double y) const;
   void PlaceByMouse(double x, double y);
+  void CancelDrag();
+  void PutBack(DesignPoint point);
   void StepHotspot(int dX, int dY);
   void EvaluateE();
   void ShowHighlight();
@@ -193,6 +231,11 @@ class ctrlStormwaterReuse {
   void DrawLabels_Screen(Surface& surface, const TextRoom& room) const;
   void DrawHotspot_Screen(Surface& surface) const;
   void DrawBorder(Surface& surface) const;
+
+  clsPlotWindow Window() const;
+  void PrintChart(Printer& printer, const clsPlotMetrics& metrics) const;
+  void PrintHotspot(Printer& printer, const ChartScene& scene,
+                    std::span<const Area> captions) const;
 
   Desktop& desktop_;
   std::string defaultDataFolder_;
@@ -225,7 +268,8 @@ class ctrlStormwaterReuse {
   std::optional<Picture> backgroundPicture_;
   bool interactive_ = false;
   bool mouseCaptured_ = false;
-  bool highlightShown_ = false;  // the highlight curve is on the screen
+  std::optional<DesignPoint> beforeDrag_;  // none where the curves are others by now
+  bool highlightShown_ = false;            // the highlight curve is on the screen
   bool hasFocus_ = false;
 };
 

@@ -1,5 +1,7 @@
 // The hotspot under the user's hand: mouse, keys and the marks that come and go between two
 // paintings.
+#include <utility>
+
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
 #include "chart/HotspotDrawing.h"
@@ -9,6 +11,7 @@ namespace orvik {
 namespace {
 
 constexpr std::int16_t kLeftButton = 1;
+constexpr std::int16_t kKeyEscape = 27;
 constexpr std::int16_t kKeySpace = 32;  // shows the highlight
 constexpr std::int16_t kKeyLeft = 37;
 constexpr std::int16_t kKeyUp = 38;
@@ -54,6 +57,8 @@ void ctrlStormwaterReuse::MouseDown(std::int16_t button, double x, double y) {
   if (IsHotspotShown()) ToggleHotspot();
   if (host_) host_->CaptureMouse();
   mouseCaptured_ = true;
+  beforeDrag_ = DesignPoint{hotspotVisible_, hotspot_.V(), hotspot_.R(),   isEDefined_, E_,
+                            highlightCurve_, errMsg_,      helpTopicIndex_};
   PlaceByMouse(x, y);
   Raise(OnMousePressed);
 }
@@ -99,6 +104,29 @@ void ctrlStormwaterReuse::PlaceByMouse(double x, double y) {
   Raise(OnChange);
 }
 
+void ctrlStormwaterReuse::CancelDrag() {
+  if (!mouseCaptured_) return;
+  mouseCaptured_ = false;
+  if (host_) host_->ReleaseMouse();
+  if (beforeDrag_) {
+    if (IsHotspotShown()) ToggleHotspot();
+    PutBack(*std::exchange(beforeDrag_, std::nullopt));
+    if (IsHotspotShown()) ToggleHotspot();
+    Raise(OnChange);
+  }
+  Raise(OnMouseReleased);
+}
+
+void ctrlStormwaterReuse::PutBack(DesignPoint point) {
+  hotspotVisible_ = point.hotspotVisible;
+  isEDefined_ = point.isEDefined;
+  E_ = point.E;
+  highlightCurve_ = std::move(point.highlightCurve);
+  errMsg_ = std::move(point.errMsg);
+  helpTopicIndex_ = point.helpTopicIndex;
+  if (hotspotVisible_) PlaceWithinPixels(point.V, point.R);
+}
+
 // --- Keys ---
 
 void ctrlStormwaterReuse::KeyDown(std::int16_t keyCode) {
@@ -113,9 +141,16 @@ void ctrlStormwaterReuse::KeyDown(std::int16_t keyCode) {
       return StepHotspot(0, 1);
     case kKeySpace:
       return ShowHighlight();
+    case kKeyEscape:
+      return CancelDrag();
     default:
       return;
   }
+}
+
+bool ctrlStormwaterReuse::WantsKey(std::int16_t keyCode) const {
+  if (keyCode == kKeyEscape) return mouseCaptured_;
+  return keyCode == kKeySpace || (kKeyLeft <= keyCode && keyCode <= kKeyDown);
 }
 
 void ctrlStormwaterReuse::KeyUp(std::int16_t keyCode) {

@@ -42,7 +42,12 @@ void ctrlStormwaterReuse::PaintChart(Surface& surface) const {
 }
 
 ChartScene ctrlStormwaterReuse::Scene() const {
-  return {curves_, stationName_, geometry_, layout_, layoutHeights_};
+  return {.curves = curves_,
+          .station = stationName_,
+          .geometry = geometry_,
+          .layout = layout_,
+          .heights = layoutHeights_,
+          .frameLine = kPenWidth};
 }
 
 void ctrlStormwaterReuse::DrawTitleBlock_Screen(Surface& surface, TextRoom& room) const {
@@ -62,7 +67,7 @@ void ctrlStormwaterReuse::DrawCurveEnds_Screen(Surface& surface) const {
 }
 
 void ctrlStormwaterReuse::DrawLabels_Screen(Surface& surface, const TextRoom& room) const {
-  DrawLabels(surface, Scene(), room);
+  DrawLabels(surface, PlaceLabels(surface, Scene(), room));
 }
 
 void ctrlStormwaterReuse::DrawHotspot_Screen(Surface& surface) const {

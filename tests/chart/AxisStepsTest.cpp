@@ -44,6 +44,11 @@ TEST(AxisValues, AValueBeyondTheEndIsLeftOut) {
   EXPECT_THAT(AxisValues(0, 7, 100, 700), ElementsAre(0));
 }
 
+TEST(AxisValues, OnlyTheOneAfterTheInnerOnesReachesTheEnd) {
+  EXPECT_TRUE(ReachesEnd(AxisValues(0, 7, 1, 700).size(), 0, 7, 1)) << "6 inner values, then 7";
+  EXPECT_FALSE(ReachesEnd(AxisValues(0, 0.4, 0.15, 400).size(), 0, 0.4, 0.15)) << "0.3 is inner";
+}
+
 TEST(AxisValues, ADamagedStepHasNone) {
   for (const double step : {0.0, -1.0, -1e-300, 1e-12, 1e-300, 0.019}) {
     EXPECT_THAT(AxisValues(0, 7, step, 700), IsEmpty()) << step;

@@ -111,6 +111,15 @@ TEST(CairoImageSurface, CopiesAsMuchOfAPictureAsFits) {
 TEST(CairoImageSurface, APictureThatCannotBeIsRefused) {
   EXPECT_THROW(CairoImageSurface({-1, 10}), std::runtime_error);
   EXPECT_THROW(CairoImageSurface({1 << 20, 1 << 20}), std::runtime_error);
+  CairoImageSurface surface({4, 4});
+  EXPECT_THROW(surface.CopyPicture({{2, 2}, {1, 2, 3}}, {0, 0, 4, 4}), std::invalid_argument);
+  EXPECT_THROW(surface.CopyPicture({{2, 2}, {1, 2, 3, 4, 5}}, {0, 0, 4, 4}), std::invalid_argument);
+  EXPECT_THROW(surface.CopyPicture({{-1, -1}, {1}}, {0, 0, 4, 4}), std::invalid_argument);
+}
+
+TEST(CairoImageSurface, APictureFileThatCannotBeMadeIsNotAnEmptyOne) {
+  EXPECT_NE(CairoImageSurface({1, 5}).Png(), "");
+  EXPECT_THROW(CairoImageSurface({0, 5}).Png(), std::runtime_error);
 }
 
 }  // namespace

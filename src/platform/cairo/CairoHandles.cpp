@@ -4,25 +4,26 @@
 #include <string>
 
 namespace orvik {
-namespace {
+// Cairo, which calls this, is C: no exception may run through it.
+cairo_status_t AppendBytes(void* bytes, const unsigned char* data, unsigned int length) {
+  try {
+    static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+    return CAIRO_STATUS_SUCCESS;
+  } catch (...) {
+    return CAIRO_STATUS_NO_MEMORY;
+  }
+}
 
-void Check(cairo_status_t status) {
+void CheckCairo(cairo_status_t status) {
   if (status != CAIRO_STATUS_SUCCESS) throw std::runtime_error(cairo_status_to_string(status));
 }
 
-}  // namespace
-
-cairo_status_t AppendBytes(void* bytes, const unsigned char* data, unsigned int length) {
-  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
-  return CAIRO_STATUS_SUCCESS;
-}
-
 void CheckCairo(cairo_t* context) {
-  Check(cairo_status(context));
+  CheckCairo(cairo_status(context));
 }
 
 void CheckCairo(cairo_surface_t* surface) {
-  Check(cairo_surface_status(surface));
+  CheckCairo(cairo_surface_status(surface));
 }
 
 }  // namespace orvik

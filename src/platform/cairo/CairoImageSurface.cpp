@@ -53,7 +53,7 @@ Picture CairoImageSurface::Pixels() const {
 
 std::string CairoImageSurface::Png() const {
   std::string bytes;
-  cairo_surface_write_to_png_stream(image_.get(), AppendBytes, &bytes);
+  CheckCairo(cairo_surface_write_to_png_stream(image_.get(), AppendBytes, &bytes));
   return bytes;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <stdexcept>
 
 #include "platform/cairo/PixelLines.h"
 #include "platform/cairo/SystemColours.h"
@@ -84,6 +85,7 @@ Size CairoSurface::MeasureText(std::string_view text, const Font& font) {
 }
 
 void CairoSurface::CopyPicture(const Picture& picture, const Area& area) {
+  if (!IsConsistent(picture)) throw std::invalid_argument("The picture is not of its size.");
   if (picture.pixels.empty()) return;
   Picture copy = picture;
   const auto view = ViewOf(copy);

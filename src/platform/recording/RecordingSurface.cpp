@@ -36,7 +36,14 @@ std::string Of(const Pen& pen) {
          (pen.mode == DrawMode::ExclusiveOr ? " xor" : " copy");
 }
 
-std::string Of(const Font& font) {
+int CodePoints(std::string_view utf8) {
+  return static_cast<int>(
+      std::ranges::count_if(utf8, [](char byte) { return (byte & 0xC0) != 0x80; }));
+}
+
+}  // namespace
+
+std::string TextOfFont(const Font& font) {
   std::string text = font.face + " " + Number(font.pixelHeight);
   if (font.bold) text += " bold";
   if (font.italic) text += " italic";
@@ -45,13 +52,6 @@ std::string Of(const Font& font) {
   if (font.escapement != 0) text += " angle " + Number(font.escapement);
   return text;
 }
-
-int CodePoints(std::string_view utf8) {
-  return static_cast<int>(
-      std::ranges::count_if(utf8, [](char byte) { return (byte & 0xC0) != 0x80; }));
-}
-
-}  // namespace
 
 void RecordingSurface::Support(SurfaceFeature feature, bool supported) {
   if (feature == SurfaceFeature::ExclusiveOr) exclusiveOr_ = supported;
@@ -78,7 +78,7 @@ void RecordingSurface::FillPolygon(std::span<const Point> corners, Colour colour
 }
 
 void RecordingSurface::WriteText(Point at, std::string_view text, const Font& font, Colour colour) {
-  calls_.push_back("text " + Of(at) + " \"" + std::string(text) + "\" " + Of(font) +
+  calls_.push_back("text " + Of(at) + " \"" + std::string(text) + "\" " + TextOfFont(font) +
                    OfColour(colour));
 }
 

@@ -21,11 +21,15 @@
 
 namespace orvik {
 
+// "Arial 12 bold angle 900", as the calls have it.
+std::string TextOfFont(const Font& font);
+
 class RecordingSurface final : public Surface {
  public:
   // The calls since the last Forget, one line each.
   const std::vector<std::string>& Calls() const { return calls_; }
   void Forget() { calls_.clear(); }
+  void Note(std::string call) { calls_.push_back(std::move(call)); }  // of what draws on it
   std::vector<std::string> Take() { return std::exchange(calls_, {}); }
 
   // What Supports answers from now on; at first everything is supported.
