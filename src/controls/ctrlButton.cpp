@@ -5,6 +5,39 @@
 #include "platform/EdgeRing.h"
 
 namespace orvik {
+namespace {
+
+constexpr std::int16_t kKeyEnter = 13;
+constexpr std::int16_t kKeySpace = 32;
+
+// A caption's three parts: what stands before, in and after its mnemonic.
+struct CaptionParts {
+  std::string before;
+  std::string mnemonic;
+  std::string after;
+};
+
+// The first "&" marks the character after it; "&&" is a "&" that is shown.
+CaptionParts Split(std::string_view caption) {
+  CaptionParts parts;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    const bool isMark = caption[i] == '&' && i + 1 < caption.size();
+    if (isMark) ++i;
+    if (isMark && caption[i] != '&' && parts.mnemonic.empty()) {
+      parts.mnemonic = caption[i];
+    } else {
+      (parts.mnemonic.empty() ? parts.before : parts.after) += caption[i];
+    }
+  }
+  return parts;
+}
+
+std::string Shown(std::string_view caption) {
+  const CaptionParts parts = Split(caption);
+  return parts.before + parts.mnemonic + parts.after;
+}
+
+}  // namespace
 
 ctrlButton::ctrlButton(std::unique_ptr<Timer> Timer1) : Timer1_(std::move(Timer1)) {
   font_.pixelHeight = 13;
@@ -54,7 +87,7 @@ void ctrlButton::CenterLabel() {
 }
 
 void ctrlButton::CenterLabel(Surface& surface) {
-  const Size size = surface.MeasureText(lblCaption_.Caption, LabelFont());
+  const Size size = surface.MeasureText(Shown(lblCaption_.Caption), LabelFont());
   Write(lblCaption_.Width, size.width);
   Write(lblCaption_.Height, size.height);
   Write(lblCaption_.Left, (width_ - size.width) / 2);
@@ -69,7 +102,7 @@ Font ctrlButton::LabelFont() const {
 
 // --- Painting ---
 
-void ctrlButton::Paint(Surface& surface) {
+void ctrlButton::Paint(Surface& surface, bool isEnabled) {
   const Area all{0, 0, width_, height_};
   const bool raised = state_ == State::Raised;
   surface.FillArea(all, kButtonFace);
@@ -78,8 +111,22 @@ void ctrlButton::Paint(Surface& surface) {
   Write(lblCaption_.Visible, !lblCaption_.Caption.empty());
   if (!lblCaption_.Visible) return;
   CenterLabel(surface);
-  surface.WriteText({lblCaption_.Left, lblCaption_.Top}, lblCaption_.Caption, LabelFont(),
-                    lblCaption_.ForeColor);
+  WriteCaption(surface, isEnabled ? lblCaption_.ForeColor : kButtonShadow);
+}
+
+void ctrlButton::WriteCaption(Surface& surface, Colour colour) const {
+  const CaptionParts parts = Split(lblCaption_.Caption);
+  Font font = LabelFont();
+  Point at{lblCaption_.Left, lblCaption_.Top};
+  const auto write = [&](const std::string& part, bool underline) {
+    if (part.empty()) return;
+    font.underline = underline;
+    surface.WriteText(at, part, font, colour);
+    at.x += surface.MeasureText(part, font).width;
+  };
+  write(parts.before, false);
+  write(parts.mnemonic, true);
+  write(parts.after, false);
 }
 
 void ctrlButton::Repaint() {
@@ -91,6 +138,7 @@ void ctrlButton::Repaint() {
 void ctrlButton::MouseDown() {
   if (host_) host_->CaptureMouse();
   pressed_ = true;
+  pressedByKey_ = false;
   Show(State::Sunken);
 }
 
@@ -104,7 +152,10 @@ void ctrlButton::MouseUp(double x, double y) {
   pressed_ = false;
   if (host_) host_->ReleaseMouse();
   Show(State::Raised);
-  if (!IsInside(x, y)) return;
+  if (IsInside(x, y)) Click();
+}
+
+void ctrlButton::Click() {
   const std::function<void()> click = OnClick;  // the answer may take the button away
   if (click) click();
 }
@@ -117,6 +168,33 @@ void ctrlButton::CaptureLost() {
 
 bool ctrlButton::IsInside(double x, double y) const {
   return 0 <= x && x < width_ && 0 <= y && y < height_;
+}
+
+// --- Keys ---
+
+void ctrlButton::KeyDown(std::int16_t keyCode) {
+  if (pressed_) return;
+  if (keyCode == kKeyEnter) return Click();
+  if (keyCode != kKeySpace) return;
+  pressedByKey_ = true;
+  Show(State::Sunken);
+}
+
+void ctrlButton::KeyUp(std::int16_t keyCode) {
+  if (keyCode != kKeySpace || !pressedByKey_) return;
+  pressedByKey_ = false;
+  Show(State::Raised);
+  Click();
+}
+
+void ctrlButton::LostFocus() {
+  if (!pressedByKey_) return;
+  pressedByKey_ = false;
+  Show(State::Raised);
+}
+
+bool ctrlButton::WantsKey(std::int16_t keyCode) {
+  return keyCode == kKeyEnter || keyCode == kKeySpace;
 }
 
 void ctrlButton::Show(State state) {

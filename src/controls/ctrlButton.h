@@ -45,6 +45,7 @@ class ctrlButton {
   // The button's inner size in pixels.
   void Resize(int width, int height);
 
+  // "&" marks the letter that works the button together with Alt; it is underlined.
   const std::string& Caption() const { return lblCaption_.Caption; }
   void Caption(std::string_view caption);
 
@@ -58,8 +59,12 @@ class ctrlButton {
   // Centres the caption, measured on the screen if there is one.
   void CenterLabel();
 
-  // Paints the whole button. Changes nothing that would need another painting.
-  void Paint(Surface& surface);
+  // Paints the whole button; one that cannot be used has a grey caption. Changes nothing that would
+  // need another painting.
+  void Paint(Surface& surface, bool isEnabled = true);
+
+  // What a press on it does.
+  void Click();
 
   // The mouse with its primary button; x and y are pixels of the button, over the caption as well,
   // and any value is allowed.
@@ -68,7 +73,14 @@ class ctrlButton {
   void MouseUp(double x, double y);
   void CaptureLost();  // the system took the mouse away: the press ends without a click
 
-  bool IsPressed() const { return pressed_; }
+  // The keyboard: Enter (13) clicks at once, the Space bar (32) when it is released. A press by the
+  // Space bar ends without a click where the focus goes elsewhere.
+  void KeyDown(std::int16_t keyCode);
+  void KeyUp(std::int16_t keyCode);
+  void LostFocus();
+  static bool WantsKey(std::int16_t keyCode);  // whether KeyDown heeds it
+
+  bool IsPressed() const { return pressed_ || pressedByKey_; }
   State VisualState() const { return state_; }
   const ButtonLabel& lblCaption() const { return lblCaption_; }
 
@@ -82,6 +94,7 @@ class ctrlButton {
   void CenterLabel(Surface& surface);
   void Repaint();
   Font LabelFont() const;
+  void WriteCaption(Surface& surface, Colour colour) const;
   template <typename Value>
   bool Write(Value& property, Value value);
 
@@ -91,7 +104,8 @@ class ctrlButton {
   int height_ = 0;
   Font font_;
   ButtonLabel lblCaption_;
-  bool pressed_ = false;
+  bool pressed_ = false;  // by the mouse
+  bool pressedByKey_ = false;
   State state_ = State::Raised;
 };
 

@@ -16,6 +16,7 @@ constexpr int kProjectFiles = 2;  // the filter's second pair
 
 void FileCommands::New() {
   ClearData();
+  TellReplaced();
 }
 
 void FileCommands::Open() {
@@ -56,6 +57,7 @@ bool FileCommands::LoadFile(std::string_view path) {
   if (!stream.OpenFile(name, enumIOStreamMode::AsciiFileInput)) return false;
   const bool isRead = file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
+  TellReplaced();
   currentPath_ = name;
   currentFolder_ = FolderOf(name);
   ShowFileName(name);
@@ -65,11 +67,15 @@ bool FileCommands::LoadFile(std::string_view path) {
 bool FileCommands::ReadFile(std::string_view text) {
   const std::string project(text);
   ClearData();
-  if (project.empty()) return false;
+  if (project.empty()) {
+    TellReplaced();
+    return false;
+  }
   clsIOStream stream;
   const bool isRead = stream.OpenFile(project, enumIOStreamMode::AsciiBufferInput) &&
                       file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
+  TellReplaced();
   if (!isRead) ShowError("Error reading data.");
   workflow_.ReCalc();
   return isRead;
@@ -78,6 +84,7 @@ bool FileCommands::ReadFile(std::string_view text) {
 // --- Saving ---
 
 bool FileCommands::SaveText(std::string& text) const {
+  if (OnSaving) OnSaving();
   clsIOStream stream;
   stream.OpenFile("", enumIOStreamMode::AsciiBufferOutput);
   if (!file_.SaveDataInBuffer(stream)) return false;
@@ -108,11 +115,16 @@ FileDialog FileCommands::ProjectDialog() {
   dialog.filter = kProjectFilter;
   dialog.filterIndex = kProjectFiles;
   dialog.defaultExtension = "kav";
-  std::string ignored;  // without a start folder the dialog opens where the system likes
-  dialog.startFolder = !currentFolder_.empty() && FolderExists(currentFolder_)
-                           ? currentFolder_
-                           : GetMyDocumentsFolder(ignored);
+  dialog.startFolder = StartFolder();
   return dialog;
+}
+
+std::string FileCommands::StartFolder() {
+  for (const std::string& folder : {currentFolder_, defaultFolder_}) {
+    if (!folder.empty() && FolderExists(folder)) return folder;
+  }
+  std::string ignored;  // without a start folder the dialog opens where the system likes
+  return GetMyDocumentsFolder(ignored);
 }
 
 std::string FileCommands::GetFileOpenName() {
@@ -141,6 +153,10 @@ void FileCommands::ShowError(std::string_view text) {
 
 void FileCommands::ShowFileName(std::string_view path) {
   form_.window->Caption("ORVIK 3.3 KAV - " + FileNameOf(path));
+}
+
+void FileCommands::TellReplaced() {
+  if (OnProjectReplaced) OnProjectReplaced();
 }
 
 }  // namespace orvik

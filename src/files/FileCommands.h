@@ -2,8 +2,10 @@
 // project, the window's caption and the current file.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "files/ProjectFile.h"
 #include "platform/Desktop.h"
@@ -48,20 +50,31 @@ class FileCommands {
   bool SaveText(std::string& text) const;
 
   // The chosen path, empty when the dialog was cancelled. The dialogs start in the folder of the
-  // current file if it exists, else in the user's documents folder.
+  // current file if it exists, else in the default folder, else in the user's documents folder.
   std::string GetFileOpenName();
   std::string GetFileSaveName();
 
+  // Where the dialogs start as long as no file was opened or saved; empty for none.
+  void DefaultFolder(std::string folder) { defaultFolder_ = std::move(folder); }
+
   // The user's documents folder; empty, and the reason in `error`, where the system cannot tell it.
   std::string GetMyDocumentsFolder(std::string& error);
+
+  // The project is about to be saved: what the window shows can still be brought in line with it.
+  std::function<void()> OnSaving;
+
+  // The fields hold another project now, or what could be read of it.
+  std::function<void()> OnProjectReplaced;
 
   const std::string& CurrentPath() const { return currentPath_; }      // empty: untitled
   const std::string& CurrentFolder() const { return currentFolder_; }  // of the last file
 
  private:
   FileDialog ProjectDialog();
+  std::string StartFolder();
   void ShowError(std::string_view text);
   void ShowFileName(std::string_view path);
+  void TellReplaced();
 
   ProjectForm& form_;
   SolveForWorkflow& workflow_;
@@ -69,6 +82,7 @@ class FileCommands {
   Desktop& desktop_;
   std::string currentPath_;
   std::string currentFolder_;
+  std::string defaultFolder_;
 };
 
 }  // namespace orvik

@@ -19,22 +19,22 @@ fs::path LinkTarget(const fs::path& path) {
   return error ? path : target;
 }
 
+// Marked as read-only by its owner, or not ours to write.
 bool IsReadOnly(const fs::path& path) {
   std::error_code error;
   const auto status = fs::status(path, error);
-  return fs::exists(status) && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
+  if (!fs::exists(status)) return false;
+  if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) return true;
+  return !std::ofstream(path, std::ios::binary | std::ios::app);  // opening alone changes nothing
 }
 
-// A name in the same folder that no file has.
+// A name in the same folder that no file has; short, whatever the length of the file's own.
 fs::path FreeNameBeside(const fs::path& path) {
-  fs::path beside = path;
-  beside += ".saving";
   std::error_code error;
-  for (int i = 2; fs::exists(beside, error); ++i) {
-    beside = path;
-    beside += ".saving" + std::to_string(i);
+  for (int i = 1;; ++i) {
+    fs::path beside = path.parent_path() / ("~saving" + std::to_string(i) + ".kav");
+    if (!fs::exists(beside, error)) return beside;
   }
-  return beside;
 }
 
 bool Holds(const fs::path& path, const std::string& expected) {

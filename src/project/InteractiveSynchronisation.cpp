@@ -152,6 +152,22 @@ bool InteractiveSynchronisation::PlaceHotspotByNumbers() {
   }
 }
 
+void InteractiveSynchronisation::PlaceAsStored() {
+  float R = 0;
+  float V = 0;
+  if (form_.cmbSolveFor->ListIndex() != SolveFor::kInteractive) return;
+  if (!chart_.GetR(R) || !chart_.GetV(V)) return;
+  const std::string storedR = ToShortestText(R);
+  const std::string storedV = ToShortestText(V);
+  if (ParseNumber(storedR) == chart_.HotspotR() && ParseNumber(storedV) == chart_.HotspotV()) {
+    return;
+  }
+  std::string E;
+  chart_.SetHotspotUsing_RV(storedR, storedV, E);
+  const std::string shown = form_.txtE.Text();
+  if (!shown.empty() && shown != E) AnswerChange();
+}
+
 bool InteractiveSynchronisation::HotspotShowsNumbers() const {
   if (chart_.HotSpotVisibile() == kFalse16) return false;
   float R = 0;

@@ -35,6 +35,10 @@ class InteractiveSynchronisation {
   // exact as it is. True if it was placed anew.
   bool PlaceHotspotByNumbers();
 
+  // A point placed by mouse or keys is in double precision, a project keeps it in single. Puts the
+  // point where the project will have it, so that what is saved is what is shown.
+  void PlaceAsStored();
+
   // True when every number in txtR, txtE and txtV is the hotspot's own; empty fields agree with
   // anything, but a hidden hotspot with nothing.
   bool HotspotShowsNumbers() const;

@@ -39,7 +39,8 @@ RecalculationTriggers::RecalculationTriggers(ProjectForm& form, ctrlStormwaterRe
   // The normalized numbers can be typed in the interactive mode: Enter places the hotspot by them.
   for (ctrlMyTextBox* field : {&form_.txtR, &form_.txtE, &form_.txtV}) {
     OnEnter(*field, [this, field] {
-      if (!field->Locked()) Process_CR();
+      if (field->Locked()) return;
+      ShowFaultsOnBar(form_.txtErrMsg, [this] { PlacePoint(); });
     });
   }
   form_.cmbClimateStation->OnClick = [this] {
@@ -64,6 +65,12 @@ void RecalculationTriggers::Watch(Entry& entry) {
   };
 }
 
+void RecalculationTriggers::ProcessChanges() {
+  for (Entry& entry : entries_) {
+    if (entry.changed) Process(entry);
+  }
+}
+
 // The mark goes first: a message on the way may take the focus out of the field, which must not
 // process it again.
 void RecalculationTriggers::Process(Entry& entry) {
@@ -76,6 +83,15 @@ void RecalculationTriggers::Process_CR() {
     workflow_.ReCalc();
   } else {
     ResetSolution();
+  }
+}
+
+// The numbers place the point also where the site is not known yet; then only they show it.
+void RecalculationTriggers::PlacePoint() {
+  if (!workflow_.IsDataDefined() && interactive_.PlaceHotspotByNumbers()) {
+    interactive_.AnswerChange();
+  } else {
+    Process_CR();
   }
 }
 

@@ -27,6 +27,12 @@ class RecalculationTriggers {
   void txtIrrigation_Process_CR() { Process_CR(); }
   void txtSolveFor_Process_CR() { Process_CR(); }
 
+  // What stands in the fields was not typed there: leaving them calls for nothing.
+  void ForgetChanges();
+
+  // What leaving the fields would do for those that were changed since the last recalculation.
+  void ProcessChanges();
+
  private:
   // A field whose change calls for a recalculation.
   struct Entry {
@@ -38,9 +44,9 @@ class RecalculationTriggers {
   void Watch(Entry& entry);
   void Process(Entry& entry);
   void Process_CR();
+  void PlacePoint();
   void ChangeStation();
   void ChangeMode();
-  void ForgetChanges();
   void ResetSolution();
   void EmptyNormalized();
 

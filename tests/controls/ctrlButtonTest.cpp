@@ -264,5 +264,38 @@ TEST_F(Button, WithoutPixelsDrawsItsFaceOnly) {
   EXPECT_THAT(Painting(), ElementsAre("fill 0,0 to 0,0 colour 0x8000000F"));
 }
 
+// --- Mnemonic ---
+
+// The face and the edges are 9 calls; the caption's parts follow. "Save": left (80 - 24) / 2 = 28,
+// top (24 - 13) / 2 = 5.
+std::vector<std::string> CaptionCalls(const std::vector<std::string>& painting) {
+  return {painting.begin() + 9, painting.end()};
+}
+
+TEST_F(Button, TheMnemonicIsUnderlinedAndItsMarkIsNotShown) {
+  const std::vector<std::string> plain = CaptionCalls(Painting());
+  button_.Caption("Sa&ve");
+  const std::vector<std::string> marked = CaptionCalls(Painting());
+  EXPECT_EQ(button_.Caption(), "Sa&ve");
+  EXPECT_EQ(button_.lblCaption().Left, 28) << "centred as the caption without its mark";
+  ASSERT_EQ(marked.size(), 3U);
+  EXPECT_THAT(marked[0], testing::AllOf(testing::HasSubstr("\"Sa\""), testing::HasSubstr("28,5")));
+  EXPECT_THAT(marked[1], testing::AllOf(testing::HasSubstr("\"v\""), testing::HasSubstr("40,5")));
+  EXPECT_THAT(marked[1], testing::HasSubstr("underline"));
+  EXPECT_THAT(marked[2], testing::AllOf(testing::HasSubstr("\"e\""), testing::HasSubstr("46,5")));
+  EXPECT_EQ(plain.size(), 1U);
+}
+
+TEST_F(Button, TwoMarksAreOneThatIsShown) {
+  button_.Caption("A&&B");
+  EXPECT_THAT(CaptionCalls(Painting()), ElementsAre(testing::HasSubstr("\"A&B\"")));
+}
+
+TEST_F(Button, ACaptionIsGreyWhereTheButtonCannotBeUsed) {
+  RecordingSurface surface;
+  button_.Paint(surface, false);
+  EXPECT_THAT(surface.Calls().back(), testing::HasSubstr("0x80000010"));
+}
+
 }  // namespace
 }  // namespace orvik

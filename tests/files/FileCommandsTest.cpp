@@ -179,10 +179,10 @@ TEST_F(FileMenu, AFolderOfTheNameIsLeftAlone) {
 }
 
 TEST_F(FileMenu, AFileThatHappensToLieBesideIsNotTouched) {
-  folder_.Write("Projects/Pond.kav.saving", "the user's own");
+  folder_.Write("Projects/~saving1.kav", "the user's own");
   SaveAs(folder_ / "Projects/Pond.kav");
   EXPECT_TRUE(FileExists(folder_ / "Projects/Pond.kav"));
-  EXPECT_EQ(ReadBytes(folder_ / "Projects/Pond.kav.saving"), "the user's own");
+  EXPECT_EQ(ReadBytes(folder_ / "Projects/~saving1.kav"), "the user's own");
   EXPECT_EQ(FilesIn(folder_ / "Projects"), 2U);
 }
 

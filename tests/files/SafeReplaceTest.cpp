@@ -13,7 +13,7 @@ namespace {
 class ReplaceFileTest : public testing::Test {
  protected:
   // Writes `bytes` where it is asked to, and answers `answer`.
-  static auto Writer(std::string bytes, bool answer = true) {
+  static auto Writer(const std::string& bytes, bool answer = true) {
     return [bytes, answer](const std::string& besides) {
       std::ofstream(PathFromUtf8(besides), std::ios::binary) << bytes;
       return answer;
@@ -54,6 +54,12 @@ TEST_F(ReplaceFileTest, AWriterThatFailsLeavesTheOldFile) {
   ExpectOnlyThe("old");
   EXPECT_FALSE(ReplaceFile(path_, "", [](const std::string&) { return true; }));
   ExpectOnlyThe("old");
+}
+
+TEST_F(ReplaceFileTest, ANameAsLongAsTheSystemTakesIsSaved) {
+  const std::string longName = folder_ / (std::string(251, 'x') + ".kav");  // 255 characters
+  EXPECT_TRUE(ReplaceFile(longName, "new", Writer("new")));
+  EXPECT_EQ(test::ReadBytes(longName), "new");
 }
 
 #ifndef _WIN32  // links and permission bits are another matter there

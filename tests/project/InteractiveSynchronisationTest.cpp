@@ -242,6 +242,17 @@ TEST_F(Interactive, TypedNumbersMoveThePointOnARecalculation) {
   EXPECT_NEAR(Number("txtE"), 50 + 10 * (3 + std::log(7.0) - 4), 1e-3);
 }
 
+TEST_F(Interactive, EnterPlacesThePointWhereTheSiteIsNotKnownYet) {
+  Choose("cmbClimateStation", "Orlando");
+  TypeNumbers("3", "", "5");
+  Enter("txtV");
+  EXPECT_TRUE(HotspotIsVisible());
+  EXPECT_EQ(Text("txtR"), "3");
+  EXPECT_EQ(Text("txtV"), "5");
+  EXPECT_NEAR(Number("txtE"), 50 + 10 * (3 + std::log(5.0) - 4), 1e-3);
+  EXPECT_EQ(Message(), "Missing data.");
+}
+
 TEST_F(Interactive, TypedNumbersOutOfRangeAreTold) {
   TypeSite("Orlando");
   TypeNumbers("3", "", "27");

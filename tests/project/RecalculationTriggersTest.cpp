@@ -1,5 +1,6 @@
 // When a recalculation runs, counted as the user would notice it.
 #include "support/FormFixture.h"
+#include "support/ProjectText.h"
 
 namespace orvik {
 namespace {
@@ -111,6 +112,17 @@ TEST_F(RecalculationTriggersTest, AStationWithoutCurvesTakesTheSolutionAway) {
   EXPECT_EQ(Text("txtSolveFor(3)"), "");
   EXPECT_EQ(Text("txtE"), "");
   EXPECT_FALSE(HotspotIsVisible());
+}
+
+TEST_F(RecalculationTriggersTest, LeavingAFieldThatAFileFilledDoesNothing) {
+  auto lines = test::ProjectLines();
+  lines.pop_back();  // read up to the last field, then refused
+  EXPECT_FALSE(form_->Files().LoadFile(folder_.Write("cut.kav", test::ProjectText(lines))));
+  EXPECT_EQ(Text("txtBasinArea"), "10");
+  const int before = runs_;
+  toolkit_.PressKey("txtBasinArea", '\t');
+  toolkit_.Leave("txtBasinArea");
+  EXPECT_EQ(runs_, before);
 }
 
 TEST_F(RecalculationTriggersTest, EnterIsTakenByTheFieldAndLeavesItsText) {
