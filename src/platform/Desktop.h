@@ -3,9 +3,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/Printer.h"
+#include "platform/Surface.h"
 
 namespace orvik {
 
@@ -24,11 +29,32 @@ struct FileDialog {
   bool operator==(const FileDialog&) const = default;
 };
 
+enum class PageOpening : std::uint8_t {
+  Opened,
+  NoProgram,  // no program is known that opens such a file
+  Failed,
+};
+
+// What is put on the clipboard: a text, and a picture as drawing and as pixels.
+struct ClipboardContent {
+  std::string text;
+  Size pictureSize;  // pixels
+  std::function<void(Surface& surface)> paint;
+};
+
 struct CalendarDate {
   int year;
   int month;  // 1...12
   int day;    // 1...31
   bool operator==(const CalendarDate&) const = default;
+};
+
+struct ClockTime {
+  CalendarDate date;
+  int hour;    // 0...23
+  int minute;  // 0...59
+  int second;  // 0...60
+  bool operator==(const ClockTime&) const = default;
 };
 
 class Desktop {
@@ -56,6 +82,19 @@ class Desktop {
 
   // The date of today where the user is.
   virtual CalendarDate Today() = 0;
+
+  // Opens a file with the program that the user reads such pages with.
+  virtual PageOpening OpenPage(const std::string& path) = 0;
+
+  // Puts the content in place of what the clipboard holds. False where another program keeps the
+  // clipboard to itself.
+  virtual bool CopyToClipboard(const ClipboardContent& content) = 0;
+
+  // The date and the time of day where the user is.
+  virtual ClockTime Now() = 0;
+
+  // The user's default printer; null where no printer can be reached.
+  virtual std::unique_ptr<Printer> OpenPrinter() = 0;
 };
 
 }  // namespace orvik

@@ -5,6 +5,7 @@
 // What a back end cannot do is asked with Supports; nothing throws for it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -57,11 +58,18 @@ struct Font {
   bool strikethrough = false;
 };
 
-// Pixels row by row from the top, 0x00RRGGBB.
+// Pixels row by row from the top, 0x00RRGGBB: as many as the size says.
 struct Picture {
   Size size;
   std::vector<std::uint32_t> pixels;
 };
+
+inline bool IsConsistent(const Picture& picture) {
+  const auto [width, height] = picture.size;
+  return width >= 0 && height >= 0 &&
+         picture.pixels.size() ==
+             static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+}
 
 enum class SurfaceFeature : std::uint8_t {
   ExclusiveOr,  // without it, pens draw in Copy mode
@@ -93,6 +101,7 @@ class Surface {
   virtual Size MeasureText(std::string_view text, const Font& font) = 0;
 
   // Copies as much of the picture as fits, unscaled, from its upper left corner into the area.
+  // Throws std::invalid_argument for pixels that are more or fewer than the picture's size says.
   virtual void CopyPicture(const Picture& picture, const Area& area) = 0;
 
   // Until the matching PopClip, drawing has an effect only in this area and in those pushed before.

@@ -14,7 +14,9 @@
 #include <string_view>
 
 #include "platform/Colour.h"
+#include "platform/FormDesign.h"
 #include "platform/Host.h"
+#include "platform/Surface.h"
 
 namespace orvik {
 
@@ -49,7 +51,9 @@ class TextBox : public Widget {
   std::function<void()> OnChange;  // after every change of the text, typed or assigned
   // A character typed (13 = Enter); 0 swallows it, another value replaces it.
   std::function<void(std::int16_t& keyAscii)> OnKeyPress;
-  std::function<void()> OnLeave;  // the keyboard focus has left the field
+  // The keyboard focus has left the field, or a command of the menu or the window's frame follows,
+  // which works on what was typed.
+  std::function<void()> OnLeave;
 };
 
 // A drop-down list without free text. The index is 0-based, -1 for none; an index outside the list
@@ -73,19 +77,44 @@ class Label : public Widget {
 };
 
 // An area that holds other widgets and is shown or hidden as a whole.
-class Panel : public Widget {};
+class Panel : public Widget {
+ public:
+  std::function<void()> OnShow;  // it was hidden and is visible now
+  // What lies under its widgets; the whole of it is painted over.
+  std::function<void(Surface& surface, Size size)> OnPaint;
+};
 
-// A menu, or an item of one. "&" in the caption marks the mnemonic.
+// One of several buttons of which one is down. The toolkit lets up no other one by itself.
+class OptionButton : public Widget {
+ public:
+  virtual std::string Caption() const = 0;
+  virtual void Caption(std::string_view caption) = 0;
+  virtual bool Value() const = 0;
+  virtual void Value(bool value) = 0;
+
+  std::function<void()> OnClick;  // the user chose it
+};
+
+// A menu, or an item of one. "&" in the caption marks the mnemonic; what follows a tab is the key
+// that works it from anywhere in the window ("&Open...\tCtrl+O"), while the item can be reached.
 class MenuItem : public Widget {
  public:
   virtual std::string Caption() const = 0;
   virtual void Caption(std::string_view caption) = 0;
+  virtual bool Checked() const = 0;
+  virtual void Checked(bool checked) = 0;
 
   std::function<void()> OnClick;
 };
 
+// What a screen reader tells of a drawn control.
+struct Spoken {
+  std::string name;   // what it is; "&" marks a button's mnemonic
+  std::string value;  // what it shows, empty for nothing
+};
+
 // The window of a drawn control (chart, flat button): what the control asks of it, and what it
-// tells the control. Positions in pixels of the control.
+// tells the control. Positions in pixels of the control. A control with OnMnemonic is a button.
 class ControlHost : public Widget, public Host {
  public:
   static constexpr std::int16_t kLeftButton = 1;
@@ -94,12 +123,20 @@ class ControlHost : public Widget, public Host {
   std::function<void(int width, int height)> OnResize;
   std::function<void(std::int16_t button, double x, double y)> OnMouseDown;
   std::function<void(double x, double y)> OnMouseMove;
-  std::function<void(double x, double y)> OnMouseUp;
+  std::function<void(std::int16_t button, double x, double y)> OnMouseUp;
   std::function<void()> OnCaptureLost;  // the system took the mouse away
   std::function<void(std::int16_t keyCode)> OnKeyDown;
   std::function<void(std::int16_t keyCode)> OnKeyUp;
   std::function<void()> OnGotFocus;
   std::function<void()> OnLostFocus;
+  std::function<void()> OnCopy;                  // the keys for copying (Ctrl+C)
+  std::function<void()> OnMnemonic;              // a button's own letter was pressed with Alt
+  std::function<void(const Font& font)> OnFont;  // the font of texts in this window, at first too
+  std::function<Spoken()> ReadAloud;             // asked again whenever it was drawn anew
+  // Whether the control takes this key itself; others move the focus or press the window's buttons.
+  std::function<bool(std::int16_t keyCode)> WantsKey;
+
+  Spoken Tell() const { return ReadAloud ? ReadAloud() : Spoken{}; }
 };
 
 class Timer {
@@ -122,13 +159,18 @@ class Window : public Widget {
   virtual std::string Caption() const = 0;
   virtual void Caption(std::string_view caption) = 0;
 
+  // Shows the window over the program's active one and returns when it is hidden or closed.
+  virtual void ShowModally() = 0;
+
   // The user closes the window by its frame or the system menu; true in `cancel` keeps it from
   // being destroyed.
   std::function<void(bool& cancel)> OnQueryUnload;
+  std::function<void()> OnAccept;  // Enter, where the widget with the focus has no use for it
+  std::function<void(const std::string& path)> OnDropFile;  // a file was dropped on the window
 };
 
-// Makes widgets by the names of the form's controls ("txtBasinArea"), which the native toolkit also
-// uses to place them.
+// Makes widgets by the names of the form's controls ("txtBasinArea"), which a toolkit with a screen
+// also uses to place them.
 class Toolkit {
  public:
   Toolkit() = default;
@@ -136,11 +178,15 @@ class Toolkit {
   Toolkit& operator=(const Toolkit&) = delete;
   virtual ~Toolkit() = default;
 
+  // Where the widgets made from now on lie. The design outlives them.
+  virtual void Design(const FormDesign& design) = 0;
+
   virtual std::unique_ptr<Window> MakeWindow(std::string_view name) = 0;
   virtual std::unique_ptr<TextBox> MakeTextBox(std::string_view name) = 0;
   virtual std::unique_ptr<ComboBox> MakeComboBox(std::string_view name) = 0;
   virtual std::unique_ptr<Label> MakeLabel(std::string_view name) = 0;
   virtual std::unique_ptr<Panel> MakePanel(std::string_view name) = 0;
+  virtual std::unique_ptr<OptionButton> MakeOptionButton(std::string_view name) = 0;
   virtual std::unique_ptr<MenuItem> MakeMenuItem(std::string_view name) = 0;
   virtual std::unique_ptr<ControlHost> MakeControlHost(std::string_view name) = 0;
   virtual std::unique_ptr<Timer> MakeTimer() = 0;

@@ -19,4 +19,15 @@ std::string HeadlessDesktop::Choose(const FileDialog& dialog) {
   return path;
 }
 
+PageOpening HeadlessDesktop::OpenPage(const std::string& path) {
+  openedPages_.push_back(path);
+  return pageAnswer_;
+}
+
+bool HeadlessDesktop::CopyToClipboard(const ClipboardContent& content) {
+  if (!clipboardIsFree_) return false;
+  clipboard_ = content;
+  return true;
+}
+
 }  // namespace orvik

@@ -26,7 +26,11 @@ class HeadlessDesktop final : public Desktop {
   std::string ChooseFileToOpen(const FileDialog& dialog) override { return Choose(dialog); }
   std::string ChooseFileToSave(const FileDialog& dialog) override { return Choose(dialog); }
   std::optional<std::string> DocumentsFolder() override { return documentsFolder_; }
-  CalendarDate Today() override { return today_; }
+  PageOpening OpenPage(const std::string& path) override;
+  bool CopyToClipboard(const ClipboardContent& content) override;
+  CalendarDate Today() override { return now_.date; }
+  ClockTime Now() override { return now_; }
+  std::unique_ptr<Printer> OpenPrinter() override { return std::move(printer_); }
 
   // The answer that the next questions get.
   void AnswerYes(bool yes) { answerYes_ = yes; }
@@ -36,11 +40,23 @@ class HeadlessDesktop final : public Desktop {
   void AnswerFile(std::string path) { fileAnswers_.push_back(std::move(path)); }
 
   void DocumentsFolder(std::optional<std::string> folder) { documentsFolder_ = std::move(folder); }
-  void Today(CalendarDate date) { today_ = date; }
+  void Today(CalendarDate date) { now_.date = date; }
+  void Now(const ClockTime& time) { now_ = time; }
+
+  // The printer that is opened next, once; without it there is none.
+  void AnswerPrinter(std::unique_ptr<Printer> printer) { printer_ = std::move(printer); }
+
+  // What comes of the next pages that are opened.
+  void AnswerPage(PageOpening answer) { pageAnswer_ = answer; }
+
+  // Whether the clipboard can be had; at first it can.
+  void ClipboardIsFree(bool isFree) { clipboardIsFree_ = isFree; }
 
   // In the order shown, questions included.
   const std::vector<Message>& Messages() const { return messages_; }
   const std::vector<FileDialog>& FileDialogs() const { return fileDialogs_; }
+  const std::vector<std::string>& OpenedPages() const { return openedPages_; }
+  const std::optional<ClipboardContent>& Clipboard() const { return clipboard_; }
   int Beeps() const { return beeps_; }
   void ForgetMessages() { messages_.clear(); }
 
@@ -51,9 +67,14 @@ class HeadlessDesktop final : public Desktop {
   std::vector<FileDialog> fileDialogs_;
   std::deque<std::string> fileAnswers_;
   std::optional<std::string> documentsFolder_;
-  CalendarDate today_{2000, 1, 1};
+  std::vector<std::string> openedPages_;
+  PageOpening pageAnswer_ = PageOpening::Opened;
+  std::optional<ClipboardContent> clipboard_;
+  ClockTime now_{{2000, 1, 1}, 0, 0, 0};
+  std::unique_ptr<Printer> printer_;
   int beeps_ = 0;
   bool answerYes_ = false;
+  bool clipboardIsFree_ = true;
 };
 
 }  // namespace orvik

@@ -39,6 +39,9 @@ std::unique_ptr<Label> HeadlessToolkit::MakeLabel(std::string_view name) {
 std::unique_ptr<Panel> HeadlessToolkit::MakePanel(std::string_view name) {
   return std::make_unique<HeadlessPanel>(widgets_, name);
 }
+std::unique_ptr<OptionButton> HeadlessToolkit::MakeOptionButton(std::string_view name) {
+  return std::make_unique<HeadlessOptionButton>(widgets_, name);
+}
 std::unique_ptr<MenuItem> HeadlessToolkit::MakeMenuItem(std::string_view name) {
   return std::make_unique<HeadlessMenuItem>(widgets_, name);
 }
@@ -65,6 +68,7 @@ Kind& HeadlessToolkit::Find(std::string_view name) const {
 template HeadlessTextBox& HeadlessToolkit::Find(std::string_view) const;
 template HeadlessComboBox& HeadlessToolkit::Find(std::string_view) const;
 template HeadlessLabel& HeadlessToolkit::Find(std::string_view) const;
+template HeadlessOptionButton& HeadlessToolkit::Find(std::string_view) const;
 template HeadlessMenuItem& HeadlessToolkit::Find(std::string_view) const;
 template HeadlessWindow& HeadlessToolkit::Find(std::string_view) const;
 template HeadlessControlHost& HeadlessToolkit::Find(std::string_view) const;
@@ -78,6 +82,14 @@ void HeadlessToolkit::MoveFocus(std::string_view textBox) {
   if (auto* field = dynamic_cast<HeadlessTextBox*>(found->second); field && field->OnLeave) {
     field->OnLeave();
   }
+}
+
+// The field keeps the focus, but what was typed there counts for the command that follows.
+void HeadlessToolkit::CommitEdit() {
+  const auto found = widgets_->find(focus_);
+  if (found == widgets_->end()) return;
+  auto* field = dynamic_cast<HeadlessTextBox*>(found->second);
+  if (field && field->OnLeave) field->OnLeave();
 }
 
 void HeadlessToolkit::Type(std::string_view textBox, std::string_view text) {
@@ -127,19 +139,33 @@ void HeadlessToolkit::ClickMenu(std::string_view menuItem) {
     const std::string_view menu = menuItem.substr(0, parent);
     RequireReachable(menu, FindWidget(menu));
   }
+  CommitEdit();
   if (item.OnClick) item.OnClick();
 }
 
 void HeadlessToolkit::ClickButton(std::string_view button) {
+  if (auto* option = dynamic_cast<HeadlessOptionButton*>(&FindWidget(button))) {
+    RequireReachable(button, *option);
+    MoveFocus(button);
+    if (option->OnClick) option->OnClick();
+    return;
+  }
   auto& host = Find<HeadlessControlHost>(button);
   RequireReachable(button, host);
   MoveFocus(button);
   host.Click();
 }
 
+void HeadlessToolkit::DropFile(std::string_view window, const std::string& path) {
+  auto& target = Find<HeadlessWindow>(window);
+  RequireReachable(window, target);
+  if (target.OnDropFile) target.OnDropFile(path);
+}
+
 bool HeadlessToolkit::CloseByFrame(std::string_view window) {
   auto& closed = Find<HeadlessWindow>(window);
   RequireReachable(window, closed);
+  CommitEdit();
   bool cancel = false;
   if (closed.OnQueryUnload) closed.OnQueryUnload(cancel);
   return !cancel;

@@ -15,11 +15,13 @@ namespace orvik {
 // std::logic_error where a user could not do it either (the widget is hidden, disabled or locked).
 class HeadlessToolkit final : public Toolkit {
  public:
+  void Design(const FormDesign&) override {}
   std::unique_ptr<Window> MakeWindow(std::string_view name) override;
   std::unique_ptr<TextBox> MakeTextBox(std::string_view name) override;
   std::unique_ptr<ComboBox> MakeComboBox(std::string_view name) override;
   std::unique_ptr<Label> MakeLabel(std::string_view name) override;
   std::unique_ptr<Panel> MakePanel(std::string_view name) override;
+  std::unique_ptr<OptionButton> MakeOptionButton(std::string_view name) override;
   std::unique_ptr<MenuItem> MakeMenuItem(std::string_view name) override;
   std::unique_ptr<ControlHost> MakeControlHost(std::string_view name) override;
   std::unique_ptr<Timer> MakeTimer() override;
@@ -43,8 +45,11 @@ class HeadlessToolkit final : public Toolkit {
   // is hidden.
   void ClickMenu(std::string_view menuItem);
 
-  // Clicks a drawn button in its middle.
+  // Clicks a drawn button in its middle, or an option button.
   void ClickButton(std::string_view button);
+
+  // Drops a file on the window.
+  void DropFile(std::string_view window, const std::string& path);
 
   // Closes the window by its frame. True when it may be destroyed.
   bool CloseByFrame(std::string_view window);
@@ -62,6 +67,7 @@ class HeadlessToolkit final : public Toolkit {
  private:
   Widget& FindWidget(std::string_view name) const;
   void MoveFocus(std::string_view textBox);
+  void CommitEdit();
 
   std::shared_ptr<WidgetRegistry> widgets_ = std::make_shared<WidgetRegistry>();
   std::string focus_;

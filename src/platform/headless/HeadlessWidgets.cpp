@@ -65,6 +65,12 @@ void HeadlessComboBox::ListIndex(std::int16_t index) {
   if (OnClick) OnClick();
 }
 
+void HeadlessWindow::ShowModally() {
+  Visible(true);
+  if (OnShown) OnShown();
+  Visible(false);
+}
+
 void HeadlessControlHost::Move(int, int, int width, int height) {
   width_ = width;
   height_ = height;
@@ -76,7 +82,7 @@ void HeadlessControlHost::Click() {
   const double x = width_ / 2.0;
   const double y = height_ / 2.0;
   if (OnMouseDown) OnMouseDown(kLeftButton, x, y);
-  if (OnMouseUp) OnMouseUp(x, y);
+  if (OnMouseUp) OnMouseUp(kLeftButton, x, y);
 }
 
 }  // namespace orvik

@@ -86,7 +86,7 @@ class HeadlessComboBox final : public HeadlessWidget<ComboBox> {
 
 // A widget with a caption: label, menu item, window.
 template <typename Interface>
-class HeadlessCaptioned final : public HeadlessWidget<Interface> {
+class HeadlessCaptioned : public HeadlessWidget<Interface> {
  public:
   using HeadlessWidget<Interface>::HeadlessWidget;
 
@@ -98,9 +98,50 @@ class HeadlessCaptioned final : public HeadlessWidget<Interface> {
 };
 
 using HeadlessLabel = HeadlessCaptioned<Label>;
-using HeadlessMenuItem = HeadlessCaptioned<MenuItem>;
-using HeadlessWindow = HeadlessCaptioned<Window>;
-using HeadlessPanel = HeadlessWidget<Panel>;
+
+class HeadlessMenuItem final : public HeadlessCaptioned<MenuItem> {
+ public:
+  using HeadlessCaptioned::HeadlessCaptioned;
+
+  bool Checked() const override { return checked_; }
+  void Checked(bool checked) override { checked_ = checked; }
+
+ private:
+  bool checked_ = false;
+};
+
+class HeadlessOptionButton final : public HeadlessCaptioned<OptionButton> {
+ public:
+  using HeadlessCaptioned::HeadlessCaptioned;
+
+  bool Value() const override { return value_; }
+  void Value(bool value) override { value_ = value; }
+
+ private:
+  bool value_ = false;
+};
+
+class HeadlessPanel final : public HeadlessWidget<Panel> {
+ public:
+  using HeadlessWidget::HeadlessWidget;
+
+  using HeadlessWidget::Visible;
+  void Visible(bool visible) override {
+    if (visible == Visible()) return;
+    HeadlessWidget::Visible(visible);
+    if (visible && OnShow) OnShow();
+  }
+};
+
+// While it is shown modally, the user does what OnShown does.
+class HeadlessWindow final : public HeadlessCaptioned<Window> {
+ public:
+  using HeadlessCaptioned::HeadlessCaptioned;
+
+  void ShowModally() override;
+
+  std::function<void()> OnShown;
+};
 
 // Shows nothing; a drawn control is worked through its events.
 class HeadlessControlHost final : public HeadlessWidget<ControlHost> {

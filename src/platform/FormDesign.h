@@ -1,0 +1,67 @@
+// How the widgets of a form lie in its window, as data for a toolkit that has a screen.
+//
+// The toolkit asks for the layout again whenever the window's size, scaling or font changes.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "platform/Surface.h"
+
+namespace orvik {
+
+enum class WidgetStyle : std::uint8_t {
+  Plain,
+  Heading,       // a label in bold letters
+  RightAligned,  // a label whose text ends at its right edge
+  Wrapped,       // a text box over several lines of the screen; its text stays one line
+  Separated,     // a menu item with a line above it
+};
+
+// The rows of a form: widgets in the order in which the Tab key and a reader meet them (a label
+// directly before its field names it), menus in the order of the menu bar.
+struct WidgetDesign {
+  std::string_view name;
+  std::string_view parent;  // a panel or menu made before it; empty: the window
+  WidgetStyle style = WidgetStyle::Plain;
+};
+
+// Measures of the window's text at its scaling.
+struct TextMeasures {
+  int dpi = 96;
+  int lineHeight = 13;                         // pixels
+  std::function<int(std::string_view)> width;  // pixels of a text of one line, in UTF-8
+
+  // Pixels of a length given for 96 dots per inch.
+  int Scale(int length) const { return (length * dpi + 48) / 96; }
+};
+
+// A widget's place in its parent's inner area, pixels.
+struct Placement {
+  std::string_view name;
+  Area area;
+  bool operator==(const Placement&) const = default;
+};
+
+class FormDesign {
+ public:
+  FormDesign() = default;
+  FormDesign(const FormDesign&) = delete;
+  FormDesign& operator=(const FormDesign&) = delete;
+  virtual ~FormDesign() = default;
+
+  virtual std::span<const WidgetDesign> Widgets() const = 0;
+
+  // Sizes of the window's inner area, pixels: the smallest in which everything has its place, and
+  // the one that the window opens with where the screen has room.
+  virtual Size MinimumSize(const TextMeasures& measures) const = 0;
+  virtual Size InitialSize(const TextMeasures& measures) const = 0;
+
+  // A place for each widget, in a window whose inner area has this size.
+  virtual std::vector<Placement> LayOut(Size inner, const TextMeasures& measures) const = 0;
+};
+
+}  // namespace orvik

@@ -1,0 +1,63 @@
+// A control of the system as a widget stands on it: owns the window, and sees its messages first.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace orvik {
+
+// How a control's window is made.
+struct ChildStyle {
+  const wchar_t* className;
+  DWORD style;  // besides child and visible
+  DWORD exStyle = 0;
+};
+
+class ChildWindow {
+ public:
+  // Throws std::system_error where the window cannot be made.
+  ChildWindow(HINSTANCE module, HWND parent, const ChildStyle& style);
+  ChildWindow(const ChildWindow&) = delete;
+  ChildWindow& operator=(const ChildWindow&) = delete;
+  virtual ~ChildWindow();
+
+  // Null once its parent is destroyed; everything else then does nothing and reads as empty.
+  HWND Handle() const { return window_; }
+
+ protected:
+  bool HasStyle(LONG_PTR style) const;
+  bool IsShown() const { return HasStyle(WS_VISIBLE); }
+  void Show(bool visible);
+  bool IsEnabled() const { return !HasStyle(WS_DISABLED); }
+  void Enable(bool enabled);
+  void Place(int left, int top, int width, int height);
+
+  std::string WindowText() const;
+  void WindowText(std::string_view text);
+
+  // A message to the control. The base class's answer is the system's own.
+  virtual LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  HWND window_;
+  WNDPROC system_ = nullptr;  // the control's own procedure
+};
+
+// What every widget on a control has, over one of the widget interfaces.
+template <typename Interface>
+class NativeWidget : public Interface, public ChildWindow {
+ public:
+  using ChildWindow::ChildWindow;
+
+  bool Visible() const override { return IsShown(); }
+  void Visible(bool visible) override { Show(visible); }
+  bool Enabled() const override { return IsEnabled(); }
+  void Enabled(bool enabled) override { Enable(enabled); }
+  void Move(int left, int top, int width, int height) override { Place(left, top, width, height); }
+};
+
+}  // namespace orvik

@@ -1,0 +1,17 @@
+// The common dialogs for a file's name.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "platform/Desktop.h"
+
+namespace orvik {
+
+// The chosen path in UTF-8, empty when the dialog was cancelled. The open dialog lets a user choose
+// only a file that is there. The process keeps its current folder.
+std::string ShowOpenDialog(HWND owner, const FileDialog& dialog);
+std::string ShowSaveDialog(HWND owner, const FileDialog& dialog);
+
+}  // namespace orvik

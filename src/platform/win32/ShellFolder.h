@@ -1,0 +1,12 @@
+// The user's folders as the shell's automation object tells them.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace orvik {
+
+// The path of the personal (documents) folder in UTF-8; nothing where the shell cannot tell it.
+std::optional<std::string> ShellDocumentsFolder();
+
+}  // namespace orvik

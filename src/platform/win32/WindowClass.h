@@ -1,0 +1,28 @@
+// A window class of a module. It is gone with the last window that used it, so that the module can
+// be unloaded and loaded again.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace orvik {
+
+class WindowClass {
+ public:
+  // Takes the class that is there under this name and module, or registers it. Throws
+  // std::system_error where there can be none.
+  explicit WindowClass(const WNDCLASSEXW& description);
+  ~WindowClass();
+  WindowClass(const WindowClass&) = delete;
+  WindowClass& operator=(const WindowClass&) = delete;
+
+  const wchar_t* Name() const { return name_.c_str(); }
+  HINSTANCE Module() const { return module_; }
+
+ private:
+  std::wstring name_;
+  HINSTANCE module_;
+};
+
+}  // namespace orvik
