@@ -8,6 +8,8 @@
 #include "entry/Form1.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "platform/headless/HeadlessToolkit.h"
+#include "project/FieldCaptions.h"
+#include "project/WithoutResults.h"
 
 namespace orvik {
 namespace {
@@ -21,23 +23,32 @@ struct Row {
 };
 
 void AddDescription(std::vector<Row>& rows, ProjectForm& form) {
-  rows.push_back({"txtProjectName", "Project name", form.txtProjectName.Text()});
-  rows.push_back({"txtDescription", "Description", form.txtDescription.Text()});
-  rows.push_back({"txtProjectNumber", "Project number", form.txtProjectNumber.Text()});
-  rows.push_back({"txtEngineer", "Engineer", form.txtEngineer.Text()});
   rows.push_back(
-      {"txtSuervisingEngineer", "Supervising engineer", form.txtSuervisingEngineer.Text()});
-  rows.push_back({"txtDate", "Date", form.txtDate.Text()});
+      {"txtProjectName", std::string(FieldCaption::kProject), form.txtProjectName.Text()});
+  rows.push_back(
+      {"txtDescription", std::string(FieldCaption::kDescription), form.txtDescription.Text()});
+  rows.push_back({"txtProjectNumber", std::string(FieldCaption::kProjectNumber),
+                  form.txtProjectNumber.Text()});
+  rows.push_back({"txtEngineer", std::string(FieldCaption::kEngineer), form.txtEngineer.Text()});
+  rows.push_back({"txtSuervisingEngineer", std::string(FieldCaption::kSupervisingEngineer),
+                  form.txtSuervisingEngineer.Text()});
+  rows.push_back({"txtDate", std::string(FieldCaption::kDate), form.txtDate.Text()});
 }
 
 void AddSite(std::vector<Row>& rows, ProjectForm& form) {
-  rows.push_back({"txtBasinArea", "Basin area", form.txtBasinArea.Text(), "ac"});
-  rows.push_back({"txtRunoffCoefficient", "Runoff coefficient", form.txtRunoffCoefficient.Text()});
-  rows.push_back({"txtEquivalentImperviousArea", "Equivalent impervious area",
+  rows.push_back(
+      {"txtBasinArea", std::string(FieldCaption::kBasinArea), form.txtBasinArea.Text(), "ac"});
+  rows.push_back({"txtRunoffCoefficient", std::string(FieldCaption::kRunoffCoefficient),
+                  form.txtRunoffCoefficient.Text()});
+  rows.push_back({"txtEquivalentImperviousArea",
+                  std::string(FieldCaption::kEquivalentImperviousArea),
                   form.txtEquivalentImperviousArea.Text(), "ac"});
-  rows.push_back({"txtIrrigationArea", "Irrigation area", form.txtIrrigationArea.Text(), "ac"});
-  rows.push_back({"cmbClimateStation", "Climate station", ChosenItem(*form.cmbClimateStation)});
-  rows.push_back({"cmbSolveFor", "Solve for", ChosenItem(*form.cmbSolveFor)});
+  rows.push_back({"txtIrrigationArea", std::string(FieldCaption::kIrrigationArea),
+                  form.txtIrrigationArea.Text(), "ac"});
+  rows.push_back({"cmbClimateStation", std::string(FieldCaption::kClimateStation),
+                  ChosenItem(*form.cmbClimateStation)});
+  rows.push_back(
+      {"cmbSolveFor", std::string(FieldCaption::kSolveFor), ChosenItem(*form.cmbSolveFor)});
 }
 
 void AddSolution(std::vector<Row>& rows, ProjectForm& form) {
@@ -68,27 +79,27 @@ void PrintJson(std::ostream& out, const std::vector<Row>& rows, const ctrlErrorM
   out << object.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
 }
 
+// A field of a damaged file may hold anything; a terminal would obey its control characters.
+std::string Printable(std::string text) {
+  for (char& c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte == 0x7F) c = ' ';
+  }
+  return text;
+}
+
 void PrintText(std::ostream& out, const std::vector<Row>& rows) {
   for (const Row& row : rows) {
-    const bool hasUnit = !row.value.empty() && !row.unit.empty();
-    out << std::left << std::setw(29) << row.caption;
-    if (hasUnit) {
-      out << std::setw(12) << row.value << row.unit;
+    if (row.value.empty()) {
+      out << row.caption;
+    } else if (row.unit.empty()) {
+      out << std::left << std::setw(29) << row.caption << Printable(row.value);
     } else {
-      out << row.value;
+      out << std::left << std::setw(29) << row.caption << std::setw(12) << Printable(row.value)
+          << row.unit;
     }
     out << '\n';
   }
-}
-
-// Why a project without a message on its bar has no results; empty where it has some.
-std::string WhyWithoutResults(Form1& window) {
-  const std::int16_t mode = window.Fields().cmbSolveFor->ListIndex();
-  if (!IsSolveForMode(mode)) return "No solve-for mode is chosen.";
-  if (mode == SolveFor::kInteractive && window.Chart().HotSpotVisibile() == kFalse16) {
-    return "No point is placed on the chart.";
-  }
-  return {};
 }
 
 ExitCode RunCalc(Console& console, const CommonOptions& options, const std::string& path) {
@@ -99,7 +110,7 @@ ExitCode RunCalc(Console& console, const CommonOptions& options, const std::stri
   const auto rows = RowsOf(window);
   const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
   options.json ? PrintJson(console.out, rows, bar) : PrintText(console.out, rows);
-  const std::string message = bar.IsSet() != kFalse16 ? bar.Text() : WhyWithoutResults(window);
+  const std::string message = WhyWithoutResults(window.Fields(), window.Chart());
   if (message.empty()) return ExitCode::Done;
   PrintMessage(console, message);
   return ExitCode::CalculationSaysNo;

@@ -68,7 +68,7 @@ ExitCode ChartOfStation(Console& console, const CommonOptions& options,
                         const ChartRequest& request) {
   HeadlessDesktop desktop;
   ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
-  const ExitCode loaded = LoadStation(console, options, chart, desktop, request.question.station);
+  const ExitCode loaded = LoadStation(console, chart, desktop, request.question.station);
   if (loaded != ExitCode::Done) return loaded;
   Question question = request.question;
   try {

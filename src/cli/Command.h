@@ -22,6 +22,7 @@ CommandRun AddStationsCommand(CLI::App& app);
 CommandRun AddSolveCommand(CLI::App& app);
 CommandRun AddCalcCommand(CLI::App& app);
 CommandRun AddChartCommand(CLI::App& app);
+CommandRun AddReportCommand(CLI::App& app);
 CommandRun AddCurvesCommand(CLI::App& app);
 
 // The folder that holds "KAV Data", with a separator at its end.

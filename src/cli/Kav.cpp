@@ -57,6 +57,7 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
   AddCommand(app, commands, AddSolveCommand);
   AddCommand(app, commands, AddCalcCommand);
   AddCommand(app, commands, AddChartCommand);
+  AddCommand(app, commands, AddReportCommand);
   AddCommand(app, commands, AddCurvesCommand);
 
   try {

@@ -1,5 +1,7 @@
 #include "cli/ProjectOpening.h"
 
+#include "cli/StationQuestion.h"
+
 namespace orvik {
 
 std::string ChosenItem(const ComboBox& list) {
@@ -14,7 +16,7 @@ bool OpenProject(Console& console, Form1& window, const HeadlessDesktop& desktop
   const std::string station = ChosenItem(*window.Fields().cmbClimateStation);
   if (station.empty() || window.Chart().IsLoaded()) return true;
   if (desktop.Messages().empty()) {
-    PrintMessage(console, "The curve file of " + station + " is damaged or cannot be read.");
+    PrintMessage(console, DescribeDamage(window.Chart(), station));
   }
   return false;
 }

@@ -65,7 +65,7 @@ ExitCode RunSolve(Console& console, const CommonOptions& options, const Question
   }
   HeadlessDesktop desktop;
   ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
-  const ExitCode loaded = LoadStation(console, options, chart, desktop, question.station);
+  const ExitCode loaded = LoadStation(console, chart, desktop, question.station);
   if (loaded != ExitCode::Done) return loaded;
   Question asked = question;
   asked.station = chart.StationName();

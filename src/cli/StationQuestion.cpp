@@ -1,6 +1,5 @@
 #include "cli/StationQuestion.h"
 
-#include "base/Paths.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFileDiagnosis.h"
 
@@ -26,15 +25,14 @@ bool Solve(ctrlStormwaterReuse& chart, Question& question) {
   return chart.SetHotspotUsing_EV(question.E, question.V, question.R);
 }
 
-std::string DescribeDamage(const std::string& dataFolder, const std::string& station) {
-  const std::string path = WithEndingSeparator(dataFolder + "KAV Data") + station + ".crv";
-  const std::string why = DiagnoseCurveFile(path);
+std::string DescribeDamage(const ctrlStormwaterReuse& chart, const std::string& station) {
+  const std::string why = DiagnoseCurveFile(chart.CurveFolder() + station + ".crv");
   return "The curve file of " + station +
          (why.empty() ? " is damaged or cannot be read." : " cannot be read: " + why + ".");
 }
 
-ExitCode LoadStation(Console& console, const CommonOptions& options, ctrlStormwaterReuse& chart,
-                     const HeadlessDesktop& desktop, const std::string& name) {
+ExitCode LoadStation(Console& console, ctrlStormwaterReuse& chart, const HeadlessDesktop& desktop,
+                     const std::string& name) {
   const auto station = FindClimateStation(name);
   if (!station) {
     PrintMessage(console, "There is no climate station \"" + name + "\". kav stations lists them.");
@@ -44,8 +42,7 @@ ExitCode LoadStation(Console& console, const CommonOptions& options, ctrlStormwa
   if (chart.IsLoaded()) return ExitCode::Done;
   for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
   if (desktop.Messages().empty()) {
-    PrintMessage(console, DescribeDamage(DataFolder(console, options),
-                                         std::string(ClimateStationName(*station))));
+    PrintMessage(console, DescribeDamage(chart, std::string(ClimateStationName(*station))));
   }
   return ExitCode::FileTrouble;
 }

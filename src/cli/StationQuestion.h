@@ -27,11 +27,11 @@ int CountGiven(const Question& question);
 bool Solve(ctrlStormwaterReuse& chart, Question& question);
 
 // Loads the curves of the station of this name; anything but Done has been said on the console.
-ExitCode LoadStation(Console& console, const CommonOptions& options, ctrlStormwaterReuse& chart,
-                     const HeadlessDesktop& desktop, const std::string& name);
+ExitCode LoadStation(Console& console, ctrlStormwaterReuse& chart, const HeadlessDesktop& desktop,
+                     const std::string& name);
 
-// The sentence for a station whose file is there, but gave no curves.
-std::string DescribeDamage(const std::string& dataFolder, const std::string& station);
+// The sentence for a station whose file is there, but gave the chart no curves.
+std::string DescribeDamage(const ctrlStormwaterReuse& chart, const std::string& station);
 
 // Says that the loaded curves led to a numeric fault.
 ExitCode RefuseCurves(Console& console, const ctrlStormwaterReuse& chart);

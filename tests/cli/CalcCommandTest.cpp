@@ -112,6 +112,28 @@ TEST_F(Calc, CurvesThatCannotBeReadExitThree) {
   EXPECT_EQ(damaged.err, "The curve file of Key West is damaged or cannot be read.\n");
 }
 
+TEST_F(Calc, AnUnixCopyOfACurveFileIsTold) {
+  std::string curves = test::LogarithmicCurves().Text();
+  std::erase(curves, '\r');
+  folder_.Write("KAV Data/Tampa.crv", curves);
+  const KavRun run = Calculate(ProjectText());
+  EXPECT_EQ(run.exitCode, 3);
+  EXPECT_THAT(run.err, HasSubstr("The curve file of Tampa cannot be read: "));
+}
+
+TEST_F(Calc, ControlCharactersDoNotReachTheTerminal) {
+  auto lines = ProjectLines();
+  lines[2] = "Pond\x1B[31m\a\tred";
+  const KavRun run = Calculate(ProjectText(lines));
+  EXPECT_THAT(run.out, HasSubstr("Project name                 Pond [31m  red\n"));
+}
+
+TEST_F(Calc, AnEmptyFieldLeavesNoBlanksAtTheEndOfItsLine) {
+  auto lines = ProjectLines();
+  lines[3] = "";
+  EXPECT_THAT(Calculate(ProjectText(lines)).out, HasSubstr("\nDescription\n"));
+}
+
 TEST_F(Calc, WithoutAProjectTheUsageIsWrong) {
   EXPECT_EQ(Run({"calc"}).exitCode, 2);
 }

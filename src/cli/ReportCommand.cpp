@@ -1,0 +1,96 @@
+// kav report: a project's printed report as a PDF file.
+#include <memory>
+#include <optional>
+
+#include "cli/Command.h"
+#include "cli/DateOption.h"
+#include "cli/ProjectOpening.h"
+#include "curves/FileError.h"
+#include "curves/OutputFile.h"
+#include "platform/cairo/CairoPrinter.h"
+#include "platform/cairo/PictureFile.h"
+#include "platform/headless/HeadlessDesktop.h"
+#include "platform/headless/HeadlessToolkit.h"
+#include "project/WithoutResults.h"
+
+namespace orvik {
+namespace {
+
+struct ReportRequest {
+  std::string project;
+  std::string output;
+  std::string date;
+  std::string paper = "letter";
+};
+
+std::string ValidateOutput(const std::string& path) {
+  return PictureKindOf(path) == PictureKind::Pdf ? std::string()
+                                                 : "\"" + path + "\" does not end in .pdf";
+}
+
+std::string ValidateDate(const std::string& text) {
+  return ParseDateAndTime(text)
+             ? std::string()
+             : "\"" + text + "\" is not a date and time like 2026-04-17 09:30:00";
+}
+
+std::string MakeReport(Form1& window, PaperFormat paper, const ClockTime& date) {
+  std::string bytes;
+  CairoPrinter printer(bytes, paper, date);
+  printer.StartDocument(window.ReportTitle());
+  window.PrintDoc(printer);
+  printer.EndDocument();
+  return bytes;
+}
+
+ExitCode RunReport(Console& console, const CommonOptions& options, const ReportRequest& request) {
+  HeadlessToolkit toolkit;
+  HeadlessDesktop desktop;
+  desktop.Now(request.date.empty() ? DateAndTimeNow() : *ParseDateAndTime(request.date));
+  Form1 window(toolkit, desktop, DataFolder(console, options));
+  if (!OpenProject(console, window, desktop, request.project)) return ExitCode::FileTrouble;
+  const PaperFormat paper = request.paper == "a4" ? PaperFormat::A4 : PaperFormat::Letter;
+  try {
+    WriteOutputFile(request.output, MakeReport(window, paper, desktop.Now()));
+  } catch (const FileError& error) {
+    PrintMessage(console, error.what());
+    return ExitCode::FileTrouble;
+  }
+  const std::string message = WhyWithoutResults(window.Fields(), window.Chart());
+  if (message.empty()) return ExitCode::Done;
+  PrintMessage(console, message);
+  return ExitCode::CalculationSaysNo;
+}
+
+}  // namespace
+
+CommandRun AddReportCommand(CLI::App& app) {
+  auto request = std::make_shared<ReportRequest>();
+  auto* command = app.add_subcommand("report", "Write a project's report as a PDF file");
+  command->add_option("project", request->project, "Project file")
+      ->required()
+      ->type_name("PROJECT.kav");
+  command->add_option("-o,--output", request->output, "The report")
+      ->required()
+      ->type_name("FILE.pdf")
+      ->check(ValidateOutput);
+  command
+      ->add_option(
+          "--date", request->date,
+          "Date and time in the report's header; now if not given. The same date makes the "
+          "same file")
+      ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
+      ->check(ValidateDate);
+  command->add_option("--paper", request->paper, "letter (if not given) or a4")
+      ->type_name("PAPER")
+      ->transform(CLI::IsMember({"letter", "a4"}, CLI::ignore_case));
+  command->footer(
+      "The report is written for a project without a result too: it tells why, and the exit code "
+      "is "
+      "1.\n\nExample:\n  kav report samples/efficiency.kav -o report.pdf --paper a4");
+  return [request](Console& console, const CommonOptions& options) {
+    return RunReport(console, options, *request);
+  };
+}
+
+}  // namespace orvik

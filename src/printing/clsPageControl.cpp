@@ -1,0 +1,174 @@
+#include "printing/clsPageControl.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/ModuleVersion.h"
+#include "base/Rounding.h"
+#include "base/RuntimeErrors.h"
+#include "printing/FitText.h"
+
+namespace orvik {
+namespace {
+
+constexpr double kPointsPerInch = 72;
+constexpr float kHeaderLines = 5.5F;  // of font 1
+constexpr float kFooterLines = 1.5F;  // of font 2
+constexpr float kSideMargin = 0.75F;  // inches from the paper's edges to header and body
+constexpr float kTopMargin = 0.5F;    // inches to the header, where there is room
+constexpr float kRuleGap = 0.3F;      // above the header's rule, in lines of font 2
+constexpr float kBodyGap = 1;         // below it to the body, in lines of font 1
+constexpr float kRuleWidth = 0.007F;  // inches
+constexpr float kFooterGap = 0.3F;    // above the footer, in lines of font 2
+
+constexpr int kTitleFont = 1;
+constexpr int kSmallFont = 2;
+constexpr int kSubtitleFont = 3;
+constexpr int kBodyFont = 4;
+
+constexpr std::string_view kTitleLine = "ORVIK 3.3";
+constexpr std::string_view kSubtitleLine = "Stormwater Harvesting Module";
+constexpr std::string_view kAuthorLine = "Prepared with the ORVIK pond design suite";
+
+std::string Digits(int value, std::size_t count) {
+  const std::string digits = std::to_string(value);
+  return std::string(digits.size() < count ? count - digits.size() : 0, '0') + digits;
+}
+
+// "11-21-2026    06:45:09"
+std::string DateAndTime(const ClockTime& time) {
+  return Digits(time.date.month, 2) + "-" + Digits(time.date.day, 2) + "-" +
+         Digits(time.date.year, 4) + "    " + Digits(time.hour, 2) + ":" + Digits(time.minute, 2) +
+         ":" + Digits(time.second, 2);
+}
+
+}  // namespace
+
+clsPageControl::clsPageControl(Desktop& desktop)
+    : time_(desktop.Now()),
+      versionText_(std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "." +
+                   std::to_string(kBuildNumber)) {}
+
+const clsFont& clsPageControl::Font(int index) const {
+  if (index < 1 || index > kFonts) throw SubscriptError();
+  return fonts_.at(static_cast<std::size_t>(index - 1));
+}
+
+void clsPageControl::SetPrinterFont(Printer& printer, const clsFont& font) {
+  orvik::Font applied;
+  applied.face = font.Name;
+  applied.pixelHeight =
+      ToInt16(static_cast<double>(font.Size) * printer.Resolution() / kPointsPerInch);
+  applied.bold = font.Bold;
+  applied.italic = font.Italic;
+  applied.underline = font.Underline;
+  applied.strikethrough = font.Strikethrough;
+  printer.SetFont(applied);
+  currentFont_ = font;
+}
+
+void clsPageControl::ReadyFonts(Printer& printer) {
+  fonts_ = {clsFont{"Arial", 11, true}, clsFont{"Arial", 8}, clsFont{"Arial", 10, true},
+            clsFont{"Arial", 10}};
+  for (std::size_t i = 0; i < fonts_.size(); ++i) {
+    SetPrinterFont(printer, fonts_[i]);
+    heights_[i] = printer.TextHeight("Ag");
+  }
+}
+
+void clsPageControl::GetPrintableMargins(const Printer& printer) {
+  const Area area = printer.PrintableArea();
+  const Size paper = printer.PaperSize();
+  printable_ = {static_cast<float>(area.left), static_cast<float>(area.right),
+                static_cast<float>(area.top), static_cast<float>(area.bottom)};
+  printableMargins_ = {printable_.Left, static_cast<float>(paper.width - area.right),
+                       printable_.Top, static_cast<float>(paper.height - area.bottom)};
+}
+
+void clsPageControl::EstimateFreeMargins(const Printer& printer) {
+  freeArea_ = {printable_.Left, printable_.Right,
+               printable_.Top + kHeaderLines * HeightOfFont(kTitleFont),
+               printable_.Bottom - kFooterLines * HeightOfFont(kSmallFont)};
+  const float side = kSideMargin * static_cast<float>(printer.Resolution());
+  const float paperWidth = printable_.Right + printableMargins_.Right;
+  body_ = freeArea_;
+  body_.Left = std::max(freeArea_.Left, side);
+  body_.Right = std::min(freeArea_.Right, paperWidth - side);
+}
+
+bool clsPageControl::Fits(float y, float height) const {
+  return y + height < freeArea_.Bottom;
+}
+
+// --- Header and footer ---
+
+void clsPageControl::PrintAt(Printer& printer, int font, float x, float y, std::string_view text) {
+  SetPrinterFont(printer, Font(font));
+  printer.MoveTo(x, y);
+  printer.Print(text);
+}
+
+void clsPageControl::PrintRight(Printer& printer, int font, float y, std::string_view text) {
+  SetPrinterFont(printer, Font(font));
+  PrintAt(printer, font, body_.Right - printer.TextWidth(text), y, text);
+}
+
+// Below the paper's own margin if the header then still ends above the body.
+float clsPageControl::HeaderTop(const Printer& printer) const {
+  const float height = (1 + kBodyGap) * HeightOfFont(kTitleFont) + HeightOfFont(kSubtitleFont) +
+                       (1 + kRuleGap) * HeightOfFont(kSmallFont);
+  const float wanted = kTopMargin * static_cast<float>(printer.Resolution());
+  return std::max(printable_.Top, std::min(wanted, freeArea_.Top - height));
+}
+
+void clsPageControl::Header_Print(Printer& printer, int page) {
+  PrintFooter(printer);
+  float y = HeaderTop(printer);
+  PrintAt(printer, kTitleFont, body_.Left, y, kTitleLine);
+  PrintRight(printer, kBodyFont, y, "Page " + std::to_string(page));
+  y += HeightOfFont(kTitleFont);
+  PrintAt(printer, kSubtitleFont, body_.Left, y, kSubtitleLine);
+  PrintRight(printer, kBodyFont, y, DateAndTime(time_));
+  y += HeightOfFont(kSubtitleFont);
+  PrintAt(printer, kSmallFont, body_.Left, y, "Version " + versionText_);
+  y += (1 + kRuleGap) * HeightOfFont(kSmallFont);
+
+  const float ruleWidth = std::max(1.0F, kRuleWidth * static_cast<float>(printer.Resolution()));
+  printer.FillArea({ToInt16(body_.Left), ToInt16(y), ToInt16(body_.Right), ToInt16(y + ruleWidth)},
+                   kBlack);
+  pageIsBlank_ = true;
+  printer.MoveTo(body_.Left, freeArea_.Top);
+}
+
+// The author's line on the left, and whose report it is on the right, shortened where it is longer
+// than the rest of the line: the page's sheet is known by it, the report has it in full.
+void clsPageControl::PrintFooter(Printer& printer) {
+  const float y = freeArea_.Bottom + kFooterGap * HeightOfFont(kSmallFont);
+  PrintAt(printer, kSmallFont, body_.Left, y, kAuthorLine);
+  const float gap = 2 * HeightOfFont(kSmallFont);
+  const float room = body_.Right - body_.Left - printer.TextWidth(kAuthorLine) - gap;
+  const auto width = [&](std::string_view text) { return printer.TextWidth(text); };
+  PrintRight(printer, kSmallFont, y, FitText(creditLine_, room, width));
+}
+
+// --- Pages and lines ---
+
+void clsPageControl::NewPage(Printer& printer) {
+  const clsFont font = currentFont_;
+  if (!pageIsBlank_) printer.NewPage();
+  Header_Print(printer, printer.PageNumber());
+  SetPrinterFont(printer, font);
+}
+
+void clsPageControl::PrintString(Printer& printer, float x, float& y, std::string_view text) {
+  if (!Fits(y, printer.TextHeight(text))) {
+    NewPage(printer);
+    y = printer.CurrentY();
+    SetPrinterFont(printer, currentFont_);
+  }
+  printer.MoveTo(x, y);
+  printer.Print(text);
+  pageIsBlank_ = false;
+}
+
+}  // namespace orvik
