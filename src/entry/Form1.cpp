@@ -1,7 +1,15 @@
 #include "entry/Form1.h"
 
+#include <algorithm>
+
 #include "base/ModuleVersion.h"
+#include "base/RuntimeErrors.h"
 #include "engine/ClimateStations.h"
+#include "printing/ProjectReport.h"
+#include "project/NumberInput.h"
+#include "shell/ChartCopy.h"
+#include "shell/MainWindowDesign.h"
+#include "shell/MainWindowTable.h"
 
 namespace orvik {
 namespace {
@@ -18,26 +26,46 @@ std::string VersionText() {
          std::string(build.size() < 4 ? 4 - build.size() : 0, '0') + build;
 }
 
+bool IsProjectFile(std::string_view path) {
+  constexpr std::string_view kExtension = ".kav";
+  if (path.size() < kExtension.size()) return false;
+  return std::ranges::equal(path.substr(path.size() - kExtension.size()), kExtension, {},
+                            [](char c) { return 'A' <= c && c <= 'Z' ? c - 'A' + 'a' : c; });
+}
+
+// The toolkit, told where the form's widgets lie.
+Toolkit& Designed(Toolkit& toolkit) {
+  toolkit.Design(MainWindowDesign::Get());
+  return toolkit;
+}
+
 }  // namespace
 
 Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
     : desktop_(desktop),
-      form_(toolkit, desktop),
+      form_(Designed(toolkit), desktop),
       ctrlStormwaterReuse1_(desktop, dataFolder),
+      chartWindow_(toolkit, "ctrlStormwaterReuse1", ctrlStormwaterReuse1_),
       interactive_(form_, ctrlStormwaterReuse1_),
       workflow_(form_, ctrlStormwaterReuse1_, interactive_),
       triggers_(form_, ctrlStormwaterReuse1_, workflow_, interactive_),
       file_(form_, ctrlStormwaterReuse1_, workflow_, desktop),
       files_(form_, workflow_, file_, desktop),
-      cmdReCalc_(toolkit, "cmdReCalc", "Recalculate", [this] { workflow_.ReCalc(); }),
-      cmdSaveExit_(toolkit, "cmdSaveExit", "Save and exit", [this] { cmdSaveExit_Click(); }),
-      cmdDiscardExit_(toolkit, "cmdDiscardExit", "Discard and exit",
+      pages_(toolkit, desktop, form_),
+      messageHelp_(toolkit, desktop, form_.txtErrMsg, dataFolder),
+      cmdReCalc_(toolkit, "cmdReCalc", ButtonCaption::kReCalc, [this] { workflow_.ReCalc(); }),
+      cmdSaveExit_(toolkit, "cmdSaveExit", ButtonCaption::kSaveExit,
+                   [this] { cmdSaveExit_Click(); }),
+      cmdDiscardExit_(toolkit, "cmdDiscardExit", ButtonCaption::kDiscardExit,
                       [this] { cmdDiscardExit_Click(); }) {
-  MakeCommands(toolkit);
+  MakeMenus(toolkit);
+  AnswerWindow();
+  files_.OnSaving = [this] { interactive_.PlaceAsStored(); };
+  files_.OnProjectReplaced = [this] { triggers_.ForgetChanges(); };
   Form_Load();
 }
 
-void Form1::MakeCommands(Toolkit& toolkit) {
+void Form1::MakeMenus(Toolkit& toolkit) {
   const auto make = [&](const char* name, const char* caption, std::function<void()> onClick) {
     auto item = toolkit.MakeMenuItem(name);
     item->Caption(caption);
@@ -45,15 +73,29 @@ void Form1::MakeCommands(Toolkit& toolkit) {
     return item;
   };
   mnuFile_ = make("mnuFile", "&File", {});
-  mnuFile_New_ = make("mnuFile_New", "&New", [this] { files_.New(); });
-  mnuFile_Open_ = make("mnuFile_Open", "&Open...", [this] { files_.Open(); });
-  mnuFile_Save_ = make("mnuFile_Save", "&Save", [this] { files_.Save(); });
+  mnuFile_New_ = make("mnuFile_New", "&New\tCtrl+N", [this] { files_.New(); });
+  mnuFile_Open_ = make("mnuFile_Open", "&Open...\tCtrl+O", [this] {
+    files_.Open();
+    ctrlStormwaterReuse1_.Refresh();
+  });
+  mnuFile_Save_ = make("mnuFile_Save", "&Save\tCtrl+S", [this] { files_.Save(); });
   mnuFile_SaveAs_ = make("mnuFile_SaveAs", "Save &As...", [this] { files_.SaveAs(); });
+  mnuFile_Print_ = make("mnuFile_Print", "&Print\tCtrl+P", [this] { PrintCurrentProject(); });
   mnuReturn_ = make("mnuReturn", "&Return", {});
   mnuReturn_Save_ = make("mnuReturn_Save", "&Save and exit", [this] { cmdSaveExit_Click(); });
   mnuReturn_Discard_ =
       make("mnuReturn_Discard", "&Discard and exit", [this] { cmdDiscardExit_Click(); });
+  mnuReCalc_ = make("mnuReCalc", "&Recalculate\tF5", [this] { workflow_.ReCalc(); });
+}
+
+void Form1::AnswerWindow() {
   form_.window->OnQueryUnload = [this](bool& cancel) { Form_QueryUnload(cancel); };
+  form_.window->OnAccept = [this] {
+    if (form_.picData->Visible()) workflow_.ReCalc();
+  };
+  chartWindow_.OnCopy = [this] { CopyChart(ctrlStormwaterReuse1_, desktop_); };
+  chartWindow_.ReadAloud = [this] { return SpokenChart(ctrlStormwaterReuse1_); };
+  form_.window->OnDropFile = [this](const std::string& path) { OpenDropped(path); };
 }
 
 void Form1::Form_Load() {
@@ -80,6 +122,48 @@ void Form1::Mode(std::int16_t mode) {
   cmdDiscardExit_.Place().Visible(isInHost);
 }
 
+void Form1::TakeBasin(const std::string& area, const std::string& runoffCoefficient) {
+  form_.txtBasinArea.Text(area);
+  form_.txtRunoffCoefficient.Text(runoffCoefficient);
+  triggers_.txtBasinArea_Process_CR();
+}
+
+// --- Printing ---
+
+void Form1::PrintCurrentProject() {
+  triggers_.ProcessChanges();  // the report shows what is in the fields, calculated
+  PrintOn(desktop_.OpenPrinter().get());
+}
+
+void Form1::PrintOn(Printer* printer) {
+  const DocumentStart start =
+      printer ? printer->StartDocument(ReportTitle()) : DocumentStart::Unreachable;
+  if (start == DocumentStart::Unreachable) {
+    desktop_.ShowMessage("Unable to establish connection with printer.", "Error",
+                         MessageIcon::Exclamation);
+  }
+  if (start != DocumentStart::Started) return;
+  try {
+    PrintDoc(*printer);
+    printer->EndDocument();
+  } catch (const PrinterError&) {
+    return;  // the system tells the user about its printers; the job is given up as a whole
+  } catch (const NumericError& fault) {
+    desktop_.ShowMessage("The report cannot be printed. " + NumericFaultSentence(fault), "Error",
+                         MessageIcon::Exclamation);
+  }
+}
+
+void Form1::PrintDoc(Printer& printer) {
+  ProjectReport(form_, ctrlStormwaterReuse1_, desktop_).PrintDoc(printer);
+}
+
+std::string Form1::ReportTitle() {
+  return ProjectReport(form_, ctrlStormwaterReuse1_, desktop_).Title();
+}
+
+// --- Leaving ---
+
 void Form1::cmdSaveExit_Click() {
   Leave(kSave);
 }
@@ -92,6 +176,18 @@ void Form1::Leave(std::int16_t returnCode) {
   returnCode_ = returnCode;
   exitDecided_ = true;
   form_.window->Visible(false);
+}
+
+// As File/Open does once the file is chosen. In a host project there are no files. Another kind of
+// file must not cost the user the project that is open.
+void Form1::OpenDropped(const std::string& path) {
+  if (mode_ != kStandAlone) return;
+  if (!IsProjectFile(path)) {
+    return desktop_.ShowMessage("Only a project file (*.kav) can be opened here.", "Error",
+                                MessageIcon::Exclamation);
+  }
+  files_.OpenProject(path);
+  ctrlStormwaterReuse1_.Refresh();
 }
 
 // Closing always leaves the window; only a host must still learn whether to keep the work.

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "chart/HostedChart.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "controls/HostedButton.h"
 #include "entry/ProjectResults.h"
@@ -17,6 +18,8 @@
 #include "project/ProjectForm.h"
 #include "project/RecalculationTriggers.h"
 #include "project/SolveForWorkflow.h"
+#include "shell/MainWindowPages.h"
+#include "shell/MessageHelp.h"
 
 namespace orvik {
 
@@ -34,9 +37,31 @@ class Form1 {
   std::int16_t Mode() const { return mode_; }
   void Mode(std::int16_t mode);
 
+  // Shows the window and waits until the user leaves it.
+  void ShowModally() { form_.window->ShowModally(); }
+
+  // The basin of the host's own project: area (acres) and runoff coefficient. What was solved for
+  // another basin is solved anew.
+  void TakeBasin(const std::string& area, const std::string& runoffCoefficient);
+
   // 1 = save the work back to the host, 0 = discard it.
   std::int16_t ReturnCode() const { return returnCode_; }
   void ReturnCode(std::int16_t code) { returnCode_ = code; }
+
+  // The File menu's Print command: the report on the user's default printer. A message where there
+  // is no connection with it and where the page does not fit the numbers of the report; a printer
+  // that fails later ends the job without one.
+  void PrintCurrentProject();
+
+  // The report as a document of its own, with the same messages; `printer` may be null.
+  void PrintOn(Printer* printer);
+
+  // The report on a printer whose document has been started. Ending it is the caller's. Throws
+  // PrinterError, and NumericError for a page that is more than 16-bit pixels wide or high.
+  void PrintDoc(Printer& printer);
+
+  // What the document with the report is called.
+  std::string ReportTitle();
 
   // The results for the host, as text; see ProjectResults.
   std::string ReuseRate() { return ReuseRateResult(form_); }          // gallons per day
@@ -49,32 +74,40 @@ class Form1 {
   ProjectFile& File() { return file_; }
   SolveForWorkflow& Workflow() { return workflow_; }
   InteractiveSynchronisation& Interactive() { return interactive_; }
+  MainWindowPages& Pages() { return pages_; }
 
  private:
-  void MakeCommands(Toolkit& toolkit);
+  void MakeMenus(Toolkit& toolkit);
+  void AnswerWindow();
   void Form_Load();
   void Form_QueryUnload(bool& cancel);
   void cmdSaveExit_Click();
   void cmdDiscardExit_Click();
   void Leave(std::int16_t returnCode);
+  void OpenDropped(const std::string& path);
 
   Desktop& desktop_;
   ProjectForm form_;
   ctrlStormwaterReuse ctrlStormwaterReuse1_;
+  HostedChart chartWindow_;
   InteractiveSynchronisation interactive_;
   SolveForWorkflow workflow_;
   RecalculationTriggers triggers_;
   ProjectFile file_;
   FileCommands files_;
+  MainWindowPages pages_;
+  MessageHelp messageHelp_;
 
   std::unique_ptr<MenuItem> mnuFile_;
   std::unique_ptr<MenuItem> mnuFile_New_;
   std::unique_ptr<MenuItem> mnuFile_Open_;
   std::unique_ptr<MenuItem> mnuFile_Save_;
   std::unique_ptr<MenuItem> mnuFile_SaveAs_;
+  std::unique_ptr<MenuItem> mnuFile_Print_;
   std::unique_ptr<MenuItem> mnuReturn_;
   std::unique_ptr<MenuItem> mnuReturn_Save_;
   std::unique_ptr<MenuItem> mnuReturn_Discard_;
+  std::unique_ptr<MenuItem> mnuReCalc_;
   HostedButton cmdReCalc_;
   HostedButton cmdSaveExit_;
   HostedButton cmdDiscardExit_;

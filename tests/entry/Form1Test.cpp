@@ -1,5 +1,6 @@
 #include "engine/ClimateStations.h"
 #include "support/FormFixture.h"
+#include "support/ProjectText.h"
 
 namespace orvik {
 namespace {
@@ -119,6 +120,55 @@ TEST_F(Form1Test, ClosingStandAloneAsksNothingAndKeepsTheReturnCode) {
   EXPECT_EQ(form_->ReturnCode(), 0);
 }
 
+// What was typed last counts, although the field is not left: a host must not get the results of
+// other numbers.
+TEST_F(Form1Test, LeavingByTheMenuOrTheFrameSolvesForWhatWasTypedLast) {
+  for (const bool byMenu : {true, false}) {
+    form_ = std::make_unique<Form1>(toolkit_, desktop_, folder_.Path());
+    form_->Mode(2);
+    SolveForEfficiency();
+    const std::string before = form_->Efficiency();
+    Type("txtSolveFor(1)", "1.5");
+    desktop_.AnswerYes(true);
+    byMenu ? toolkit_.ClickMenu("mnuReturn_Save") : void(toolkit_.CloseByFrame("Form1"));
+    EXPECT_EQ(form_->ReturnCode(), 1);
+    EXPECT_EQ(form_->StorageVolume(), "1.5");
+    EXPECT_EQ(Text("txtV"), "3.6");  // 1.5 ac-ft x 12 / 5 ac
+    EXPECT_NE(form_->Efficiency(), before);
+  }
+}
+
+// --- Dropped files ---
+
+TEST_F(Form1Test, ADroppedProjectIsOpened) {
+  for (const char* name : {"pond.kav", "POND2.KAV"}) {
+    const std::string path = folder_.Write(name, test::ProjectText());
+    toolkit_.DropFile("Form1", path);
+    EXPECT_EQ(form_->Files().CurrentPath(), path);
+    EXPECT_EQ(Text("txtBasinArea"), "10");
+  }
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(Form1Test, AnotherDroppedFileIsRefusedAndLosesNothing) {
+  Type("txtBasinArea", "7");
+  for (const char* name : {"pond.txt", "kav", "", "pond.kav.bak"}) {
+    desktop_.ForgetMessages();
+    toolkit_.DropFile("Form1", name);
+    EXPECT_EQ(Text("txtBasinArea"), "7") << name;
+    ASSERT_EQ(desktop_.Messages().size(), 1U) << name;
+    EXPECT_EQ(desktop_.Messages()[0].text, "Only a project file (*.kav) can be opened here.");
+  }
+}
+
+TEST_F(Form1Test, InAHostProjectNothingCanBeDropped) {
+  form_->Mode(2);
+  Type("txtBasinArea", "7");
+  toolkit_.DropFile("Form1", folder_.Write("pond.kav", test::ProjectText()));
+  EXPECT_EQ(Text("txtBasinArea"), "7");
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
 // --- Results for the host ---
 
 TEST_F(Form1Test, ResultsOfEachMode) {
@@ -134,6 +184,29 @@ TEST_F(Form1Test, ResultsOfEachMode) {
     EXPECT_EQ(form_->Efficiency(), E) << mode;
     EXPECT_NEAR(ParseNumber(form_->StorageVolume()), 1.25, 1e-3) << mode;
   }
+}
+
+TEST_F(Form1Test, EscDuringADragOverTheChartBringsTheNumbersBack) {
+  TypeSite();
+  auto& chart = toolkit_.Find<HeadlessControlHost>("ctrlStormwaterReuse1");
+  chart.OnMouseDown(1, 480, 434);
+  chart.OnMouseUp(1, 480, 434);
+  const std::vector fields{"txtR",           "txtV",           "txtE",
+                           "txtSolveFor(1)", "txtSolveFor(2)", "txtSolveFor(3)"};
+  const auto texts = [&] {
+    std::vector<std::string> shown;
+    shown.reserve(fields.size());
+    for (const char* field : fields) shown.push_back(Text(field));
+    return shown;
+  };
+  const std::vector<std::string> before = texts();
+  EXPECT_THAT(before, testing::Not(testing::Contains("")));
+  chart.OnMouseDown(1, 600, 450);
+  chart.OnMouseMove(640, 470);
+  EXPECT_NE(Text("txtR"), before.front());
+  chart.OnKeyDown(27);
+  EXPECT_EQ(texts(), before);
+  EXPECT_EQ(Message(), "");
 }
 
 TEST_F(Form1Test, ResultsAreEmptyWithoutAMode) {

@@ -8,13 +8,15 @@
 #include <string>
 #include <string_view>
 
+#include "platform/win32/WideText.h"
+
 namespace orvik::com {
 
 // A null BSTR is the empty text.
 std::string Utf8FromBstr(BSTR text);
 
-std::string Utf8FromWide(std::wstring_view text);
-std::wstring WideFromUtf8(std::string_view text);
+using orvik::Utf8FromWide;
+using orvik::WideFromUtf8;
 
 // An owned BSTR.
 class Bstr {

@@ -5,8 +5,8 @@
 #include <windows.h>
 
 #include "entry/com/ClassTable.h"
-#include "entry/com/Module.h"
-#include "entry/com/ReferenceCount.h"
+#include "platform/win32/ModuleUse.h"
+#include "platform/win32/ReferenceCount.h"
 
 namespace orvik::com {
 

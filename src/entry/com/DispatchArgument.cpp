@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "entry/com/ComError.h"
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 
 namespace orvik::com {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "entry/com/DispatchCall.h"
 #include "entry/com/LateBinding.h"
-#include "entry/com/Module.h"
-#include "entry/com/ReferenceCount.h"
+#include "platform/win32/ModuleUse.h"
+#include "platform/win32/ReferenceCount.h"
 
 namespace orvik::com {
 

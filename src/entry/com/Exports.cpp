@@ -7,9 +7,9 @@
 
 #include "entry/com/ClassFactory.h"
 #include "entry/com/ComError.h"
-#include "entry/com/Module.h"
 #include "entry/com/Registration.h"
 #include "entry/com/Wall.h"
+#include "platform/win32/ModuleUse.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) {
 }
 
 STDAPI DllCanUnloadNow() {
-  return ModuleUse::IsFree() ? S_OK : S_FALSE;
+  return orvik::ModuleUse::IsFree() ? S_OK : S_FALSE;
 }
 
 STDAPI DllRegisterServer() {

@@ -3,7 +3,6 @@
 #include "entry/com/ComError.h"
 
 namespace orvik::com {
-namespace {
 
 // An address inside this module tells the loader which module is meant.
 HMODULE ThisModule() {
@@ -15,8 +14,6 @@ HMODULE ThisModule() {
   }
   return module;
 }
-
-}  // namespace
 
 std::wstring ModulePath() {
   const HMODULE module = ThisModule();

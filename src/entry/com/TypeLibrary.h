@@ -3,7 +3,7 @@
 
 #include <ole2.h>
 
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 
 namespace orvik::com {
 

@@ -1,0 +1,22 @@
+// The folders that the module works with, settled once while it is loaded.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Desktop.h"
+
+namespace orvik {
+
+// Each ends with a path separator.
+struct ModuleFolders {
+  std::string application;  // of the module's own file: curves and help lie there
+  std::string documents;    // the user's; empty where there is none
+  std::string suite;        // "ORVIK33" below it; empty where it can neither be found nor made
+  std::string module;       // "StormwaterReuse" below that, likewise
+};
+
+// Makes the folders that are not there yet. What cannot be made is left empty, silently.
+ModuleFolders SettleFolders(std::string_view applicationFolder, Desktop& desktop);
+
+}  // namespace orvik

@@ -1,0 +1,18 @@
+#include "entry/com/LoadedModule.h"
+
+#include "base/Paths.h"
+#include "entry/com/Bstr.h"
+#include "entry/com/Module.h"
+#include "platform/win32/NativeDesktop.h"
+#include "platform/win32/NativeToolkit.h"
+
+namespace orvik::com {
+
+ReuseModule& LoadedReuseModule() {
+  static NativeDesktop desktop(ThisModule());
+  static ReuseModule module(FolderOf(Utf8FromWide(ModulePath())), desktop,
+                            [] { return std::make_unique<NativeToolkit>(ThisModule()); });
+  return module;
+}
+
+}  // namespace orvik::com

@@ -1,0 +1,379 @@
+// The entry object without a screen: what the user does while the window is shown stands in a
+// function.
+#include <algorithm>
+#include <thread>
+
+#include "base/Paths.h"
+#include "entry/clsStReuse.h"
+#include "platform/recording/RecordingPrinter.h"
+#include "support/FormFixture.h"
+#include "support/ProjectText.h"
+
+namespace orvik {
+namespace {
+
+using test::ProjectLines;
+using test::ProjectText;
+
+// Hands the window's toolkit to the test; the test's one lives on when the window goes.
+class SharedToolkit final : public Toolkit {
+ public:
+  explicit SharedToolkit(HeadlessToolkit& shared) : shared_(shared) {}
+  void Design(const FormDesign& design) override { shared_.Design(design); }
+  std::unique_ptr<Window> MakeWindow(std::string_view n) override { return shared_.MakeWindow(n); }
+  std::unique_ptr<TextBox> MakeTextBox(std::string_view n) override {
+    return shared_.MakeTextBox(n);
+  }
+  std::unique_ptr<ComboBox> MakeComboBox(std::string_view n) override {
+    return shared_.MakeComboBox(n);
+  }
+  std::unique_ptr<Label> MakeLabel(std::string_view n) override { return shared_.MakeLabel(n); }
+  std::unique_ptr<Panel> MakePanel(std::string_view n) override { return shared_.MakePanel(n); }
+  std::unique_ptr<OptionButton> MakeOptionButton(std::string_view n) override {
+    return shared_.MakeOptionButton(n);
+  }
+  std::unique_ptr<MenuItem> MakeMenuItem(std::string_view n) override {
+    return shared_.MakeMenuItem(n);
+  }
+  std::unique_ptr<ControlHost> MakeControlHost(std::string_view n) override {
+    return shared_.MakeControlHost(n);
+  }
+  std::unique_ptr<Timer> MakeTimer() override { return shared_.MakeTimer(); }
+
+ private:
+  HeadlessToolkit& shared_;
+};
+
+class clsStReuseTest : public testing::Test {
+ protected:
+  clsStReuseTest() {
+    folder_.Write("KAV Data/Tampa.crv", test::LogarithmicCurves().Text());
+    MakeDirectory(folder_ / "Documents");
+    desktop_.DocumentsFolder(folder_ / "Documents");
+  }
+
+  static bool HasText(const RecordingPrinter& printer, std::string_view text) {
+    return std::ranges::any_of(printer.Calls(), [&](const std::string& call) {
+      return call.find(text) != std::string::npos;
+    });
+  }
+
+  // Shows the window; `user` acts while it is open.
+  std::int16_t Show(std::int16_t mode, std::function<void()> user) {
+    if (!module_.HasWindow()) module_.Window();
+    toolkit_.Find<HeadlessWindow>("Form1").OnShown = [this, user = std::move(user)] {
+      wasShown_ = true;
+      user();
+    };
+    return entry_.Show(mode, p1_, p2_, p3_);
+  }
+  std::int16_t ShowAndSave() {
+    return Show(2, [this] { toolkit_.ClickButton("cmdSaveExit"); });
+  }
+
+  test::TempFolder folder_;
+  HeadlessDesktop desktop_;
+  HeadlessToolkit toolkit_;
+  ReuseModule module_{folder_.Path(), desktop_,
+                      [this] { return std::make_unique<SharedToolkit>(toolkit_); }};
+  clsStReuse entry_{module_};
+  bool wasShown_ = false;
+  std::string p1_ = "host's own";
+  std::string p2_;
+  std::string p3_;
+};
+
+// --- Saving and discarding ---
+
+// E = 60 and Q = 0.875 in/week on 5 of 5 ac: R = 0.125, so ln V = (60 - 50 - 400 x 0.125 + 60) / 20
+// = 1 and V = e in, which is e / 12 x 5 = 1.132617 ac-ft; 16971.43 gallons a day.
+TEST_F(clsStReuseTest, SavingHandsBackTheProjectAndThreeLinesOfResults) {
+  p3_ = ProjectText();
+  EXPECT_EQ(ShowAndSave(), 1);
+  const auto results = test::Lines(p2_ + "\r\n");
+  ASSERT_EQ(results.size(), 3U) << p2_;
+  EXPECT_NEAR(ParseNumber(results[0]), 16971.43, 0.01);
+  EXPECT_EQ(results[1], "60");
+  // V is sought until R agrees to 1e-5 in/day, where R falls by 0.05 / V for each inch.
+  EXPECT_NEAR(ParseNumber(results[2]), std::exp(1.0) / 12 * 5, 2.5e-4);
+  EXPECT_EQ(p3_, ProjectText());
+  EXPECT_EQ(p1_, "host's own");
+  EXPECT_FALSE(module_.HasWindow()) << "unloaded";
+}
+
+TEST_F(clsStReuseTest, TheResultIsWhatTheUserMadeOfTheProject) {
+  p3_ = ProjectText();
+  EXPECT_EQ(Show(2,
+                 [this] {
+                   toolkit_.Type("txtProjectName", "Lake é");
+                   toolkit_.Type("txtSolveFor(1)", "70");
+                   toolkit_.PressKey("txtSolveFor(1)", '\r');
+                   toolkit_.ClickMenu("mnuReturn_Save");
+                 }),
+            1);
+  auto expected = ProjectLines();
+  expected[2] = "Lake é";
+  expected[14] = "70";
+  EXPECT_EQ(p3_, ProjectText(expected));
+  EXPECT_EQ(test::Lines(p2_)[1], "70");
+}
+
+TEST_F(clsStReuseTest, DiscardingLeavesTheTextsAsTheyWere) {
+  p2_ = "1\r\n0.5";
+  p3_ = "";
+  EXPECT_EQ(Show(2, [this] { toolkit_.ClickButton("cmdDiscardExit"); }), 0);
+  EXPECT_EQ(p2_, "1\r\n0.5");
+  EXPECT_EQ(p3_, "");
+}
+
+TEST_F(clsStReuseTest, ClosingByTheFrameSavesOnlyAfterYes) {
+  for (const bool yes : {true, false}) {
+    p3_ = ProjectText();
+    p2_ = "";
+    desktop_.AnswerYes(yes);
+    EXPECT_EQ(Show(2, [this] { toolkit_.CloseByFrame("Form1"); }), yes ? 1 : 0);
+    EXPECT_EQ(p2_.empty(), !yes);
+  }
+}
+
+TEST_F(clsStReuseTest, AnEmptyProjectTextOpensOnDefaultData) {
+  EXPECT_EQ(Show(2,
+                 [this] {
+                   EXPECT_EQ(toolkit_.Text("txtBasinArea"), "");
+                   EXPECT_EQ(toolkit_.Text("txtErrMsg"), "");
+                   EXPECT_TRUE(toolkit_.IsVisible("mnuReturn"));
+                   toolkit_.ClickButton("cmdDiscardExit");
+                 }),
+            0);
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(clsStReuseTest, NoiseAsAProjectIsToldAndTheWindowOpens) {
+  p3_ = "noise";
+  bool shown = false;
+  EXPECT_EQ(Show(2, [&] { shown = true; }), 0);
+  EXPECT_TRUE(shown);
+  ASSERT_EQ(desktop_.Messages().size(), 2U);
+  EXPECT_EQ(desktop_.Messages()[1],
+            (HeadlessDesktop::Message{"Error reading data.", "Error", MessageIcon::Exclamation}));
+  EXPECT_EQ(p3_, "noise");
+}
+
+TEST_F(clsStReuseTest, AProjectWithoutResultsSavesWithEmptyLines) {
+  EXPECT_EQ(ShowAndSave(), 1);
+  EXPECT_EQ(p2_, "\r\n\r\n");
+  EXPECT_EQ(test::Lines(p3_)[0], "KAV3.3.01");
+}
+
+TEST_F(clsStReuseTest, AnotherModeThanTheTwoReadsTheTextsAsAHostsProject) {
+  p3_ = ProjectText();
+  EXPECT_EQ(Show(3, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), "Pond"); }), 0);
+}
+
+// --- The host's basin ---
+
+TEST_F(clsStReuseTest, TheHostsBasinTakesThePlaceOfTheProjects) {
+  for (const char* separator : {"\r\n", "\n", "\r"}) {
+    p3_ = ProjectText();
+    p2_ = std::string("20") + separator + "0.25" + separator;
+    EXPECT_EQ(Show(2,
+                   [this] {
+                     EXPECT_EQ(toolkit_.Text("txtBasinArea"), "20");
+                     EXPECT_EQ(toolkit_.Text("txtRunoffCoefficient"), "0.25");
+                     EXPECT_EQ(toolkit_.Text("txtEquivalentImperviousArea"), "5");
+                   }),
+              0);
+  }
+}
+
+TEST_F(clsStReuseTest, WhatWasSolvedForAnotherBasinIsSolvedAnew) {
+  p3_ = ProjectText();
+  p2_ = "20\r\n0.5";  // EIA 10 ac: half the R, so ln V = (70 - 25) / 20 = 2.25 and V = 9.49 in
+  EXPECT_EQ(ShowAndSave(), 1);
+  EXPECT_EQ(test::Lines(p3_)[11], "20");
+  EXPECT_TRUE(p2_.ends_with("\r\n")) << "beyond the chart: no volume, above all not the old one";
+}
+
+TEST_F(clsStReuseTest, ASingleItemSetsNeitherBasinFieldNorCoefficient) {
+  for (const char* single : {"20", "20\r\n", ""}) {
+    p3_ = ProjectText();
+    p2_ = single;
+    EXPECT_EQ(Show(2,
+                   [this] {
+                     EXPECT_EQ(toolkit_.Text("txtBasinArea"), "10");
+                     EXPECT_EQ(toolkit_.Text("txtRunoffCoefficient"), "0.5");
+                   }),
+              0);
+  }
+}
+
+TEST_F(clsStReuseTest, ItemsThatAreNoNumbersStandInTheFieldsAndAreTold) {
+  p2_ = "wide\r\nbig\r\nmore";
+  p3_ = ProjectText();
+  EXPECT_EQ(Show(2,
+                 [this] {
+                   EXPECT_EQ(toolkit_.Text("txtBasinArea"), "wide");
+                   toolkit_.PressKey("txtBasinArea", '\r');
+                   toolkit_.ClickButton("cmdReCalc");
+                   EXPECT_EQ(toolkit_.Text("txtErrMsg"), "The basin area is not numeric.");
+                 }),
+            0);
+}
+
+// --- Stand-alone ---
+
+TEST_F(clsStReuseTest, StandAloneOpensTheFileThatIsNamed) {
+  p2_ = folder_.Write("pond.kav", ProjectText());
+  p3_ = "not looked at";
+  EXPECT_EQ(Show(1,
+                 [this] {
+                   EXPECT_EQ(toolkit_.Text("txtProjectName"), "Pond");
+                   EXPECT_EQ(toolkit_.Caption("Form1"), "ORVIK 3.3 KAV - pond.kav");
+                   EXPECT_TRUE(toolkit_.IsVisible("mnuFile"));
+                   toolkit_.CloseByFrame("Form1");
+                 }),
+            0);
+  EXPECT_EQ(p3_, "not looked at");
+}
+
+TEST_F(clsStReuseTest, StandAloneIgnoresAFileThatIsNotThere) {
+  p2_ = folder_ / "missing.kav";
+  EXPECT_EQ(Show(1, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(clsStReuseTest, StandAloneTellsOfAFileThatCannotBeRead) {
+  p2_ = folder_.Write("pond.kav", "Dear Sir,\r\n");
+  EXPECT_EQ(Show(1, [] {}), 0);
+  ASSERT_FALSE(desktop_.Messages().empty());
+  EXPECT_EQ(desktop_.Messages().back().text, "Error reading data file.");
+}
+
+TEST_F(clsStReuseTest, FileDialogsStartInTheModulesFolder) {
+  EXPECT_EQ(Show(1, [this] { toolkit_.ClickMenu("mnuFile_Open"); }), 0);
+  ASSERT_EQ(desktop_.FileDialogs().size(), 1U);
+  EXPECT_EQ(desktop_.FileDialogs()[0].startFolder, module_.Folders().module);
+  EXPECT_TRUE(FolderExists(module_.Folders().module));
+}
+
+// --- One window ---
+
+TEST_F(clsStReuseTest, ASecondCallWhileTheWindowIsOpenIsRefusedAndHarmsNothing) {
+  p3_ = ProjectText();
+  clsStReuse second(module_);
+  EXPECT_EQ(Show(2,
+                 [&] {
+                   std::string a;
+                   std::string b;
+                   std::string c;
+                   EXPECT_THROW(second.Show(2, a, b, c), WindowBusyError);
+                   EXPECT_EQ(toolkit_.Text("txtProjectName"), "Pond");
+                   toolkit_.ClickButton("cmdSaveExit");
+                 }),
+            1);
+  EXPECT_EQ(p3_, ProjectText());
+  EXPECT_EQ(ShowAndSave(), 1) << "free again";
+}
+
+TEST_F(clsStReuseTest, AWindowLeftFromPrintingOpensOnDefaultData) {
+  module_.Window().Files().ReadFile(ProjectText());
+  EXPECT_EQ(Show(2, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
+}
+
+TEST_F(clsStReuseTest, AnotherThreadIsRefusedTheWindow) {
+  module_.Window();
+  std::thread([this] { EXPECT_THROW(entry_.Show(2, p1_, p2_, p3_), WindowThreadError); }).join();
+  EXPECT_EQ(ShowAndSave(), 1);
+}
+
+TEST_F(clsStReuseTest, AnIdleWindowIsUnloadedByItsOwnThreadOnly) {
+  module_.Window();
+  std::thread([this] { module_.UnloadIdleWindow(); }).join();
+  EXPECT_TRUE(module_.HasWindow());
+  module_.UnloadIdleWindow();
+  EXPECT_FALSE(module_.HasWindow());
+  EXPECT_EQ(Show(2, [this] { module_.UnloadIdleWindow(); }), 0) << "it is not idle while it shows";
+}
+
+// --- Remote printing ---
+
+TEST_F(clsStReuseTest, PrintsAProjectWithoutShowingTheWindow) {
+  for (const char* round : {"first", "again"}) {
+    RecordingPrinter printer;
+    entry_.Print_Remote(&printer, 2, "", ProjectText());
+    EXPECT_TRUE(printer.HasEnded()) << round;
+    EXPECT_EQ(printer.PageNumber(), 2) << round;
+    EXPECT_TRUE(HasText(printer, "Pond")) << round;
+    EXPECT_FALSE(wasShown_) << round;
+    EXPECT_TRUE(module_.HasWindow()) << "left loaded";
+  }
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(clsStReuseTest, PrintsBeforeAndAfterShowing) {
+  RecordingPrinter before;
+  entry_.Print_Remote(&before, 2, "", ProjectText());
+  p3_ = "";
+  EXPECT_EQ(Show(2, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
+  RecordingPrinter after;
+  entry_.Print_Remote(&after, 2, "", ProjectText());
+  EXPECT_EQ(after.Calls().size(), before.Calls().size());
+}
+
+TEST_F(clsStReuseTest, PrintsAnEmptyProjectForAnEmptyText) {
+  RecordingPrinter first;
+  entry_.Print_Remote(&first, 2, "", ProjectText());
+  RecordingPrinter printer;
+  entry_.Print_Remote(&printer, 2, "", "");
+  EXPECT_TRUE(printer.HasEnded());
+  EXPECT_FALSE(HasText(printer, "Pond")) << "the project that was printed before is gone";
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
+TEST_F(clsStReuseTest, ATextThatIsNoProjectIsTold) {
+  RecordingPrinter printer;
+  entry_.Print_Remote(&printer, 2, "", "noise");
+  EXPECT_EQ(desktop_.Messages().back().text, "Error reading data.");
+}
+
+TEST_F(clsStReuseTest, WithoutAPrinterTheUserIsTold) {
+  entry_.Print_Remote(nullptr, 2, "", ProjectText());
+  ASSERT_EQ(desktop_.Messages().size(), 1U);
+  EXPECT_EQ(desktop_.Messages()[0],
+            (HeadlessDesktop::Message{"Unable to establish connection with printer.", "Error",
+                                      MessageIcon::Exclamation}));
+}
+
+TEST_F(clsStReuseTest, PrintingWhileTheWindowIsOpenIsRefused) {
+  EXPECT_EQ(Show(2,
+                 [this] {
+                   RecordingPrinter printer;
+                   EXPECT_THROW(entry_.Print_Remote(&printer, 2, "", ""), WindowBusyError);
+                 }),
+            0);
+}
+
+// --- Folders ---
+
+TEST_F(clsStReuseTest, MakeDirectoryMakesOneLevelOnce) {
+  EXPECT_TRUE(entry_.MakeDirectory(folder_ / "é new"));
+  EXPECT_TRUE(FolderExists(folder_ / "é new"));
+  EXPECT_FALSE(entry_.MakeDirectory(folder_ / "é new")) << "there already";
+  EXPECT_FALSE(entry_.MakeDirectory(folder_ / "a/b")) << "two levels";
+  EXPECT_FALSE(entry_.MakeDirectory(folder_.Write("file", "x"))) << "a file of that name";
+  EXPECT_FALSE(entry_.MakeDirectory(""));
+  EXPECT_FALSE(entry_.MakeDirectory(folder_ / std::string("cut\0off", 7))) << "a NUL";
+  EXPECT_FALSE(FolderExists(folder_ / "cut"));
+}
+
+TEST(SplitLines, EndsLinesAtEveryKindOfLineEnd) {
+  using Items = std::vector<std::string>;
+  EXPECT_EQ(SplitLines("a\r\nb\nc\rd"), (Items{"a", "b", "c", "d"}));
+  EXPECT_EQ(SplitLines("a\r\n"), Items{"a"});
+  EXPECT_EQ(SplitLines("\r\nb"), (Items{"", "b"}));
+  EXPECT_EQ(SplitLines("a\n\rb"), (Items{"a", "", "b"}));
+  EXPECT_EQ(SplitLines(""), Items{});
+}
+
+}  // namespace
+}  // namespace orvik

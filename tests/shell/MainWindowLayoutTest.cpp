@@ -1,0 +1,196 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+#include "shell/MainWindowLayout.h"
+#include "shell/MainWindowTable.h"
+
+namespace orvik {
+namespace {
+
+// Letters of one width, as wide as the widest message fonts have them on the average.
+TextMeasures MeasuresAt(int dpi) {
+  TextMeasures measures;
+  measures.dpi = dpi;
+  measures.lineHeight = measures.Scale(15);
+  const int letter = measures.Scale(6);
+  measures.width = [letter](std::string_view text) {
+    return letter * static_cast<int>(text.size());
+  };
+  return measures;
+}
+
+struct Screen {
+  Size inner;
+  int dpi;
+};
+
+// Inner sizes of windows from 900 x 600 to a 4K screen, at the scalings in which they have room.
+std::vector<Screen> Screens() {
+  std::vector<Screen> screens;
+  for (const int dpi : {96, 120, 144, 168, 192, 240, 288}) {
+    const Size least = MinimumMainWindow(MeasuresAt(dpi));
+    for (const Size outer : {Size{900, 600}, Size{1024, 768}, Size{1366, 728}, Size{1920, 1040},
+                             Size{2560, 1400}, Size{3840, 2160}, Size{3840, 1200}}) {
+      const Size inner{outer.width - 16, outer.height - 60};  // frame, caption and menu bar
+      const bool hasRoom = inner.width >= least.width && inner.height >= least.height;
+      if (hasRoom) screens.push_back({inner, dpi});
+    }
+    screens.push_back({least, dpi});
+  }
+  return screens;
+}
+
+std::map<std::string, Area> Places(const Screen& screen) {
+  std::map<std::string, Area> places;
+  for (const Placement& place : LayOutMainWindow(screen.inner, MeasuresAt(screen.dpi))) {
+    EXPECT_TRUE(places.emplace(place.name, place.area).second) << place.name << " has two places";
+  }
+  return places;
+}
+
+std::string Name(const Screen& screen) {
+  return std::to_string(screen.inner.width) + " x " + std::to_string(screen.inner.height) + " at " +
+         std::to_string(screen.dpi) + " dpi";
+}
+
+bool Overlap(const Area& a, const Area& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+bool IsMenu(const WidgetDesign& widget) {
+  return widget.name.starts_with("mnu");
+}
+
+TEST(MainWindowLayout, EveryWidgetHasAPlaceWithArea) {
+  for (const Screen& screen : Screens()) {
+    const auto places = Places(screen);
+    for (const WidgetDesign& widget : MainWindowWidgets()) {
+      if (IsMenu(widget)) continue;
+      const auto place = places.find(std::string(widget.name));
+      ASSERT_NE(place, places.end()) << widget.name;
+      EXPECT_GT(place->second.right, place->second.left) << widget.name << ", " << Name(screen);
+      EXPECT_GT(place->second.bottom, place->second.top) << widget.name << ", " << Name(screen);
+    }
+  }
+}
+
+TEST(MainWindowLayout, NothingLiesOutsideItsParent) {
+  for (const Screen& screen : Screens()) {
+    auto places = Places(screen);
+    places[""] = {0, 0, screen.inner.width, screen.inner.height};
+    for (const WidgetDesign& widget : MainWindowWidgets()) {
+      if (IsMenu(widget)) continue;
+      const Area& own = places.at(std::string(widget.name));
+      const Area& parent = places.at(std::string(widget.parent));
+      EXPECT_GE(own.left, 0) << widget.name << ", " << Name(screen);
+      EXPECT_GE(own.top, 0) << widget.name << ", " << Name(screen);
+      EXPECT_LE(own.right, parent.right - parent.left) << widget.name << ", " << Name(screen);
+      EXPECT_LE(own.bottom, parent.bottom - parent.top) << widget.name << ", " << Name(screen);
+    }
+  }
+}
+
+TEST(MainWindowLayout, NothingOverlapsOnAPage) {
+  for (const Screen& screen : Screens()) {
+    const auto places = Places(screen);
+    for (const WidgetDesign& a : MainWindowWidgets()) {
+      for (const WidgetDesign& b : MainWindowWidgets()) {
+        const bool areTwoOfAPage = &a < &b && a.parent == b.parent && !a.parent.empty();
+        if (IsMenu(a) || !areTwoOfAPage) continue;
+        EXPECT_FALSE(Overlap(places.at(std::string(a.name)), places.at(std::string(b.name))))
+            << a.name << " and " << b.name << ", " << Name(screen);
+      }
+    }
+  }
+}
+
+TEST(MainWindowLayout, ThePagesShareTheAreaBelowTheToolbar) {
+  for (const Screen& screen : Screens()) {
+    const auto places = Places(screen);
+    const Area& toolbar = places.at("picToolbar");
+    const Area expected{0, toolbar.bottom, screen.inner.width, screen.inner.height};
+    EXPECT_EQ(toolbar.top, 0);
+    EXPECT_EQ(toolbar.right, screen.inner.width);
+    EXPECT_EQ(places.at("picProject"), expected) << Name(screen);
+    EXPECT_EQ(places.at("picData"), expected) << Name(screen);
+  }
+}
+
+TEST(MainWindowLayout, NineHundredBySixHundredIsEnoughAtFullSize) {
+  const Size least = MinimumMainWindow(MeasuresAt(96));
+  EXPECT_LE(least.width, 900 - 16);
+  EXPECT_LE(least.height, 600 - 60);
+}
+
+TEST(MainWindowLayout, A4KScreenIsEnoughAtThreeTimesTheSize) {
+  const Size least = MinimumMainWindow(MeasuresAt(288));
+  EXPECT_LE(least.width, 3840 - 16);
+  EXPECT_LE(least.height, 2160 - 60);
+}
+
+TEST(MainWindowLayout, ASmallerWindowIsLaidOutAsTheSmallestThatFits) {
+  const TextMeasures measures = MeasuresAt(96);
+  EXPECT_EQ(LayOutMainWindow({100, 50}, measures),
+            LayOutMainWindow(MinimumMainWindow(measures), measures));
+}
+
+TEST(MainWindowLayout, CaptionsAreNotCutOff) {
+  for (const Screen& screen : Screens()) {
+    const auto places = Places(screen);
+    const TextMeasures measures = MeasuresAt(screen.dpi);
+    for (const LabelDesign& label : MainWindowLabels()) {
+      std::string shown(label.caption);
+      std::erase(shown, '&');
+      const Area& place = places.at(std::string(label.name));
+      EXPECT_GE(place.right - place.left, measures.width(shown))
+          << label.name << ", " << Name(screen);
+      EXPECT_GE(place.bottom - place.top, measures.lineHeight) << label.name;
+    }
+  }
+}
+
+TEST(MainWindowLayout, TheChartIsWideEnoughForItsNumbersAndTitles) {
+  for (const Screen& screen : Screens()) {
+    const Area chart = Places(screen).at("ctrlStormwaterReuse1");
+    EXPECT_GE(chart.right - chart.left, (chart.bottom - chart.top) * 5 / 4) << Name(screen);
+    EXPECT_GE(chart.right - chart.left, MeasuresAt(screen.dpi).Scale(420)) << Name(screen);
+    EXPECT_GE(chart.bottom - chart.top, MeasuresAt(screen.dpi).Scale(260)) << Name(screen);
+  }
+}
+
+TEST(MainWindowLayout, TheChartTakesTheRoomOfALargerWindow) {
+  const Area small = Places({{1100, 700}, 96}).at("ctrlStormwaterReuse1");
+  const Area large = Places({{1900, 1000}, 96}).at("ctrlStormwaterReuse1");
+  EXPECT_EQ(large.right - small.right, 800);
+  EXPECT_GE(large.bottom - small.bottom, 290);
+}
+
+TEST(MainWindowLayout, TheExitButtonsStayAtTheRight) {
+  for (const int width : {900, 1400, 3800}) {
+    const auto places = Places({{width, 700}, 96});
+    EXPECT_EQ(places.at("cmdDiscardExit").right, width - 12);
+    EXPECT_LT(places.at("cmdSaveExit").right, places.at("cmdDiscardExit").left);
+  }
+}
+
+TEST(MainWindowLayout, ALabelStandsLevelWithItsFieldAndDirectlyLeftOfIt) {
+  const auto places = Places({{1100, 700}, 96});
+  for (const FieldGroup& group : DataGroups()) {
+    for (const FieldRow& row : group.rows) {
+      const Area& label = places.at(std::string(row.label.name));
+      const Area& field = places.at(std::string(row.field));
+      EXPECT_NEAR(label.top + label.bottom, field.top + field.bottom, 1) << row.field;
+      EXPECT_EQ(field.left - label.right, 6) << row.field;
+      if (row.unit.name.empty()) continue;
+      const Area& unit = places.at(std::string(row.unit.name));
+      EXPECT_EQ(unit.left - field.right, 6) << row.field;
+      EXPECT_EQ(unit.top, label.top) << row.field;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orvik
