@@ -62,12 +62,13 @@ TEST(WriteOutputFile, SaysThatAFolderIsOne) {
   EXPECT_EQ(CountFiles(folder), 1);
 }
 
+#ifndef _WIN32  // making links takes a privilege there; pipes are another matter
 TEST(WriteOutputFile, WritesThroughALink) {
   const test::TempFolder folder;
   std::error_code error;
   for (const char* name : {"there.crv", "not yet.crv"}) {
     std::filesystem::create_symlink(name, PathFromUtf8(folder / "link"), error);
-    if (error) GTEST_SKIP() << "This system makes no links: " << error.message();
+    ASSERT_FALSE(error) << error.message();
     if (name == std::string("there.crv")) folder.Write(name, "old");
     WriteOutputFile(folder / "link", "new");
     EXPECT_TRUE(std::filesystem::is_symlink(PathFromUtf8(folder / "link"))) << name;
@@ -80,12 +81,11 @@ TEST(WriteOutputFile, ALinkToItselfIsAFault) {
   const test::TempFolder folder;
   std::error_code error;
   std::filesystem::create_symlink("link", PathFromUtf8(folder / "link"), error);
-  if (error) GTEST_SKIP() << "This system makes no links: " << error.message();
+  ASSERT_FALSE(error) << error.message();
   EXPECT_THAT(FaultOf(folder / "link"), testing::HasSubstr("cannot be written"));
   EXPECT_TRUE(std::filesystem::is_symlink(PathFromUtf8(folder / "link")));
 }
 
-#ifndef _WIN32
 TEST(WriteOutputFile, RefusesAPipe) {
   const test::TempFolder folder;
   const std::string pipe = folder / "pipe";

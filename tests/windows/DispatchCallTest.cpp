@@ -16,7 +16,6 @@ namespace orvik::test {
 namespace {
 
 using com::Bstr;
-using com::ComPtr;
 
 // Every operation that can change an argument does so and then fails.
 class FailingStream final : public com::DispatchObject<IclsIOStream> {

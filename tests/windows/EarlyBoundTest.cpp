@@ -8,7 +8,6 @@ namespace orvik::test {
 namespace {
 
 using com::Bstr;
-using com::ComPtr;
 using namespace std::string_literals;
 
 using EarlyBoundTest = StreamClientTest;

@@ -299,7 +299,7 @@ TEST_P(LateBoundTest, TheObjectDescribesItself) {
   UINT count = 0;
   EXPECT_EQ(client->GetTypeInfoCount(&count), S_OK);
   EXPECT_EQ(count, 1U);
-  com::ComPtr<ITypeInfo> type;
+  ComPtr<ITypeInfo> type;
   EXPECT_EQ(client->GetTypeInfo(1, 0, type.Out()), DISP_E_BADINDEX);
   ASSERT_EQ(client->GetTypeInfo(0, 0, type.Out()), S_OK);
   Bstr name;

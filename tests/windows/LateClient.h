@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "entry/com/Bstr.h"
-#include "entry/com/ComPtr.h"
 #include "entry/com/Variant.h"
+#include "platform/win32/ComPtr.h"
 
 namespace orvik::test {
 
@@ -74,7 +74,7 @@ class LateClient {
   }
 
  private:
-  com::ComPtr<IDispatch> object_;
+  ComPtr<IDispatch> object_;
 };
 
 }  // namespace orvik::test

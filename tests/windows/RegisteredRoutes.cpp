@@ -2,17 +2,11 @@
 #include <StReuse.h>
 #include <gtest/gtest.h>
 
+#include "windows/RegisteredLibrary.h"
 #include "windows/Server.h"
 
 namespace orvik::test {
 namespace {
-
-// Registers the library for the time of the whole program.
-class RegisteredLibrary : public testing::Environment {
- public:
-  void SetUp() override { ASSERT_EQ(RunRegsvr32(L""), 0U); }
-  void TearDown() override { EXPECT_EQ(RunRegsvr32(L"/u"), 0U); }
-};
 
 [[maybe_unused]] const testing::Environment* const kLibrary =
     testing::AddGlobalTestEnvironment(new RegisteredLibrary);

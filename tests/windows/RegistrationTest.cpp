@@ -8,6 +8,7 @@ namespace orvik::test {
 namespace {
 
 const std::wstring kClsid = L"{46DB01F4-1494-44B5-9E3F-0D64D92578BF}";
+const std::wstring kEntryClsid = L"{98712C10-667E-4528-AE08-B9590F9306C7}";
 const std::wstring kLibid = L"{F22AF09A-F529-4639-8D98-EF0A389A40E3}";
 const std::wstring kIid = L"{DEC72852-A286-49B8-9EBC-6EB444FD8F14}";
 const std::wstring kClasses = L"Software\\Classes\\";
@@ -22,6 +23,8 @@ void ExpectRegistered(HKEY root) {
   EXPECT_EQ(ReadValue(root, type + L"\\ProgID", L""), L"StReuse.clsIOStream");
   EXPECT_EQ(ReadValue(root, type + L"\\TypeLib", L""), kLibid);
   EXPECT_EQ(ReadValue(root, kClasses + L"StReuse.clsIOStream\\CLSID", L""), kClsid);
+  EXPECT_EQ(ReadValue(root, kClasses + L"StReuse.clsStReuse\\CLSID", L""), kEntryClsid);
+  EXPECT_EQ(ReadValue(root, kClasses + L"CLSID\\" + kEntryClsid + L"\\InprocServer32", L""), path);
   const std::wstring library = kClasses + L"TypeLib\\" + kLibid + L"\\3.3";
   EXPECT_EQ(ReadValue(root, library, L""), L"ORVIK 3.3 Stormwater Harvesting Module");
   EXPECT_EQ(ReadValue(root, library + L"\\0\\win64", L""), path);

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 
 namespace orvik::test {
 

@@ -2,14 +2,12 @@
 #include <StReuse.h>
 #include <gtest/gtest.h>
 
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 #include "windows/LateClient.h"
 #include "windows/Server.h"
 
 namespace orvik::test {
 namespace {
-
-using com::ComPtr;
 
 const CLSID& kStream = __uuidof(::clsIOStream);
 

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "entry/com/Bstr.h"
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 #include "support/TempFolder.h"
 #include "windows/Server.h"
 
@@ -33,7 +33,7 @@ class StreamClientTest : public testing::TestWithParam<Route> {
 
   Apartment apartment_;
   std::shared_ptr<void> session_;
-  com::ComPtr<IclsIOStream> stream_;
+  ComPtr<IclsIOStream> stream_;
 };
 
 inline std::string RouteName(const testing::TestParamInfo<Route>& info) {

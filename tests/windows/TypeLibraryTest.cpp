@@ -3,14 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "entry/com/Bstr.h"
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 #include "windows/Server.h"
 
 namespace orvik::test {
 namespace {
 
 using com::Bstr;
-using com::ComPtr;
 
 class TypeLibraryTest : public testing::Test {
  protected:
@@ -45,6 +44,10 @@ std::string TypeName(ITypeInfo& scope, const TYPEDESC& type) {
       return "String";
     case VT_BOOL:
       return "Boolean";
+    case VT_VARIANT:
+      return "Variant";
+    case VT_VOID:
+      return "Nothing";
     case VT_USERDEFINED: {
       ComPtr<ITypeInfo> user;
       Bstr name;
@@ -78,15 +81,33 @@ std::string Describe(ITypeInfo& type, UINT index) {
   return text;
 }
 
-TEST_F(TypeLibraryTest, TheStreamHasItsOperationsInTheirOrder) {
-  const ComPtr<ITypeInfo> stream = Find("IclsIOStream");
+// Compares the interface with its last `expected` functions; the seven of IDispatch may be listed
+// before them.
+void ExpectInterface(ITypeInfo& type, REFGUID iid, const std::vector<std::string>& expected) {
   TYPEATTR* attributes = nullptr;
-  ASSERT_EQ(stream->GetTypeAttr(&attributes), S_OK);
+  ASSERT_EQ(type.GetTypeAttr(&attributes), S_OK);
   const UINT count = attributes->cFuncs;
-  EXPECT_TRUE(attributes->guid == __uuidof(IclsIOStream));
+  EXPECT_TRUE(attributes->guid == iid);
   EXPECT_TRUE(attributes->wTypeFlags & TYPEFLAG_FDUAL);
-  stream->ReleaseTypeAttr(attributes);
+  type.ReleaseTypeAttr(attributes);
+  ASSERT_GE(count, expected.size());
+  std::vector<std::string> found;
+  for (UINT i = count - static_cast<UINT>(expected.size()); i < count; ++i) {
+    found.push_back(Describe(type, i));
+  }
+  EXPECT_EQ(found, expected);
+}
 
+TEST_F(TypeLibraryTest, TheEntryObjectHasItsOperationsInTheirOrder) {
+  ExpectInterface(*Find("IclsStReuse").Get(), __uuidof(IclsStReuse),
+                  {"1 Print_Remote(MyPrinter As Variant, Mode As Integer, ParamString1 As String, "
+                   "ParamString2 As String) As Nothing",
+                   "2 Show(Mode As Integer, ParamString1 As String*, ParamString2 As String*, "
+                   "ParamString3 As String*) As Integer",
+                   "3 MakeDirectory(Path As String) As Boolean"});
+}
+
+TEST_F(TypeLibraryTest, TheStreamHasItsOperationsInTheirOrder) {
   const std::vector<std::string> expected = {
       "1 ScanSingle(sVal As Single*) As Boolean",
       "2 OpenFile(strFileName As String, Mode As enumIOStreamMode) As Boolean",
@@ -98,12 +119,7 @@ TEST_F(TypeLibraryTest, TheStreamHasItsOperationsInTheirOrder) {
       "8 EndOfFile() As Boolean",
       "9 ScanInteger(i As Integer*) As Boolean",
       "10 Get Buffer() As String"};
-  std::vector<std::string> found;
-  // The seven functions of IDispatch may be listed before them.
-  for (UINT i = count - static_cast<UINT>(expected.size()); i < count; ++i) {
-    found.push_back(Describe(*stream.Get(), i));
-  }
-  EXPECT_EQ(found, expected);
+  ExpectInterface(*Find("IclsIOStream").Get(), __uuidof(IclsIOStream), expected);
 }
 
 TEST_F(TypeLibraryTest, TheEnumerationHasItsFiveValues) {
@@ -124,14 +140,20 @@ TEST_F(TypeLibraryTest, TheEnumerationHasItsFiveValues) {
   }
 }
 
-TEST_F(TypeLibraryTest, TheClassCanBeCreated) {
-  const ComPtr<ITypeInfo> type = Find("clsIOStream");
-  TYPEATTR* attributes = nullptr;
-  ASSERT_EQ(type->GetTypeAttr(&attributes), S_OK);
-  EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
-  EXPECT_TRUE(attributes->guid == __uuidof(::clsIOStream));
-  EXPECT_TRUE(attributes->wTypeFlags & TYPEFLAG_FCANCREATE);
-  type->ReleaseTypeAttr(attributes);
+TEST_F(TypeLibraryTest, TheClassesCanBeCreated) {
+  const struct {
+    const char* name;
+    GUID clsid;
+  } rows[] = {{"clsIOStream", __uuidof(::clsIOStream)}, {"clsStReuse", __uuidof(::clsStReuse)}};
+  for (const auto& row : rows) {
+    const ComPtr<ITypeInfo> type = Find(row.name);
+    TYPEATTR* attributes = nullptr;
+    ASSERT_EQ(type->GetTypeAttr(&attributes), S_OK) << row.name;
+    EXPECT_EQ(attributes->typekind, TKIND_COCLASS) << row.name;
+    EXPECT_TRUE(attributes->guid == row.clsid) << row.name;
+    EXPECT_TRUE(attributes->wTypeFlags & TYPEFLAG_FCANCREATE) << row.name;
+    type->ReleaseTypeAttr(attributes);
+  }
 }
 
 TEST_F(TypeLibraryTest, TheLibraryHasItsNameAndVersion) {

@@ -2,7 +2,7 @@
 #include <StReuse.h>
 #include <gtest/gtest.h>
 
-#include "entry/com/ComPtr.h"
+#include "platform/win32/ComPtr.h"
 #include "windows/Server.h"
 
 namespace orvik::test {
@@ -19,7 +19,7 @@ std::shared_ptr<void> ClientManifest() {
 HRESULT CreateFromLibrary(REFIID iid, void** object) {
   // The object keeps the library needed, this reference keeps it loaded.
   static const LoadedServer server;
-  com::ComPtr<IClassFactory> factory;
+  ComPtr<IClassFactory> factory;
   const HRESULT found =
       server.GetClassObject(__uuidof(::clsIOStream), IID_IClassFactory, factory.OutVoid());
   return FAILED(found) ? found : factory->CreateInstance(nullptr, iid, object);
@@ -29,7 +29,7 @@ TEST(WithoutRegistration, TheClassIsUnknownToTheSystem) {
   const Apartment apartment;
   CLSID clsid{};
   EXPECT_NE(::CLSIDFromProgID(L"StReuse.clsIOStream", &clsid), S_OK);
-  com::ComPtr<IUnknown> object;
+  ComPtr<IUnknown> object;
   EXPECT_EQ(::CoCreateInstance(__uuidof(::clsIOStream), nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                object.OutVoid()),
             REGDB_E_CLASSNOTREG);

@@ -8,8 +8,8 @@
 #include "base/RuntimeErrors.h"
 #include "entry/com/Bstr.h"
 #include "entry/com/ComError.h"
-#include "entry/com/ComPtr.h"
 #include "entry/com/Wall.h"
+#include "platform/win32/ComPtr.h"
 
 namespace orvik::com {
 namespace {

@@ -1,0 +1,290 @@
+#include "FormUser.h"
+
+#include <array>
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+#include "MemoryScreen.h"
+#include "PngFile.h"
+#include "platform/win32/Dpi.h"
+#include "platform/win32/FormLayout.h"
+#include "platform/win32/WideText.h"
+#include "shell/MainWindowDesign.h"
+#include "shell/MainWindowTable.h"
+
+namespace orvik::test {
+namespace {
+
+constexpr std::chrono::seconds kDeadline{20};
+
+void SendKey(WORD code, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = (flags & KEYEVENTF_UNICODE) != 0 ? WORD{0} : code;
+  input.ki.wScan = (flags & KEYEVENTF_UNICODE) != 0
+                       ? code
+                       : static_cast<WORD>(::MapVirtualKeyW(code, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  ::SendInput(1, &input, sizeof input);
+}
+
+void SendMouse(DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  ::SendInput(1, &input, sizeof input);
+}
+
+void MouseTo(HWND window, POINT at) {
+  ::ClientToScreen(window, &at);
+  ::SetCursorPos(at.x, at.y);
+}
+
+// Moves and clicks in one event each: the system may still report where the pointer was when the
+// window came up under it.
+void ClickAt(HWND window, POINT at) {
+  constexpr int kWhole = 65536;  // of the screen's width and height
+  ::ClientToScreen(window, &at);
+  const int width = ::GetSystemMetrics(SM_CXSCREEN);
+  const int height = ::GetSystemMetrics(SM_CYSCREEN);
+  for (const DWORD button : {DWORD{MOUSEEVENTF_LEFTDOWN}, DWORD{MOUSEEVENTF_LEFTUP}}) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = static_cast<LONG>((at.x * kWhole + kWhole / 2) / width);
+    input.mi.dy = static_cast<LONG>((at.y * kWhole + kWhole / 2) / height);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
+    ::SendInput(1, &input, sizeof input);
+  }
+}
+
+BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
+  std::array<wchar_t, 16> name{};
+  ::GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  if (!::IsWindowVisible(window) || std::wstring_view(name.data()) != L"#32770") return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+}  // namespace
+
+std::string TextOf(HWND window) {
+  const LRESULT length = ::SendMessageW(window, WM_GETTEXTLENGTH, 0, 0);
+  std::wstring text(static_cast<std::size_t>(length), L'\0');
+  const LRESULT read = ::SendMessageW(window, WM_GETTEXT, static_cast<WPARAM>(length + 1),
+                                      reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(read));
+  return Utf8FromWide(text);
+}
+
+FormUser::FormUser(HWND window) {
+  Watch(window);
+}
+
+void FormUser::Watch(HWND window) {
+  thread_id_ = ::GetWindowThreadProcessId(window, nullptr);
+  window_ = window;
+}
+
+FormUser FormUser::WaitFor(DWORD process) {
+  const auto end = std::chrono::steady_clock::now() + kDeadline;
+  while (std::chrono::steady_clock::now() < end) {
+    DWORD owner = 0;
+    const HWND window = ::FindWindowW(L"OrvikForm", nullptr);
+    ::GetWindowThreadProcessId(window, &owner);
+    const bool isIt = window && ::IsWindowVisible(window) && ::GetForegroundWindow() == window;
+    if (isIt && (process == 0 || owner == process)) return FormUser(window);
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+  throw std::runtime_error("The window does not come up.");
+}
+
+// --- What a user sees ---
+
+HWND FormUser::Find(std::string_view widget) const {
+  return FindControl(window_, MainWindowDesign::Get(), widget);
+}
+
+std::string FormUser::Text(std::string_view widget) const {
+  return TextOf(Find(widget));
+}
+
+bool FormUser::IsVisible(std::string_view widget) const {
+  return ::IsWindowVisible(Find(widget)) != FALSE;
+}
+
+std::string FormUser::Caption() const {
+  return TextOf(window_);
+}
+
+std::vector<std::string> FormUser::Menus() const {
+  std::vector<std::string> captions;
+  const HMENU bar = ::GetMenu(window_);
+  for (int i = 0; i < ::GetMenuItemCount(bar); ++i) {
+    std::array<wchar_t, 40> caption{};
+    ::GetMenuStringW(bar, static_cast<UINT>(i), caption.data(), static_cast<int>(caption.size()),
+                     MF_BYPOSITION);
+    captions.push_back(Utf8FromWide(caption.data()));
+  }
+  return captions;
+}
+
+std::string FormUser::Focus() const {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  ::GetGUIThreadInfo(thread_id_, &info);
+  for (const WidgetDesign& widget : MainWindowWidgets()) {
+    const HWND control = Find(widget.name);
+    if (control && control == info.hwndFocus) return std::string(widget.name);
+  }
+  return {};
+}
+
+HWND FormUser::Dialog() const {
+  HWND found = nullptr;
+  ::EnumThreadWindows(thread_id_, &FindDialog, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+bool FormUser::Until(const std::function<bool()>& isSo) const {
+  const auto end = std::chrono::steady_clock::now() + kDeadline;
+  while (std::chrono::steady_clock::now() < end) {
+    if (isSo()) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+  return isSo();
+}
+
+bool FormUser::UntilText(std::string_view widget, std::string_view text) const {
+  return Until([&] { return Text(widget) == text; });
+}
+
+// --- What a user does ---
+
+void FormUser::Click(std::string_view widget) {
+  const HWND control = Find(widget);
+  RECT inner{};
+  ::GetClientRect(control, &inner);
+  ClickAt(control, {inner.right / 2, inner.bottom / 2});
+}
+
+void FormUser::Press(const Key& key) const {
+  for (const WORD held : key.held) SendKey(held, 0);
+  SendKey(key.code, 0);
+  SendKey(key.code, KEYEVENTF_KEYUP);
+  for (const WORD held : key.held) SendKey(held, KEYEVENTF_KEYUP);
+}
+
+void FormUser::TypeText(std::string_view text) const {
+  for (const wchar_t unit : WideFromUtf8(text)) {
+    SendKey(unit, KEYEVENTF_UNICODE);
+    SendKey(unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+  }
+}
+
+void FormUser::Type(std::string_view field, std::string_view text) {
+  Click(field);
+  if (!Until([&] { return Focus() == field; })) {
+    throw std::runtime_error("The keyboard does not come to " + std::string(field));
+  }
+  Press({'A', {VK_CONTROL}});
+  Press({VK_DELETE, {}});
+  TypeText(text);
+  if (!UntilText(field, text)) {
+    throw std::runtime_error(std::string(field) + " shows " + Text(field));
+  }
+}
+
+void FormUser::DropDown(std::string_view list) {
+  Click(list);
+  const HWND box = Find(list);
+  if (!Until([&] { return ::SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) != 0; })) {
+    throw std::runtime_error(std::string(list) + " does not drop down");
+  }
+}
+
+// The list drops down, and the arrow keys go to the item.
+void FormUser::Choose(std::string_view list, std::string_view item) {
+  DropDown(list);
+  const HWND box = Find(list);
+  const LRESULT index = ::SendMessageW(box, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                       reinterpret_cast<LPARAM>(WideFromUtf8(item).c_str()));
+  Press({VK_HOME, {}});
+  for (LRESULT i = 0; i < index; ++i) Press({VK_DOWN, {}});
+  Press({VK_RETURN, {}});
+  const bool isChosen = Until(
+      [&] { return ::SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) == 0 && Text(list) == item; });
+  if (!isChosen) throw std::runtime_error(std::string(list) + " shows " + Text(list));
+}
+
+void FormUser::DragOnChart(POINT from, POINT to) {
+  const HWND chart = Find("ctrlStormwaterReuse1");
+  MouseTo(chart, from);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
+  MouseTo(chart, {(from.x + to.x) / 2, (from.y + to.y) / 2});
+  MouseTo(chart, to);
+  SendMouse(MOUSEEVENTF_LEFTUP);
+}
+
+void FormUser::ClickMenu(std::string_view item) {
+  for (WORD command = 0x1000; command < 0x1200; ++command) {
+    const auto index = static_cast<std::size_t>(command - 0x1001);
+    if (index >= MainWindowWidgets().size()) continue;
+    if (MainWindowWidgets()[index].name == item) {
+      ::PostMessageW(window_, WM_COMMAND, command, 0);
+      return;
+    }
+  }
+  throw std::out_of_range("There is no menu item " + std::string(item));
+}
+
+void FormUser::CloseByFrame() {
+  ::PostMessageW(window_, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+void FormUser::AnswerDialog(int button, std::string_view fileName) {
+  constexpr std::array<int, 2> kNameFields{0x480, 0x47C};  // edt1, cmb13
+  if (!Until([this] { return Dialog() != nullptr; })) throw std::runtime_error("No dialog comes.");
+  const HWND dialog = Dialog();
+  for (const int number : kNameFields) {
+    const HWND field = ::GetDlgItem(dialog, number);
+    if (fileName.empty() || !field || !::IsWindowVisible(field)) continue;
+    ::SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(WideFromUtf8(fileName).c_str()));
+    break;
+  }
+  ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+}
+
+std::string ReadMessage(std::string_view title) {
+  constexpr int kText = 0xFFFF;  // the number of a message box's text
+  const std::wstring wanted = WideFromUtf8(title);
+  const auto end = std::chrono::steady_clock::now() + kDeadline;
+  while (std::chrono::steady_clock::now() < end) {
+    const HWND box = ::FindWindowW(L"#32770", wanted.c_str());
+    const HWND text = box ? ::GetDlgItem(box, kText) : nullptr;
+    if (text && ::IsWindowVisible(box)) {
+      const std::string told = TextOf(text);
+      ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+      while (::IsWindow(box) && std::chrono::steady_clock::now() < end) ::Sleep(1);
+      return told;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+  return {};
+}
+
+// --- Pictures ---
+
+void Screenshot(HWND window, const std::string& path) {
+  const ThreadDpiScope scaling;
+  RECT outer{};
+  ::GetWindowRect(window, &outer);
+  const int width = static_cast<int>(outer.right - outer.left);
+  const int height = static_cast<int>(outer.bottom - outer.top);
+  const MemoryScreen copy({width, height});
+  const WindowDc screen(nullptr);
+  ::BitBlt(copy.Dc(), 0, 0, width, height, screen.Get(), outer.left, outer.top, SRCCOPY);
+  WritePng(path, copy.Pixels());
+}
+
+}  // namespace orvik::test

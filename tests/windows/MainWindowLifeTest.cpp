@@ -1,0 +1,167 @@
+// The main window over its life: opened and closed many times, scaled, and looked at.
+#include <gtest/gtest.h>
+#include <ole2.h>
+#include <psapi.h>
+
+#include <filesystem>
+
+#include "FormOnScreen.h"
+#include "GuiObjects.h"
+#include "base/Paths.h"
+#include "platform/win32/NativeDesktop.h"
+#include "platform/win32/NativeToolkit.h"
+
+namespace orvik {
+namespace {
+
+using test::FormOnScreen;
+using test::GuiObjects;
+
+// --- Nothing is left behind ---
+
+struct Resources {
+  GuiObjects objects;
+  DWORD handles = 0;
+  SIZE_T bytes = 0;  // of memory that is this process's own
+};
+
+Resources Count() {
+  Resources resources{GuiObjects::Count(), 0, 0};
+  ::GetProcessHandleCount(::GetCurrentProcess(), &resources.handles);
+  PROCESS_MEMORY_COUNTERS memory{};
+  ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
+  resources.bytes = memory.PagefileUsage;
+  return resources;
+}
+
+// Opens the window on a sample and closes it once it is painted.
+void OpenAndClose(HINSTANCE module) {
+  NativeToolkit toolkit(module);
+  NativeDesktop desktop(module);
+  Form1 form(toolkit, desktop, ORVIK_DATA);
+  form.Mode(2);
+  form.Files().LoadFile(ORVIK_DATA "samples/efficiency.kav");
+  const HWND window = dynamic_cast<NativeWindow&>(*form.Fields().window).Handle();
+  const auto closing = toolkit.MakeTimer();
+  closing->OnTick = [&] {
+    ::UpdateWindow(window);
+    form.Fields().window->Visible(false);
+  };
+  closing->Start(1);
+  form.ShowModally();
+}
+
+TEST(MainWindowLife, TwoHundredOpeningsLeaveNothingBehind) {
+  constexpr int kFirst = 10;
+  constexpr int kAll = 200;
+  const HINSTANCE module = ::GetModuleHandleW(nullptr);
+  for (int i = 0; i < kFirst; ++i) OpenAndClose(module);
+  const Resources before = Count();
+  for (int i = kFirst; i < kAll; ++i) OpenAndClose(module);
+  const Resources after = Count();
+  EXPECT_LE(after.objects.drawing, before.objects.drawing);
+  EXPECT_LE(after.objects.windows, before.objects.windows);
+  EXPECT_LE(after.objects.menus, before.objects.menus);
+  EXPECT_LE(after.handles, before.handles);
+  constexpr SIZE_T kHeapGrain = 1 << 20;  // what the heap may keep for later
+  EXPECT_LE(after.bytes, before.bytes + kHeapGrain);
+}
+
+// --- Scaling and pictures ---
+
+// What the system sends when the window comes to a screen of another scaling.
+void ComeToScaling(HWND window, int dpi, SIZE size) {
+  RECT suggested{40, 40, 40 + size.cx, 40 + size.cy};
+  ::SendMessageW(window, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dpi, dpi)),
+                 reinterpret_cast<LPARAM>(&suggested));
+}
+
+int HeightOf(HWND window) {
+  RECT outer{};
+  ::GetWindowRect(window, &outer);
+  return static_cast<int>(outer.bottom - outer.top);
+}
+
+TEST(MainWindowLife, FieldsAndTextsGrowWithTheScaling) {
+  FormOnScreen form(1);
+  const int field = HeightOf(form.Find("txtBasinArea"));
+  EXPECT_NEAR(HeightOf(form.Find("cmbSolveFor")), field, 3);
+  ComeToScaling(form.Window(), 192, {2200, 1400});
+  EXPECT_NEAR(HeightOf(form.Find("txtBasinArea")), 2 * field, 3);
+  EXPECT_LE(HeightOf(form.Find("cmbSolveFor")), HeightOf(form.Find("txtBasinArea")) + 3);
+  ComeToScaling(form.Window(), 96, {1100, 700});
+  EXPECT_EQ(HeightOf(form.Find("txtBasinArea")), field);
+}
+
+// Every pixel below the window is painted before it is looked at.
+void WaitUntilPainted(const FormOnScreen& form) {
+  const HWND window = form.Window();
+  ::SendMessageW(window, WM_NULL, 0, 0);
+  form.Until([&] { return ::GetUpdateRect(window, nullptr, FALSE) == FALSE; });
+  ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+  ::SendMessageW(window, WM_NULL, 0, 0);
+}
+
+class MainWindowPicture : public testing::TestWithParam<const char*> {};
+
+// Left for a look at them: both pages at three scalings.
+TEST_P(MainWindowPicture, IsTakenOfBothPagesAtEachScaling) {
+  const std::string sample = GetParam();
+  const std::string folder = ORVIK_SCREENSHOTS;
+  std::filesystem::create_directories(PathFromUtf8(folder));
+  ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+  const std::int16_t mode = sample == "efficiency" ? 2 : 1;
+  FormOnScreen form(mode, {[&](Form1& opened) {
+                             opened.Chart().DesignDataDirectory(ORVIK_DATA "KAV Data/");
+                             opened.Files().LoadFile(ORVIK_DATA "samples/" + sample + ".kav");
+                           },
+                           {}});
+  const struct {
+    int dpi;
+    SIZE size;
+  } rows[] = {{96, {1140, 700}}, {144, {1700, 1040}}, {192, {2280, 1390}}};
+  for (const auto& row : rows) {
+    ComeToScaling(form.Window(), row.dpi, row.size);
+    for (const char* page : {"Project", "Data"}) {
+      form.ClickMenu(std::string("mnu") + page);
+      const std::string shown = std::string("pic") + page;
+      ASSERT_TRUE(form.Until([&] { return form.IsVisible(shown); }));
+      WaitUntilPainted(form);
+      const std::string path =
+          folder + sample + "-" + page + "-" + std::to_string(row.dpi * 100 / 96) + ".png";
+      std::filesystem::remove(PathFromUtf8(path));
+      test::Screenshot(form.Window(), path);
+      EXPECT_TRUE(FileExists(path));
+    }
+  }
+  ::CoUninitialize();
+}
+
+TEST(MainWindowSmall, PictureIsTakenOfTheSmallestWindowWithAFault) {
+  ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
+  const std::string folder = ORVIK_SCREENSHOTS;
+  std::filesystem::create_directories(PathFromUtf8(folder));
+  FormOnScreen form(2, {[&](Form1& opened) {
+                          opened.Chart().DesignDataDirectory(ORVIK_DATA "KAV Data/");
+                          opened.Files().LoadFile(ORVIK_DATA "samples/reuse-rate.kav");
+                        },
+                        {}});
+  ComeToScaling(form.Window(), 96, {900, 600});
+  form.Type("txtRunoffCoefficient", "1.2");
+  form.Press({VK_RETURN, {}});
+  ASSERT_TRUE(form.UntilText("txtErrMsg", "The runoff coefficient must be between 0 and 1."));
+  WaitUntilPainted(form);
+  test::Screenshot(form.Window(), folder + "small-fault.png");
+  RECT outer{};
+  ::GetWindowRect(form.Window(), &outer);
+  EXPECT_EQ(outer.right - outer.left, 900) << "the contents need no larger window";
+  EXPECT_EQ(outer.bottom - outer.top, 600);
+  ::CoUninitialize();
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, MainWindowPicture,
+                         testing::Values("efficiency", "storage-volume", "reuse-rate",
+                                         "interactive"));
+
+}  // namespace
+}  // namespace orvik
