@@ -35,7 +35,8 @@ struct Chart {
 void EmptyCopy(benchmark::State& state) {
   CairoImageSurface screen(kSize);
   const Picture picture = CairoImageSurface(kSize).Pixels();
-  for ([[maybe_unused]] auto _ : state) screen.CopyPicture(picture, {0, 0, kSize.width, kSize.height});
+  for ([[maybe_unused]] auto _ : state)
+    screen.CopyPicture(picture, {0, 0, kSize.width, kSize.height});
 }
 BENCHMARK(EmptyCopy)->Unit(benchmark::kMicrosecond);
 
