@@ -1,6 +1,14 @@
 #include "base/Paths.h"
 
 namespace orvik {
+namespace {
+
+// The system would cut a name at a NUL and answer for another one.
+bool IsWholeName(std::string_view path) {
+  return path.find('\0') == std::string_view::npos;
+}
+
+}  // namespace
 
 std::filesystem::path PathFromUtf8(std::string_view text) {
   return {std::u8string(text.begin(), text.end())};
@@ -28,12 +36,18 @@ std::string FolderOf(std::string_view path) {
 
 bool FolderExists(std::string_view path) {
   std::error_code error;
-  return std::filesystem::is_directory(PathFromUtf8(path), error);
+  return IsWholeName(path) && std::filesystem::is_directory(PathFromUtf8(path), error);
 }
 
 bool FileExists(std::string_view path) {
   std::error_code error;
-  return std::filesystem::is_regular_file(PathFromUtf8(path), error);
+  return IsWholeName(path) && std::filesystem::is_regular_file(PathFromUtf8(path), error);
+}
+
+bool MakeDirectory(std::string_view path) {
+  std::error_code error;
+  return IsWholeName(path) && std::filesystem::create_directory(PathFromUtf8(path), error) &&
+         !error;
 }
 
 }  // namespace orvik

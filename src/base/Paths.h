@@ -25,4 +25,7 @@ std::string FolderOf(std::string_view path);
 bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);
 
+// Makes one folder. False where it is there already or cannot be made.
+bool MakeDirectory(std::string_view path);
+
 }  // namespace orvik
