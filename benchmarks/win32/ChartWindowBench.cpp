@@ -35,6 +35,7 @@ class OneWindow final : public Toolkit {
     return host;
   }
   void Design(const FormDesign&) override {}
+  std::unique_ptr<Toolkit> ForAnotherWindow() const override { return nullptr; }
   std::unique_ptr<Window> MakeWindow(std::string_view) override { return nullptr; }
   std::unique_ptr<TextBox> MakeTextBox(std::string_view) override { return nullptr; }
   std::unique_ptr<ComboBox> MakeComboBox(std::string_view) override { return nullptr; }

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "base/ModuleVersion.h"
 #include "base/RuntimeErrors.h"
+#include "base/VersionText.h"
 #include "engine/ClimateStations.h"
 #include "printing/ProjectReport.h"
 #include "project/NumberInput.h"
@@ -18,13 +18,6 @@ constexpr std::int16_t kStandAlone = 1;
 constexpr std::int16_t kInHostProject = 2;
 constexpr std::int16_t kSave = 1;
 constexpr std::int16_t kDiscard = 0;
-
-// Major, minor and build number, the last in four digits: "3.3.0001".
-std::string VersionText() {
-  const std::string build = std::to_string(kBuildNumber);
-  return std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "." +
-         std::string(build.size() < 4 ? 4 - build.size() : 0, '0') + build;
-}
 
 bool IsProjectFile(std::string_view path) {
   constexpr std::string_view kExtension = ".kav";
@@ -53,6 +46,7 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
       files_(form_, workflow_, file_, desktop),
       pages_(toolkit, desktop, form_),
       messageHelp_(toolkit, desktop, form_.txtErrMsg, dataFolder),
+      smallWindows_(toolkit, desktop, ctrlStormwaterReuse1_, dataFolder),
       cmdReCalc_(toolkit, "cmdReCalc", ButtonCaption::kReCalc, [this] { workflow_.ReCalc(); }),
       cmdSaveExit_(toolkit, "cmdSaveExit", ButtonCaption::kSaveExit,
                    [this] { cmdSaveExit_Click(); }),

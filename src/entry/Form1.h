@@ -20,6 +20,7 @@
 #include "project/SolveForWorkflow.h"
 #include "shell/MainWindowPages.h"
 #include "shell/MessageHelp.h"
+#include "shell/SmallWindows.h"
 
 namespace orvik {
 
@@ -97,6 +98,7 @@ class Form1 {
   FileCommands files_;
   MainWindowPages pages_;
   MessageHelp messageHelp_;
+  SmallWindows smallWindows_;
 
   std::unique_ptr<MenuItem> mnuFile_;
   std::unique_ptr<MenuItem> mnuFile_New_;

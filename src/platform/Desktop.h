@@ -86,6 +86,10 @@ class Desktop {
   // Opens a file with the program that the user reads such pages with.
   virtual PageOpening OpenPage(const std::string& path) = 0;
 
+  // The picture of a file in a format that the system reads, PNG among them, on white where it is
+  // transparent. Nothing where there is no such file, or one that is damaged or too large.
+  virtual std::optional<Picture> ReadPicture(const std::string& path) = 0;
+
   // Puts the content in place of what the clipboard holds. False where another program keeps the
   // clipboard to itself.
   virtual bool CopyToClipboard(const ClipboardContent& content) = 0;

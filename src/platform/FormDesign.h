@@ -19,6 +19,14 @@ enum class WidgetStyle : std::uint8_t {
   RightAligned,  // a label whose text ends at its right edge
   Wrapped,       // a text box over several lines of the screen; its text stays one line
   Separated,     // a menu item with a line above it
+  Bare,          // a text box without a frame, to copy from what looks like a label
+};
+
+// What a user can do to the window's frame.
+enum class WindowFrame : std::uint8_t {
+  Main,      // any size, also the whole screen or none of it
+  Sizable,   // any size, also the whole screen
+  FixedSize  // none but its initial one
 };
 
 // The rows of a form: widgets in the order in which the Tab key and a reader meet them (a label
@@ -53,7 +61,11 @@ class FormDesign {
   FormDesign& operator=(const FormDesign&) = delete;
   virtual ~FormDesign() = default;
 
+  virtual WindowFrame Frame() const { return WindowFrame::Main; }
   virtual std::span<const WidgetDesign> Widgets() const = 0;
+
+  // The widget that has the keyboard when the window opens; empty: the first field of its page.
+  virtual std::string_view FirstFocus() const { return {}; }
 
   // Sizes of the window's inner area, pixels: the smallest in which everything has its place, and
   // the one that the window opens with where the screen has room.

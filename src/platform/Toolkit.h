@@ -109,9 +109,12 @@ class MenuItem : public Widget {
 
 // What a screen reader tells of a drawn control.
 struct Spoken {
-  std::string name;   // what it is; "&" marks a button's mnemonic
-  std::string value;  // what it shows, empty for nothing
+  std::string name;        // what it is; "&" marks a button's mnemonic
+  std::string value;       // what it shows, empty for nothing
+  bool isPicture = false;  // to look at; else it is a chart, or a button
 };
+
+enum class PointerShape : std::uint8_t { Arrow, Hand };
 
 // The window of a drawn control (chart, flat button): what the control asks of it, and what it
 // tells the control. Positions in pixels of the control. A control with OnMnemonic is a button.
@@ -124,6 +127,9 @@ class ControlHost : public Widget, public Host {
   std::function<void(std::int16_t button, double x, double y)> OnMouseDown;
   std::function<void(double x, double y)> OnMouseMove;
   std::function<void(std::int16_t button, double x, double y)> OnMouseUp;
+  std::function<void()> OnDoubleClick;  // of the left button, for its second press; empty: a press
+  // The wheel was turned by so many notches, away from the user; empty: others may take it.
+  std::function<void(double notches, double x, double y)> OnMouseWheel;
   std::function<void()> OnCaptureLost;  // the system took the mouse away
   std::function<void(std::int16_t keyCode)> OnKeyDown;
   std::function<void(std::int16_t keyCode)> OnKeyUp;
@@ -135,6 +141,7 @@ class ControlHost : public Widget, public Host {
   std::function<Spoken()> ReadAloud;             // asked again whenever it was drawn anew
   // Whether the control takes this key itself; others move the focus or press the window's buttons.
   std::function<bool(std::int16_t keyCode)> WantsKey;
+  std::function<PointerShape()> Pointer;  // of the mouse over the control; empty: an arrow
 
   Spoken Tell() const { return ReadAloud ? ReadAloud() : Spoken{}; }
 };
@@ -166,6 +173,7 @@ class Window : public Widget {
   // being destroyed.
   std::function<void(bool& cancel)> OnQueryUnload;
   std::function<void()> OnAccept;  // Enter, where the widget with the focus has no use for it
+  std::function<void()> OnCancel;  // Esc, likewise
   std::function<void(const std::string& path)> OnDropFile;  // a file was dropped on the window
 };
 
@@ -180,6 +188,9 @@ class Toolkit {
 
   // Where the widgets made from now on lie. The design outlives them.
   virtual void Design(const FormDesign& design) = 0;
+
+  // A toolkit for a window that is shown over this one's: each window has its own.
+  virtual std::unique_ptr<Toolkit> ForAnotherWindow() const = 0;
 
   virtual std::unique_ptr<Window> MakeWindow(std::string_view name) = 0;
   virtual std::unique_ptr<TextBox> MakeTextBox(std::string_view name) = 0;

@@ -89,7 +89,8 @@ class Layout {
 
   int LeftButtonsWidth() const {
     return ButtonWidth(ButtonCaption::kProjectPage) + ButtonWidth(ButtonCaption::kDataPage) +
-           S(kMargin) + ButtonWidth(ButtonCaption::kReCalc);
+           S(kMargin) + ButtonWidth(ButtonCaption::kReCalc) + S(kGap) +
+           ButtonWidth(ButtonCaption::kMap);
   }
 
   int ToolbarWidth() const {
@@ -108,7 +109,8 @@ class Layout {
     };
     button("optPage(1)", ButtonCaption::kProjectPage, 0);
     button("optPage(2)", ButtonCaption::kDataPage, S(kMargin));
-    button("cmdReCalc", ButtonCaption::kReCalc, 0);
+    button("cmdReCalc", ButtonCaption::kReCalc, S(kGap));
+    button("cmdMap", ButtonCaption::kMap, 0);
     left = inner_.width - S(kMargin) - ButtonWidth(ButtonCaption::kDiscardExit) - S(kGap) -
            ButtonWidth(ButtonCaption::kSaveExit);
     button("cmdSaveExit", ButtonCaption::kSaveExit, S(kGap));

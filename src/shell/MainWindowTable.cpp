@@ -20,7 +20,7 @@ constexpr std::array kSiteRows = {
     FieldRow{{"lblRunoffCoefficient", "Runoff c&oefficient"},
              "txtRunoffCoefficient",
              {"lblRunoffCoefficientUnit", "0 to 1"}},
-    FieldRow{{"lblEquivalentImperviousArea", "Equivalent i&mpervious area"},
+    FieldRow{{"lblEquivalentImperviousArea", "E&quivalent impervious area"},
              "txtEquivalentImperviousArea",
              {"lblEquivalentImperviousAreaUnit", "acres (EIA)"}},
     FieldRow{{"lblIrrigationArea", "Irri&gation area"},
@@ -63,6 +63,7 @@ constexpr std::array kToolbar = {
     WidgetDesign{"optPage(1)", "picToolbar"},
     WidgetDesign{"optPage(2)", "picToolbar"},
     WidgetDesign{"cmdReCalc", "picToolbar"},
+    WidgetDesign{"cmdMap", "picToolbar"},
     WidgetDesign{"cmdSaveExit", "picToolbar"},
     WidgetDesign{"cmdDiscardExit", "picToolbar"},
 };
@@ -83,6 +84,8 @@ constexpr std::array kMenus = {
     WidgetDesign{"mnuReCalc", "mnuView", WidgetStyle::Separated},
     WidgetDesign{"mnuHelp", ""},
     WidgetDesign{"mnuHelp_Message", "mnuHelp"},
+    WidgetDesign{"mnuHelp_Map", "mnuHelp"},
+    WidgetDesign{"mnuHelp_About", "mnuHelp", WidgetStyle::Separated},
 };
 
 std::vector<WidgetDesign> MakeWidgets() {

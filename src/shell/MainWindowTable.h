@@ -49,6 +49,7 @@ namespace ButtonCaption {
 inline constexpr std::string_view kProjectPage = "&Project";
 inline constexpr std::string_view kDataPage = "&Data";
 inline constexpr std::string_view kReCalc = "Re&calculate";
+inline constexpr std::string_view kMap = "Station &map";
 inline constexpr std::string_view kSaveExit = "&Save and exit";
 inline constexpr std::string_view kDiscardExit = "Discard and e&xit";
 inline constexpr std::string_view kToday = "Toda&y";

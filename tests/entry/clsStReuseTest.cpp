@@ -15,35 +15,6 @@ namespace {
 using test::ProjectLines;
 using test::ProjectText;
 
-// Hands the window's toolkit to the test; the test's one lives on when the window goes.
-class SharedToolkit final : public Toolkit {
- public:
-  explicit SharedToolkit(HeadlessToolkit& shared) : shared_(shared) {}
-  void Design(const FormDesign& design) override { shared_.Design(design); }
-  std::unique_ptr<Window> MakeWindow(std::string_view n) override { return shared_.MakeWindow(n); }
-  std::unique_ptr<TextBox> MakeTextBox(std::string_view n) override {
-    return shared_.MakeTextBox(n);
-  }
-  std::unique_ptr<ComboBox> MakeComboBox(std::string_view n) override {
-    return shared_.MakeComboBox(n);
-  }
-  std::unique_ptr<Label> MakeLabel(std::string_view n) override { return shared_.MakeLabel(n); }
-  std::unique_ptr<Panel> MakePanel(std::string_view n) override { return shared_.MakePanel(n); }
-  std::unique_ptr<OptionButton> MakeOptionButton(std::string_view n) override {
-    return shared_.MakeOptionButton(n);
-  }
-  std::unique_ptr<MenuItem> MakeMenuItem(std::string_view n) override {
-    return shared_.MakeMenuItem(n);
-  }
-  std::unique_ptr<ControlHost> MakeControlHost(std::string_view n) override {
-    return shared_.MakeControlHost(n);
-  }
-  std::unique_ptr<Timer> MakeTimer() override { return shared_.MakeTimer(); }
-
- private:
-  HeadlessToolkit& shared_;
-};
-
 class clsStReuseTest : public testing::Test {
  protected:
   clsStReuseTest() {
@@ -74,8 +45,7 @@ class clsStReuseTest : public testing::Test {
   test::TempFolder folder_;
   HeadlessDesktop desktop_;
   HeadlessToolkit toolkit_;
-  ReuseModule module_{folder_.Path(), desktop_,
-                      [this] { return std::make_unique<SharedToolkit>(toolkit_); }};
+  ReuseModule module_{folder_.Path(), desktop_, [this] { return toolkit_.ForAnotherWindow(); }};
   clsStReuse entry_{module_};
   bool wasShown_ = false;
   std::string p1_ = "host's own";

@@ -18,6 +18,9 @@ class HostToolkit final : public Toolkit {
     return host;
   }
   void Design(const FormDesign&) override {}
+  std::unique_ptr<Toolkit> ForAnotherWindow() const override {
+    return std::make_unique<HostToolkit>(parent_);
+  }
   std::unique_ptr<Window> MakeWindow(std::string_view name) override {
     return headless_.MakeWindow(name);
   }

@@ -24,6 +24,11 @@ PageOpening HeadlessDesktop::OpenPage(const std::string& path) {
   return pageAnswer_;
 }
 
+std::optional<Picture> HeadlessDesktop::ReadPicture(const std::string& path) {
+  readPictures_.push_back(path);
+  return pictureAnswer_;
+}
+
 bool HeadlessDesktop::CopyToClipboard(const ClipboardContent& content) {
   if (!clipboardIsFree_) return false;
   clipboard_ = content;

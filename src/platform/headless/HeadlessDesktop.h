@@ -27,6 +27,7 @@ class HeadlessDesktop final : public Desktop {
   std::string ChooseFileToSave(const FileDialog& dialog) override { return Choose(dialog); }
   std::optional<std::string> DocumentsFolder() override { return documentsFolder_; }
   PageOpening OpenPage(const std::string& path) override;
+  std::optional<Picture> ReadPicture(const std::string& path) override;
   bool CopyToClipboard(const ClipboardContent& content) override;
   CalendarDate Today() override { return now_.date; }
   ClockTime Now() override { return now_; }
@@ -49,6 +50,9 @@ class HeadlessDesktop final : public Desktop {
   // What comes of the next pages that are opened.
   void AnswerPage(PageOpening answer) { pageAnswer_ = answer; }
 
+  // What is found in the pictures that are read next.
+  void AnswerPicture(std::optional<Picture> picture) { pictureAnswer_ = std::move(picture); }
+
   // Whether the clipboard can be had; at first it can.
   void ClipboardIsFree(bool isFree) { clipboardIsFree_ = isFree; }
 
@@ -56,6 +60,7 @@ class HeadlessDesktop final : public Desktop {
   const std::vector<Message>& Messages() const { return messages_; }
   const std::vector<FileDialog>& FileDialogs() const { return fileDialogs_; }
   const std::vector<std::string>& OpenedPages() const { return openedPages_; }
+  const std::vector<std::string>& ReadPictures() const { return readPictures_; }
   const std::optional<ClipboardContent>& Clipboard() const { return clipboard_; }
   int Beeps() const { return beeps_; }
   void ForgetMessages() { messages_.clear(); }
@@ -69,6 +74,8 @@ class HeadlessDesktop final : public Desktop {
   std::optional<std::string> documentsFolder_;
   std::vector<std::string> openedPages_;
   PageOpening pageAnswer_ = PageOpening::Opened;
+  std::vector<std::string> readPictures_;
+  std::optional<Picture> pictureAnswer_;
   std::optional<ClipboardContent> clipboard_;
   ClockTime now_{{2000, 1, 1}, 0, 0, 0};
   std::unique_ptr<Printer> printer_;

@@ -24,8 +24,20 @@ std::size_t CharacterLength(char lead) {
 
 }  // namespace
 
+std::unique_ptr<Toolkit> HeadlessToolkit::ForAnotherWindow() const {
+  auto toolkit = std::make_unique<HeadlessToolkit>();
+  toolkit->widgets_ = widgets_;
+  toolkit->whenShown_ = whenShown_;
+  return toolkit;
+}
+
 std::unique_ptr<Window> HeadlessToolkit::MakeWindow(std::string_view name) {
-  return std::make_unique<HeadlessWindow>(widgets_, name);
+  auto window = std::make_unique<HeadlessWindow>(widgets_, name);
+  window->OnShown = [works = whenShown_, name = std::string(name)] {
+    const auto work = works->find(name);
+    if (work != works->end() && work->second) work->second();
+  };
+  return window;
 }
 std::unique_ptr<TextBox> HeadlessToolkit::MakeTextBox(std::string_view name) {
   return std::make_unique<HeadlessTextBox>(widgets_, name);
@@ -160,6 +172,10 @@ void HeadlessToolkit::DropFile(std::string_view window, const std::string& path)
   auto& target = Find<HeadlessWindow>(window);
   RequireReachable(window, target);
   if (target.OnDropFile) target.OnDropFile(path);
+}
+
+void HeadlessToolkit::WhenShown(std::string_view window, std::function<void()> work) {
+  whenShown_->insert_or_assign(std::string(window), std::move(work));
 }
 
 bool HeadlessToolkit::CloseByFrame(std::string_view window) {

@@ -15,6 +15,8 @@ namespace orvik {
 // std::logic_error where a user could not do it either (the widget is hidden, disabled or locked).
 class HeadlessToolkit final : public Toolkit {
  public:
+  // Its widgets are found here, too.
+  std::unique_ptr<Toolkit> ForAnotherWindow() const override;
   void Design(const FormDesign&) override {}
   std::unique_ptr<Window> MakeWindow(std::string_view name) override;
   std::unique_ptr<TextBox> MakeTextBox(std::string_view name) override;
@@ -51,6 +53,9 @@ class HeadlessToolkit final : public Toolkit {
   // Drops a file on the window.
   void DropFile(std::string_view window, const std::string& path);
 
+  // What the user does in the window of this name whenever it is shown modally.
+  void WhenShown(std::string_view window, std::function<void()> work);
+
   // Closes the window by its frame. True when it may be destroyed.
   bool CloseByFrame(std::string_view window);
 
@@ -69,7 +74,10 @@ class HeadlessToolkit final : public Toolkit {
   void MoveFocus(std::string_view textBox);
   void CommitEdit();
 
+  using Works = std::map<std::string, std::function<void()>, std::less<>>;
+
   std::shared_ptr<WidgetRegistry> widgets_ = std::make_shared<WidgetRegistry>();
+  std::shared_ptr<Works> whenShown_ = std::make_shared<Works>();
   std::string focus_;
 };
 

@@ -204,9 +204,13 @@ STDMETHODIMP ControlAccessible::get_accRole(VARIANT child, VARIANT* role) {
   *role = VARIANT{};
   if (!IsConnected()) return CO_E_OBJNOTCONNECTED;
   if (!IsItself(child)) return E_INVALIDARG;
-  role->vt = VT_I4;
-  role->lVal = control_->OnMnemonic ? ROLE_SYSTEM_PUSHBUTTON : ROLE_SYSTEM_CHART;
-  return S_OK;
+  return Guarded([&] {
+    role->lVal = control_->OnMnemonic         ? ROLE_SYSTEM_PUSHBUTTON
+                 : control_->Tell().isPicture ? ROLE_SYSTEM_GRAPHIC
+                                              : ROLE_SYSTEM_CHART;
+    role->vt = VT_I4;
+    return S_OK;
+  });
 }
 
 // Over a window that waits for a dialog or a message box nothing can be pressed.

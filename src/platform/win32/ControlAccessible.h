@@ -13,7 +13,7 @@ namespace orvik {
 
 // The system's own object of the control's window, which knows its place, its state, its keys and
 // its neighbours; name, value, role and the press of a button are the control's. A button has the
-// role of a push button, any other drawn control that of a chart.
+// role of a push button, a picture that of a graphic, any other drawn control that of a chart.
 //
 // Clients may keep it for longer than the window lives: every question then fails with
 // CO_E_OBJNOTCONNECTED. The module stays loaded as long as it is kept.

@@ -55,11 +55,11 @@ NativeControlHost::~NativeControlHost() {
 }
 
 // The device context is the window's own, so that what is drawn between two paintings needs none
-// to be fetched. Two quick presses are two presses. No background: the control paints all of it.
+// to be fetched. No background: the control paints all of it.
 WNDCLASSEXW NativeControlHost::Describe(HINSTANCE module) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
-  description.style = CS_OWNDC;
+  description.style = CS_OWNDC | CS_DBLCLKS;
   description.lpfnWndProc = &Procedure;
   description.hInstance = module;
   description.hCursor = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
@@ -189,8 +189,16 @@ LRESULT NativeControlHost::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
       ::SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
       window_ = nullptr;
       break;
+    case WM_MOUSEWHEEL:
+      if (AnswerWheel(wParam, lParam)) return 0;
+      break;
+    case WM_SETCURSOR:
+      if (LOWORD(lParam) == HTCLIENT && ShowPointer()) return TRUE;
+      break;
     default:
-      if (WM_MOUSEMOVE <= message && message <= WM_MBUTTONUP) return AnswerMouse(message, lParam);
+      if (WM_MOUSEMOVE <= message && message <= WM_MBUTTONDBLCLK) {
+        return AnswerMouse(message, lParam);
+      }
       break;
   }
   return ::DefWindowProcW(window, message, wParam, lParam);
@@ -207,10 +215,15 @@ LRESULT NativeControlHost::AnswerMouse(UINT message, LPARAM position) {
       ::SetFocus(window_);
       Press(kLeftButton, x, y);
       break;
+    case WM_LBUTTONDBLCLK:
+      PressAgain(x, y);
+      break;
     case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
       Press(kRightButton, x, y);
       break;
     case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
       Press(kMiddleButton, x, y);
       break;
     case WM_LBUTTONUP:
@@ -226,6 +239,33 @@ LRESULT NativeControlHost::AnswerMouse(UINT message, LPARAM position) {
       break;
   }
   return 0;
+}
+
+// To a control that knows no double click, two quick presses are two presses.
+void NativeControlHost::PressAgain(double x, double y) {
+  ::SetFocus(window_);
+  if (OnDoubleClick) {
+    OnDoubleClick();
+  } else {
+    Press(kLeftButton, x, y);
+  }
+}
+
+// The message has its place on the screen.
+bool NativeControlHost::AnswerWheel(WPARAM turn, LPARAM position) {
+  if (!OnMouseWheel) return false;
+  POINT at{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+  ::ScreenToClient(window_, &at);
+  OnMouseWheel(GET_WHEEL_DELTA_WPARAM(turn) / double{WHEEL_DELTA}, at.x, at.y);
+  return true;
+}
+
+// The pointer of a control that has an opinion of it.
+bool NativeControlHost::ShowPointer() const {
+  if (!Pointer) return false;
+  const bool isHand = Pointer() == PointerShape::Hand;
+  ::SetCursor(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(isHand ? IDC_HAND : IDC_ARROW)));
+  return true;
 }
 
 void NativeControlHost::Press(std::int16_t button, double x, double y) {

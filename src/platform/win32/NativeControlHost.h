@@ -39,6 +39,9 @@ class NativeControlHost final : public ControlHost {
 
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT AnswerMouse(UINT message, LPARAM position);
+  bool AnswerWheel(WPARAM turn, LPARAM position);
+  void PressAgain(double x, double y);
+  bool ShowPointer() const;
   LRESULT AnswerFocus(bool gained);
   LRESULT AnswerKeyQuestion(const MSG* key) const;
   void Paint();

@@ -5,6 +5,7 @@
 #include "platform/win32/Dpi.h"
 #include "platform/win32/FileDialogs.h"
 #include "platform/win32/GdiPrinter.h"
+#include "platform/win32/PictureReader.h"
 #include "platform/win32/ShellFolder.h"
 #include "platform/win32/VisualStyles.h"
 #include "platform/win32/WideText.h"
@@ -64,6 +65,10 @@ std::unique_ptr<Printer> NativeDesktop::OpenPrinter() {
 
 PageOpening NativeDesktop::OpenPage(const std::string& path) {
   return OpenInBrowser(::GetActiveWindow(), path);
+}
+
+std::optional<Picture> NativeDesktop::ReadPicture(const std::string& path) {
+  return ReadPictureFile(path);
 }
 
 bool NativeDesktop::CopyToClipboard(const ClipboardContent& content) {

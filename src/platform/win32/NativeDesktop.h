@@ -23,6 +23,7 @@ class NativeDesktop final : public Desktop {
   ClockTime Now() override;
   std::unique_ptr<Printer> OpenPrinter() override;
   PageOpening OpenPage(const std::string& path) override;
+  std::optional<Picture> ReadPicture(const std::string& path) override;
   bool CopyToClipboard(const ClipboardContent& content) override;
 
  private:

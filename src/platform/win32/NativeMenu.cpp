@@ -79,8 +79,9 @@ bool NativeMenuBar::IsReachable(const Row& row, std::span<const Row> rows) const
 
 void NativeMenuBar::Rebuild() {
   if (!isAttached_ || !window_) return;
+  const std::vector<Row> rows = Rows();
   const HMENU before = ::GetMenu(window_);
-  ::SetMenu(window_, Build(Rows()));
+  ::SetMenu(window_, rows.empty() ? nullptr : Build(rows));
   if (before) ::DestroyMenu(before);
 }
 

@@ -10,15 +10,16 @@ namespace {
 
 constexpr WPARAM kSelectAll = 1;  // Ctrl+A as a character
 
-ChildStyle StyleOf(bool wrapped) {
-  const DWORD lines = wrapped ? ES_MULTILINE | ES_AUTOVSCROLL : ES_AUTOHSCROLL;
-  return {L"EDIT", WS_TABSTOP | lines, WS_EX_CLIENTEDGE};
+ChildStyle ChildStyleOf(WidgetStyle style) {
+  const bool isWrapped = style == WidgetStyle::Wrapped;
+  const DWORD lines = isWrapped ? ES_MULTILINE | ES_AUTOVSCROLL : ES_AUTOHSCROLL;
+  return {L"EDIT", WS_TABSTOP | lines, style == WidgetStyle::Bare ? 0U : DWORD{WS_EX_CLIENTEDGE}};
 }
 
 }  // namespace
 
-NativeTextBox::NativeTextBox(HINSTANCE module, HWND parent, bool wrapped)
-    : NativeWidget(module, parent, StyleOf(wrapped)), wrapped_(wrapped) {
+NativeTextBox::NativeTextBox(HINSTANCE module, HWND parent, WidgetStyle style)
+    : NativeWidget(module, parent, ChildStyleOf(style)), wrapped_(style == WidgetStyle::Wrapped) {
   ::SendMessageW(Handle(), EM_SETLIMITTEXT, 0, 0);  // as much as the control can hold
   BackColor(backColor_);
 }

@@ -11,8 +11,8 @@ namespace orvik {
 class NativeTextBox final : public NativeWidget<TextBox> {
  public:
   // Wrapped: the line of text runs over several lines of the screen; line ends that are pasted
-  // become blanks.
-  NativeTextBox(HINSTANCE module, HWND parent, bool wrapped);
+  // become blanks. Bare: without a frame. Any other style has the frame of a field.
+  NativeTextBox(HINSTANCE module, HWND parent, WidgetStyle style);
 
   std::string Text() const override;
   void Text(std::string_view text) override;

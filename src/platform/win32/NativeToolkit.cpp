@@ -17,10 +17,10 @@
 namespace orvik {
 namespace {
 
-bool IsWrapped(const FormDesign& design, std::string_view name) {
+WidgetStyle StyleOf(const FormDesign& design, std::string_view name) {
   const auto widgets = design.Widgets();
   const auto row = std::ranges::find(widgets, name, &WidgetDesign::name);
-  return row != widgets.end() && row->style == WidgetStyle::Wrapped;
+  return row == widgets.end() ? WidgetStyle::Plain : row->style;
 }
 
 }  // namespace
@@ -44,6 +44,10 @@ std::unique_ptr<Widget> NativeToolkit::MakeControl(std::string_view name, Argume
   return widget;
 }
 
+std::unique_ptr<Toolkit> NativeToolkit::ForAnotherWindow() const {
+  return std::make_unique<NativeToolkit>(module_);
+}
+
 std::unique_ptr<Window> NativeToolkit::MakeWindow(std::string_view) {
   if (!design_) throw std::logic_error("A window needs a design.");
   const ThreadDpiScope scaling;
@@ -54,7 +58,7 @@ std::unique_ptr<Window> NativeToolkit::MakeWindow(std::string_view) {
 }
 
 std::unique_ptr<TextBox> NativeToolkit::MakeTextBox(std::string_view name) {
-  return MakeControl<NativeTextBox>(name, IsWrapped(CurrentWindow().Design(), name));
+  return MakeControl<NativeTextBox>(name, StyleOf(CurrentWindow().Design(), name));
 }
 
 std::unique_ptr<ComboBox> NativeToolkit::MakeComboBox(std::string_view name) {

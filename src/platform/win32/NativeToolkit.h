@@ -18,6 +18,7 @@ class NativeToolkit final : public Toolkit {
   // for the controls' look (2).
   explicit NativeToolkit(HINSTANCE module) : module_(module) {}
 
+  std::unique_ptr<Toolkit> ForAnotherWindow() const override;
   void Design(const FormDesign& design) override { design_ = &design; }
   std::unique_ptr<Window> MakeWindow(std::string_view name) override;
   std::unique_ptr<TextBox> MakeTextBox(std::string_view name) override;

@@ -36,6 +36,18 @@ BOOL CALLBACK Tell(HWND child, LPARAM message) {
   return TRUE;
 }
 
+DWORD StyleOf(WindowFrame frame) {
+  switch (frame) {
+    case WindowFrame::Main:
+      return WS_OVERLAPPEDWINDOW;
+    case WindowFrame::Sizable:
+      return WS_OVERLAPPEDWINDOW & ~static_cast<DWORD>(WS_MINIMIZEBOX);
+    case WindowFrame::FixedSize:
+      return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU;
+  }
+  return WS_OVERLAPPEDWINDOW;
+}
+
 SIZE SizeOf(const RECT& area) {
   return {area.right - area.left, area.bottom - area.top};
 }
@@ -50,9 +62,10 @@ SIZE Smaller(SIZE a, SIZE b) {
 
 NativeWindow::NativeWindow(HINSTANCE module, const FormDesign& design)
     : design_(design), class_(Describe(module)), font_(kUsualDpi) {
-  window_ = ::CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_NOINHERITLAYOUT, class_.Name(), L"",
-                              WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
-                              CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, module, nullptr);
+  window_ =
+      ::CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_NOINHERITLAYOUT, class_.Name(), L"",
+                        StyleOf(design.Frame()) | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
+                        CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, module, nullptr);
   if (!window_) ThrowSystemError("The window cannot be made");
   ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   font_ = MessageFont(DpiOf(window_));
@@ -162,8 +175,13 @@ void NativeWindow::CentreOver(HWND owner) {
        static_cast<int>(size.cx), static_cast<int>(size.cy));
 }
 
-// The first field of the page that shows; the toolbar above it is reached backwards.
+// If the design names none, the first field of the page that shows; the toolbar above it is reached
+// backwards.
 void NativeWindow::FocusFirst() const {
+  if (const HWND named = FindControl(window_, design_, design_.FirstFocus())) {
+    ::SetFocus(named);
+    return;
+  }
   for (HWND panel = ::GetWindow(window_, GW_CHILD); panel;
        panel = ::GetWindow(panel, GW_HWNDNEXT)) {
     if (::IsWindowVisible(panel)) {
@@ -272,7 +290,10 @@ void NativeWindow::AnswerCommand(WORD command) {
     if (OnAccept) OnAccept();
     return;
   }
-  if (command == IDCANCEL) return;  // Esc, where nobody has a use for it
+  if (command == IDCANCEL) {  // Esc
+    if (OnCancel) OnCancel();
+    return;
+  }
   CommitEdit();
   menu_->Run(command);
 }

@@ -1,0 +1,11 @@
+// The module's version as its windows write it.
+#pragma once
+
+#include <string>
+
+namespace orvik {
+
+// Major, minor and build number, the last in four digits at least: "3.3.0001".
+std::string VersionText();
+
+}  // namespace orvik

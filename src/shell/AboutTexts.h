@@ -1,0 +1,20 @@
+// What the about box tells.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvik::AboutText {
+
+inline constexpr std::string_view kTitle = "ORVIK 3.3 Stormwater Harvesting Module";
+inline constexpr std::string_view kCopyright =
+    "Copyright (c) 2026 The ORVIK stormwater harvesting module authors";
+inline constexpr std::string_view kOk = "OK";
+
+// "Version 3.3.0001".
+std::string Version();
+
+// Where the curves come from and the licences; lines end at CR LF.
+std::string Details();
+
+}  // namespace orvik::AboutText
