@@ -8,6 +8,7 @@
 #include "shell/SmallWindows.h"
 #include "shell/frmClimateStations.h"
 #include "support/FormFixture.h"
+#include "support/RecordingHost.h"
 
 namespace orvik {
 namespace {
@@ -83,6 +84,20 @@ TEST_F(SmallWindowsTest, AMissingOrDamagedPictureLeavesTheViewerEmptyWithoutAMes
   EXPECT_EQ(told, "no picture");
   EXPECT_TRUE(desktop_.Messages().empty());
   EXPECT_EQ(desktop_.Beeps(), 0);
+}
+
+TEST(SmallWindowsChart, IsRedrawnOnceTheMapIsClosed) {
+  HeadlessToolkit toolkit;
+  HeadlessDesktop desktop;
+  ctrlStormwaterReuse chart(desktop, "");
+  test::RecordingHost host;
+  chart.AttachHost(&host);
+  SmallWindows windows(toolkit, desktop, chart, "");
+  toolkit.WhenShown("frmClimateStations", [&] { host.Log("the map"); });
+  host.Take();
+  windows.cmdMap_Click();
+  EXPECT_THAT(host.Take(), testing::ElementsAre("the map", "invalidate"));
+  chart.AttachHost(nullptr);
 }
 
 TEST_F(SmallWindowsTest, EscClosesTheMap) {

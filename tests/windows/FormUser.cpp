@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <stdexcept>
 #include <thread>
 
@@ -29,10 +30,11 @@ void SendKey(WORD code, DWORD flags) {
   ::SendInput(1, &input, sizeof input);
 }
 
-void SendMouse(DWORD flags) {
+void SendMouse(DWORD flags, int turn = 0) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi.dwFlags = flags;
+  input.mi.mouseData = static_cast<DWORD>(turn);
   ::SendInput(1, &input, sizeof input);
 }
 
@@ -58,11 +60,19 @@ void ClickAt(HWND window, POINT at) {
   }
 }
 
-BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
+struct DialogSearch {
+  HWND owner;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK FindDialog(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<DialogSearch*>(parameter);
   std::array<wchar_t, 16> name{};
   ::GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  if (!::IsWindowVisible(window) || std::wstring_view(name.data()) != L"#32770") return TRUE;
-  *reinterpret_cast<HWND*>(found) = window;
+  const std::wstring_view kind(name.data());
+  const bool isOurs = kind == L"OrvikForm" && ::GetWindow(window, GW_OWNER) == search.owner;
+  if (!::IsWindowVisible(window) || (kind != L"#32770" && !isOurs)) return TRUE;
+  search.found = window;
   return FALSE;
 }
 
@@ -77,7 +87,11 @@ std::string TextOf(HWND window) {
   return Utf8FromWide(text);
 }
 
-FormUser::FormUser(HWND window) {
+FormUser::FormUser() : design_(&MainWindowDesign::Get()) {}
+
+FormUser::FormUser(HWND window) : FormUser(window, MainWindowDesign::Get()) {}
+
+FormUser::FormUser(HWND window, const FormDesign& design) : design_(&design) {
   Watch(window);
 }
 
@@ -102,7 +116,7 @@ FormUser FormUser::WaitFor(DWORD process) {
 // --- What a user sees ---
 
 HWND FormUser::Find(std::string_view widget) const {
-  return FindControl(window_, MainWindowDesign::Get(), widget);
+  return FindControl(window_, *design_, widget);
 }
 
 std::string FormUser::Text(std::string_view widget) const {
@@ -133,7 +147,7 @@ std::string FormUser::Focus() const {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;
   ::GetGUIThreadInfo(thread_id_, &info);
-  for (const WidgetDesign& widget : MainWindowWidgets()) {
+  for (const WidgetDesign& widget : design_->Widgets()) {
     const HWND control = Find(widget.name);
     if (control && control == info.hwndFocus) return std::string(widget.name);
   }
@@ -141,9 +155,19 @@ std::string FormUser::Focus() const {
 }
 
 HWND FormUser::Dialog() const {
-  HWND found = nullptr;
-  ::EnumThreadWindows(thread_id_, &FindDialog, reinterpret_cast<LPARAM>(&found));
-  return found;
+  DialogSearch search{window_};
+  ::EnumThreadWindows(thread_id_, &FindDialog, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+FormUser FormUser::WaitForWindow(std::string_view caption, const FormDesign& design) const {
+  HWND opened = nullptr;
+  const bool isOpen = Until([&] {
+    opened = Dialog();
+    return opened && TextOf(opened) == caption && ::GetForegroundWindow() == opened;
+  });
+  if (!isOpen) throw std::runtime_error("There is no window " + std::string(caption));
+  return FormUser(opened, design);
 }
 
 bool FormUser::Until(const std::function<bool()>& isSo) const {
@@ -217,13 +241,25 @@ void FormUser::Choose(std::string_view list, std::string_view item) {
   if (!isChosen) throw std::runtime_error(std::string(list) + " shows " + Text(list));
 }
 
-void FormUser::DragOnChart(POINT from, POINT to) {
-  const HWND chart = Find("ctrlStormwaterReuse1");
-  MouseTo(chart, from);
+void FormUser::Drag(std::string_view widget, POINT from, POINT to) {
+  const HWND control = Find(widget);
+  MouseTo(control, from);
   SendMouse(MOUSEEVENTF_LEFTDOWN);
-  MouseTo(chart, {(from.x + to.x) / 2, (from.y + to.y) / 2});
-  MouseTo(chart, to);
+  MouseTo(control, {(from.x + to.x) / 2, (from.y + to.y) / 2});
+  MouseTo(control, to);
   SendMouse(MOUSEEVENTF_LEFTUP);
+}
+
+void FormUser::TurnWheel(std::string_view widget, POINT at, int notches) {
+  MouseTo(Find(widget), at);
+  for (int i = 0; i < std::abs(notches); ++i) {
+    SendMouse(MOUSEEVENTF_WHEEL, notches > 0 ? WHEEL_DELTA : -WHEEL_DELTA);
+  }
+}
+
+void FormUser::DoubleClick(std::string_view widget) {
+  Click(widget);
+  Click(widget);
 }
 
 void FormUser::ClickMenu(std::string_view item) {
@@ -273,7 +309,30 @@ std::string ReadMessage(std::string_view title) {
   return {};
 }
 
+// --- Clipboard ---
+
+std::string ClipboardText() {
+  if (!::OpenClipboard(nullptr)) return {};
+  std::string text;
+  const HANDLE memory = ::GetClipboardData(CF_UNICODETEXT);
+  if (const auto* wide = static_cast<const wchar_t*>(memory ? ::GlobalLock(memory) : nullptr)) {
+    text = Utf8FromWide(wide);
+    ::GlobalUnlock(memory);
+  }
+  ::CloseClipboard();
+  return text;
+}
+
 // --- Pictures ---
+
+std::uint32_t ColourAt(HWND window, POINT at) {
+  const ThreadDpiScope scaling;
+  ::ClientToScreen(window, &at);
+  const MemoryScreen copy({1, 1});
+  const WindowDc screen(nullptr);
+  ::BitBlt(copy.Dc(), 0, 0, 1, 1, screen.Get(), at.x, at.y, SRCCOPY);
+  return copy.At({0, 0});
+}
 
 void Screenshot(HWND window, const std::string& path) {
   const ThreadDpiScope scaling;

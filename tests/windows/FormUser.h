@@ -5,10 +5,13 @@
 #include <windows.h>
 
 #include <atomic>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/FormDesign.h"
 
 namespace orvik::test {
 
@@ -25,7 +28,8 @@ class FormUser {
   static FormUser WaitFor(DWORD process = 0);
 
   explicit FormUser(HWND window);
-  FormUser(const FormUser& other) : FormUser(other.Window()) {}
+  FormUser(HWND window, const FormDesign& design);
+  FormUser(const FormUser& other) : FormUser(other.Window(), *other.design_) {}
   FormUser& operator=(const FormUser&) = delete;
   ~FormUser() = default;
 
@@ -40,8 +44,13 @@ class FormUser {
   std::vector<std::string> Menus() const;  // the captions of the menu bar
   std::string Focus() const;  // the widget that has the keyboard; empty for none of ours
 
-  // The dialog or message box that stands over the window, once there is one.
+  // The dialog or message box that stands over the window, once there is one, or another window of
+  // the module.
   HWND Dialog() const;
+
+  // Waits for a window of the module with this caption over this one, shown and active. Throws
+  // where none comes.
+  FormUser WaitForWindow(std::string_view caption, const FormDesign& design) const;
 
   // Waits until it is so; false where it does not come about in time.
   bool Until(const std::function<bool()>& isSo) const;
@@ -55,7 +64,9 @@ class FormUser {
   void Type(std::string_view field, std::string_view text);  // in place of what is there
   void DropDown(std::string_view list);                      // and leaves it open
   void Choose(std::string_view list, std::string_view item);
-  void DragOnChart(POINT from, POINT to);  // pixels of the chart
+  void Drag(std::string_view widget, POINT from, POINT to);        // pixels of the widget
+  void TurnWheel(std::string_view widget, POINT at, int notches);  // away from the user
+  void DoubleClick(std::string_view widget);
   void ClickMenu(std::string_view item);
   void CloseByFrame();
 
@@ -63,11 +74,12 @@ class FormUser {
   void AnswerDialog(int button, std::string_view fileName = {});
 
  protected:
-  FormUser() = default;  // before the window is made
+  FormUser();  // of the main window, before it is made
 
   void Watch(HWND window);
 
  private:
+  const FormDesign* design_;
   std::atomic<HWND> window_{nullptr};
   std::atomic<DWORD> thread_id_{0};
 };
@@ -77,6 +89,12 @@ std::string TextOf(HWND window);
 
 // Waits for a message box of this title, presses its OK and tells its text; empty where none comes.
 std::string ReadMessage(std::string_view title);
+
+// The text on the clipboard; empty while another program has it.
+std::string ClipboardText();
+
+// 0x00RRGGBB at a point of the window, as it is on the screen.
+std::uint32_t ColourAt(HWND window, POINT at);
 
 // Writes a picture of the window, with its frame, as it is on the screen.
 void Screenshot(HWND window, const std::string& path);

@@ -255,31 +255,19 @@ TEST(MainWindowHost, ACallWhileTheWindowIsOpenIsRefused) {
 
 // --- Clipboard ---
 
-std::string ClipboardText(HWND owner) {
-  if (!::OpenClipboard(owner)) return {};
-  std::string text;
-  const HANDLE memory = ::GetClipboardData(CF_UNICODETEXT);
-  if (const auto* wide = static_cast<const wchar_t*>(memory ? ::GlobalLock(memory) : nullptr)) {
-    text = Utf8FromWide(wide);
-    ::GlobalUnlock(memory);
-  }
-  ::CloseClipboard();
-  return text;
-}
-
 TEST(MainWindowClipboard, TheChartIsCopiedAsPicturesAndText) {
   FormOnScreen form(1);
   form.Choose("cmbClimateStation", "Tampa");
   RECT inner{};
   ::GetClientRect(form.Find("ctrlStormwaterReuse1"), &inner);
   const POINT point{inner.right / 2, inner.bottom * 5 / 8};  // among the curves
-  form.DragOnChart(point, point);
+  form.Drag("ctrlStormwaterReuse1", point, point);
   ASSERT_TRUE(form.Until([&] { return !form.Text("txtE").empty(); }));
   form.Press({'C', {VK_CONTROL}});
   const std::string expected = "R (in/day)\tV (in)\tE (%)\r\n" + form.Text("txtR") + "\t" +
                                form.Text("txtV") + "\t" + form.Text("txtE") + "\r\n";
-  EXPECT_TRUE(form.Until([&] { return ClipboardText(nullptr) == expected; }))
-      << ClipboardText(nullptr);
+  EXPECT_TRUE(form.Until([&] { return test::ClipboardText() == expected; }))
+      << test::ClipboardText();
   EXPECT_TRUE(::IsClipboardFormatAvailable(CF_ENHMETAFILE));
   EXPECT_TRUE(::IsClipboardFormatAvailable(CF_BITMAP));
 }
@@ -289,7 +277,7 @@ TEST(MainWindowClipboard, InAFieldTheKeyCopiesItsText) {
   form.Type("txtBasinArea", "123.5");
   form.Press({'A', {VK_CONTROL}});
   form.Press({'C', {VK_CONTROL}});
-  EXPECT_TRUE(form.Until([&] { return ClipboardText(nullptr) == "123.5"; }));
+  EXPECT_TRUE(form.Until([&] { return test::ClipboardText() == "123.5"; }));
 }
 
 }  // namespace

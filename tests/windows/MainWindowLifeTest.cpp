@@ -7,6 +7,7 @@
 
 #include "FormOnScreen.h"
 #include "GuiObjects.h"
+#include "ScaledWindow.h"
 #include "base/Paths.h"
 #include "platform/win32/NativeDesktop.h"
 #include "platform/win32/NativeToolkit.h"
@@ -14,8 +15,10 @@
 namespace orvik {
 namespace {
 
+using test::ComeToScaling;
 using test::FormOnScreen;
 using test::GuiObjects;
+using test::WaitUntilPainted;
 
 // --- Nothing is left behind ---
 
@@ -69,13 +72,6 @@ TEST(MainWindowLife, TwoHundredOpeningsLeaveNothingBehind) {
 
 // --- Scaling and pictures ---
 
-// What the system sends when the window comes to a screen of another scaling.
-void ComeToScaling(HWND window, int dpi, SIZE size) {
-  RECT suggested{40, 40, 40 + size.cx, 40 + size.cy};
-  ::SendMessageW(window, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dpi, dpi)),
-                 reinterpret_cast<LPARAM>(&suggested));
-}
-
 int HeightOf(HWND window) {
   RECT outer{};
   ::GetWindowRect(window, &outer);
@@ -91,15 +87,6 @@ TEST(MainWindowLife, FieldsAndTextsGrowWithTheScaling) {
   EXPECT_LE(HeightOf(form.Find("cmbSolveFor")), HeightOf(form.Find("txtBasinArea")) + 3);
   ComeToScaling(form.Window(), 96, {1100, 700});
   EXPECT_EQ(HeightOf(form.Find("txtBasinArea")), field);
-}
-
-// Every pixel below the window is painted before it is looked at.
-void WaitUntilPainted(const FormOnScreen& form) {
-  const HWND window = form.Window();
-  ::SendMessageW(window, WM_NULL, 0, 0);
-  form.Until([&] { return ::GetUpdateRect(window, nullptr, FALSE) == FALSE; });
-  ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-  ::SendMessageW(window, WM_NULL, 0, 0);
 }
 
 class MainWindowPicture : public testing::TestWithParam<const char*> {};

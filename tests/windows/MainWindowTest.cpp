@@ -73,7 +73,7 @@ TEST(MainWindow, TabWalksTheDataPageInTheOrderOfReading) {
   for (const char* next :
        {"txtBasinArea", "txtRunoffCoefficient", "txtEquivalentImperviousArea", "txtIrrigationArea",
         "cmbSolveFor", "txtSolveFor(1)", "txtSolveFor(2)", "txtSolveFor(3)", "txtR", "txtE", "txtV",
-        "ctrlStormwaterReuse1", "txtErrMsg", "optPage(2)", "cmdReCalc", "cmdSaveExit",
+        "ctrlStormwaterReuse1", "txtErrMsg", "optPage(2)", "cmdReCalc", "cmdMap", "cmdSaveExit",
         "cmdDiscardExit", "cmbClimateStation"}) {
     form.Press({VK_TAB, {}});
     EXPECT_TRUE(form.Until([&] { return form.Focus() == next; })) << next << ", " << form.Focus();
@@ -89,7 +89,7 @@ TEST(MainWindow, TabWalksTheProjectPageInTheOrderOfReading) {
   EXPECT_TRUE(form.Until([&] { return form.Focus() == "txtProjectName"; })) << form.Focus();
   for (const char* next :
        {"txtDescription", "txtProjectNumber", "txtEngineer", "txtSuervisingEngineer", "txtDate",
-        "cmdToday", "optPage(1)", "cmdReCalc", "txtProjectName"}) {
+        "cmdToday", "optPage(1)", "cmdReCalc", "cmdMap", "txtProjectName"}) {
     form.Press({VK_TAB, {}});
     EXPECT_TRUE(form.Until([&] { return form.Focus() == next; })) << next << ", " << form.Focus();
   }
@@ -234,7 +234,8 @@ TEST(MainWindow, ADragOnTheChartFillsTheFields) {
   form.Press({VK_TAB, {}});
   RECT inner{};
   ::GetClientRect(form.Find("ctrlStormwaterReuse1"), &inner);
-  form.DragOnChart({inner.right / 2, inner.bottom / 2}, {inner.right / 2 + 20, inner.bottom / 2});
+  form.Drag("ctrlStormwaterReuse1", {inner.right / 2, inner.bottom / 2},
+            {inner.right / 2 + 20, inner.bottom / 2});
   EXPECT_TRUE(form.Until([&] { return !form.Text("txtSolveFor(3)").empty(); }));
   // The site values follow from the normalized ones: S = V x 5 / 12, Q = R x 7 (EIA = IA = 5 ac).
   const double V = std::stod(form.Text("txtV"));
@@ -248,7 +249,8 @@ TEST(MainWindow, ArrowKeysMoveThePointOfAChartReachedByTab) {
   TypeSite(form);
   RECT inner{};
   ::GetClientRect(form.Find("ctrlStormwaterReuse1"), &inner);
-  form.DragOnChart({inner.right / 2, inner.bottom / 2}, {inner.right / 2, inner.bottom / 2});
+  form.Drag("ctrlStormwaterReuse1", {inner.right / 2, inner.bottom / 2},
+            {inner.right / 2, inner.bottom / 2});
   ASSERT_TRUE(form.Until([&] { return !form.Text("txtV").empty(); }));
   const double V = std::stod(form.Text("txtV"));
   form.Press({VK_RIGHT, {}});

@@ -182,7 +182,55 @@ TEST_F(HostWindow, APressOfTheLeftButtonBringsTheFocusFirst) {
 }
 
 TEST_F(HostWindow, TwoQuickPressesAreTwoPresses) {
-  EXPECT_EQ(::GetClassLongPtrW(host_.Handle(), GCL_STYLE) & CS_DBLCLKS, 0U);
+  ::SetFocus(host_.Handle());
+  Take();
+  Send(WM_LBUTTONDBLCLK, MK_LBUTTON, At(5, 6));
+  Send(WM_RBUTTONDBLCLK, MK_RBUTTON, At(5, 7));
+  Send(WM_MBUTTONDBLCLK, MK_MBUTTON, At(5, 8));
+  EXPECT_THAT(Take(), ElementsAre("down 1 5,6", "down 2 5,7", "down 4 5,8"));
+}
+
+TEST_F(HostWindow, TheSecondPressIsADoubleClickToAControlThatKnowsIt) {
+  ::SetFocus(host_.Handle());
+  Take();
+  int doubleClicks = 0;
+  host_.OnDoubleClick = [&] { ++doubleClicks; };
+  Send(WM_LBUTTONDBLCLK, MK_LBUTTON, At(5, 6));
+  Send(WM_RBUTTONDBLCLK, MK_RBUTTON, At(5, 7));
+  EXPECT_EQ(doubleClicks, 1);
+  EXPECT_THAT(Take(), ElementsAre("down 2 5,7"));
+}
+
+// Half a notch towards the user, at a place on the screen.
+TEST_F(HostWindow, TheWheelIsToldInNotchesAtItsPlaceInTheControl) {
+  POINT at{30, 40};
+  ::ClientToScreen(host_.Handle(), &at);
+  const auto turn = static_cast<WPARAM>(MAKELONG(0, static_cast<WORD>(-60)));
+  Send(WM_MOUSEWHEEL, turn, At(at.x, at.y));  // nobody has a use for it
+  double notches = 0;
+  Point told;
+  host_.OnMouseWheel = [&](double n, double x, double y) {
+    notches = n;
+    told = {static_cast<int>(x), static_cast<int>(y)};
+  };
+  Send(WM_MOUSEWHEEL, turn, At(at.x, at.y));
+  EXPECT_EQ(notches, -0.5);
+  EXPECT_EQ(told, (Point{30, 40}));
+}
+
+TEST_F(HostWindow, ThePointerIsWhatTheControlSays) {
+  const LPARAM inside = MAKELONG(HTCLIENT, WM_MOUSEMOVE);
+  const auto send = [&] {
+    return ::SendMessageW(host_.Handle(), WM_SETCURSOR, reinterpret_cast<WPARAM>(host_.Handle()),
+                          inside);
+  };
+  PointerShape shape = PointerShape::Hand;
+  host_.Pointer = [&] { return shape; };
+  EXPECT_NE(send(), 0);
+  EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_HAND)));
+  shape = PointerShape::Arrow;
+  EXPECT_NE(send(), 0);
+  EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW)));
 }
 
 TEST_F(HostWindow, ItsOwnReleaseIsNoLoss) {

@@ -7,7 +7,10 @@
 
 #include "ParentWindow.h"
 #include "ShownByHost.h"
+#include "base/VersionText.h"
 #include "entry/com/Module.h"
+#include "shell/AboutDesign.h"
+#include "shell/ClimateStationsDesign.h"
 #include "support/KavRun.h"
 #include "support/ProjectText.h"
 #include "support/TempFolder.h"
@@ -95,8 +98,8 @@ TEST_F(ShowTest, APointDraggedOnTheChartComesBack) {
     const std::string before = user.Text("txtR");
     RECT inner{};
     ::GetClientRect(user.Find("ctrlStormwaterReuse1"), &inner);
-    user.DragOnChart({inner.right / 2, inner.bottom / 2},
-                     {inner.right * 11 / 20, inner.bottom * 3 / 5});
+    user.Drag("ctrlStormwaterReuse1", {inner.right / 2, inner.bottom / 2},
+              {inner.right * 11 / 20, inner.bottom * 3 / 5});
     const bool moved = user.Until([&] {
       return user.Text("txtR") != before && user.Text("txtSolveFor(3)") != "" &&
              user.Text("txtErrMsg").empty();
@@ -242,6 +245,28 @@ TEST_F(ShowTest, TwentyRunsInARowComeToTheSame) {
     });
     ASSERT_THAT(texts_.second, testing::HasSubstr("\r\n72\r\n")) << run;
   }
+}
+
+// --- The small windows ---
+
+TEST_F(ShowTest, TheStationMapAndTheAboutBoxOpenOverTheWindow) {
+  std::string map;
+  std::string version;
+  ExpectShown(0, [&](FormUser& user) {
+    user.Click("cmdMap");
+    const FormUser stations = user.WaitForWindow("Climate stations", ClimateStationsDesign::Get());
+    map = stations.Text("ctrlPictureViewer1");
+    stations.Press({VK_ESCAPE, {}});
+    user.Until([&] { return ::GetForegroundWindow() == user.Window() && !user.Dialog(); });
+    user.ClickMenu("mnuHelp_About");
+    const FormUser about = user.WaitForWindow("About this module", AboutDesign::Get());
+    version = about.Text("txtVersion");
+    about.Press({VK_RETURN, {}});
+    user.Until([&] { return ::GetForegroundWindow() == user.Window() && !user.Dialog(); });
+    user.Click("cmdDiscardExit");
+  });
+  EXPECT_THAT(map, testing::MatchesRegex("Map of the climate stations: zoom [0-9]+ %"));
+  EXPECT_EQ(version, "Version " + VersionText());
 }
 
 // --- Stand-alone ---
