@@ -14,7 +14,7 @@ struct Section {
 
 constexpr std::array kSections = {
     Section{
-        "Where the design curves come from",
+        "DESIGN CURVES",
         "The curves of the 25 climate stations are computed by ORVIK from public daily rainfall: "
         "records of NOAA's cooperative observers and, for Gainesville after 1983, NOAA's daily "
         "summaries (United States government, public domain). KAV Data\\SOURCES.md lists the "
@@ -22,7 +22,7 @@ constexpr std::array kSections = {
         "The map shows the stations where NOAA's list of daily stations has them; its outline "
         "is simplified."},
     Section{
-        "Licence: MIT",
+        "LICENCE (MIT)",
         "Permission is hereby granted, free of charge, to any person obtaining a copy of this "
         "software and associated documentation files (the \"Software\"), to deal in the Software "
         "without restriction, including without limitation the rights to use, copy, modify, "
@@ -37,7 +37,7 @@ constexpr std::array kSections = {
         "HOLDERS BE LIABLE FOR ANY CLAIM, DAMAGES OR OTHER LIABILITY, WHETHER IN AN ACTION OF "
         "CONTRACT, TORT OR OTHERWISE, ARISING FROM, OUT OF OR IN CONNECTION WITH THE SOFTWARE OR "
         "THE USE OR OTHER DEALINGS IN THE SOFTWARE."},
-    Section{"Linked into it",
+    Section{"LINKED INTO THE PROGRAMS",
             "The C++ library and runtime of GCC (libstdc++, libgcc): GNU General Public License 3 "
             "with the GCC Runtime Library Exception 3.1.\r\n"
             "The runtime of mingw-w64, with winpthreads: public domain, Zope Public License 2.1, "

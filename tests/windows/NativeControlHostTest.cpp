@@ -114,7 +114,15 @@ TEST_F(HostWindow, ThereIsNothingToDrawOnWhileItIsHidden) {
   EXPECT_TRUE(host_.Visible());
 }
 
+TEST_F(HostWindow, AloneInItsWindowItNeedsNoMarkOfTheFocus) {
+  Send(WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS));
+  ::SetFocus(host_.Handle());
+  PaintAll(host_.Handle());
+  EXPECT_THAT(PixelsOf(host_.Handle()).pixels, testing::Each(0xFF0000U));
+}
+
 TEST_F(HostWindow, MarksTheFocusInsideItsEdge) {
+  const NativeControlHost other(::GetModuleHandleW(nullptr), parent_.Handle());
   Send(WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS));
   ::SetFocus(host_.Handle());
   PaintAll(host_.Handle());

@@ -1,11 +1,14 @@
 // The station map over the real main window, worked with mouse, wheel and keys.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 #include "FormOnScreen.h"
 #include "Listener.h"
 #include "PngFile.h"
+#include "base/Paths.h"
 #include "shell/ClimateStationsDesign.h"
 
 namespace orvik {
@@ -178,9 +181,8 @@ TEST_F(StationMap, KeysZoomMoveAndFit) {
   map.Press({VK_RIGHT, {}});
   const double middle = kSize.width / 2.0 + inner.cx / 10.0 / (fitted * 1.25);
   const double inCell = kCell * (std::floor(middle / kCell) + 0.5);
-  const POINT at{inner.cx / 2 + std::lround((inCell - middle) * fitted * 1.25),
-                 inner.cy / 2 + std::lround(kCell / 2 * fitted * 1.25)};
-  EXPECT_TRUE(UntilColour(map, at, ColourOfMap(inCell, kSize.height / 2.0 + kCell / 2)));
+  const POINT at{inner.cx / 2 + std::lround((inCell - middle) * fitted * 1.25), inner.cy / 2};
+  EXPECT_TRUE(UntilColour(map, at, ColourOfMap(inCell, kSize.height / 2.0)));
   map.Press({'0', {}});
   EXPECT_TRUE(map.UntilText(kViewer, Told(fitted)));
 }

@@ -197,14 +197,17 @@ LRESULT NativeControlHost::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     default:
       if (WM_MOUSEMOVE <= message && message <= WM_MBUTTONDBLCLK) {
-        return AnswerMouse(message, lParam);
+        AnswerMouse(message, lParam);
+        // The system does not ask for the pointer while the mouse is captured.
+        if (::GetWindowLongPtrW(window, GWLP_USERDATA) != 0) ShowPointer();
+        return 0;
       }
       break;
   }
   return ::DefWindowProcW(window, message, wParam, lParam);
 }
 
-LRESULT NativeControlHost::AnswerMouse(UINT message, LPARAM position) {
+void NativeControlHost::AnswerMouse(UINT message, LPARAM position) {
   const double x = GET_X_LPARAM(position);
   const double y = GET_Y_LPARAM(position);
   switch (message) {
@@ -238,7 +241,6 @@ LRESULT NativeControlHost::AnswerMouse(UINT message, LPARAM position) {
     default:
       break;
   }
-  return 0;
 }
 
 // To a control that knows no double click, two quick presses are two presses.
@@ -257,6 +259,7 @@ bool NativeControlHost::AnswerWheel(WPARAM turn, LPARAM position) {
   POINT at{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
   ::ScreenToClient(window_, &at);
   OnMouseWheel(GET_WHEEL_DELTA_WPARAM(turn) / double{WHEEL_DELTA}, at.x, at.y);
+  if (window_ && ::ChildWindowFromPoint(window_, at)) ShowPointer();
   return true;
 }
 
@@ -380,10 +383,12 @@ void NativeControlHost::PaintOn(HDC dc, const SIZE& size) {
   DrawFocus(dc, size);
 }
 
-// Inside the two rings of a control's edge, where the user works with keys.
+// Inside the two rings of a control's edge, where the user works with keys. What is alone in its
+// window needs no mark.
 void NativeControlHost::DrawFocus(HDC dc, const SIZE& size) const {
   constexpr int kEdge = 2;
   if (::GetFocus() != window_) return;
+  if (::GetNextDlgTabItem(::GetAncestor(window_, GA_ROOT), window_, FALSE) == window_) return;
   if ((::SendMessageW(window_, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0) return;
   const RECT area{kEdge, kEdge, size.cx - kEdge, size.cy - kEdge};
   ::DrawFocusRect(dc, &area);

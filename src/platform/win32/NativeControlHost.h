@@ -38,7 +38,7 @@ class NativeControlHost final : public ControlHost {
   static WNDCLASSEXW Describe(HINSTANCE module);
 
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT AnswerMouse(UINT message, LPARAM position);
+  void AnswerMouse(UINT message, LPARAM position);
   bool AnswerWheel(WPARAM turn, LPARAM position);
   void PressAgain(double x, double y);
   bool ShowPointer() const;

@@ -19,7 +19,9 @@ ChildStyle ChildStyleOf(WidgetStyle style) {
 }  // namespace
 
 NativeTextBox::NativeTextBox(HINSTANCE module, HWND parent, WidgetStyle style)
-    : NativeWidget(module, parent, ChildStyleOf(style)), wrapped_(style == WidgetStyle::Wrapped) {
+    : NativeWidget(module, parent, ChildStyleOf(style)),
+      wrapped_(style == WidgetStyle::Wrapped),
+      bare_(style == WidgetStyle::Bare) {
   ::SendMessageW(Handle(), EM_SETLIMITTEXT, 0, 0);  // as much as the control can hold
   BackColor(backColor_);
 }
@@ -110,7 +112,9 @@ LRESULT NativeTextBox::AnswerFramePaint(WPARAM wParam, LPARAM lParam) {
   ::MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&inner), 2);
   ::OffsetRect(&inner, -outer.left, -outer.top);
   ::OffsetRect(&outer, -outer.left, -outer.top);
-  ::InflateRect(&outer, -::GetSystemMetrics(SM_CXEDGE), -::GetSystemMetrics(SM_CYEDGE));
+  if (!bare_) {
+    ::InflateRect(&outer, -::GetSystemMetrics(SM_CXEDGE), -::GetSystemMetrics(SM_CYEDGE));
+  }
   const HDC dc = ::GetWindowDC(Handle());
   ::ExcludeClipRect(dc, inner.left, inner.top, inner.right, inner.bottom);
   ::FillRect(dc, &outer, background_.get());
@@ -166,6 +170,8 @@ LRESULT NativeTextBox::AnswerSingle(UINT message, WPARAM wParam, LPARAM lParam) 
   const LRESULT answer = NativeWidget::Answer(message, wParam, lParam);
   if (message == WM_NCHITTEST) return HTCLIENT;  // the frame's room is the field's
   if (message == WM_SETFONT) {
+    // Its text begins where a label's would.
+    if (bare_) ::SendMessageW(Handle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
     constexpr UINT kFrameOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
     ::SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, kFrameOnly | SWP_FRAMECHANGED);
   }

@@ -47,6 +47,7 @@ class NativeTextBox final : public NativeWidget<TextBox> {
   Colour backColor_ = kWindowBackground;
   GdiObject<HBRUSH> background_;
   bool wrapped_;
+  bool bare_;
   bool isSetting_ = false;  // the text is being assigned: the control's own notice is not the news
 };
 
