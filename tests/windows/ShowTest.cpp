@@ -265,7 +265,7 @@ TEST_F(ShowTest, TheStationMapAndTheAboutBoxOpenOverTheWindow) {
     user.Until([&] { return ::GetForegroundWindow() == user.Window() && !user.Dialog(); });
     user.Click("cmdDiscardExit");
   });
-  EXPECT_THAT(map, testing::MatchesRegex("Map of the climate stations: zoom [0-9]+ %"));
+  EXPECT_THAT(map, testing::MatchesRegex("Map of the climate stations: zoom \\d+ %"));
   EXPECT_EQ(version, "Version " + VersionText());
 }
 
