@@ -6,21 +6,10 @@
 
 #include "shell/MainWindowLayout.h"
 #include "shell/MainWindowTable.h"
+#include "support/EvenLetters.h"
 
 namespace orvik {
 namespace {
-
-// Letters of one width, as wide as the widest message fonts have them on the average.
-TextMeasures MeasuresAt(int dpi) {
-  TextMeasures measures;
-  measures.dpi = dpi;
-  measures.lineHeight = measures.Scale(15);
-  const int letter = measures.Scale(6);
-  measures.width = [letter](std::string_view text) {
-    return letter * static_cast<int>(text.size());
-  };
-  return measures;
-}
 
 struct Screen {
   Size inner;
@@ -31,7 +20,7 @@ struct Screen {
 std::vector<Screen> Screens() {
   std::vector<Screen> screens;
   for (const int dpi : {96, 120, 144, 168, 192, 240, 288}) {
-    const Size least = MinimumMainWindow(MeasuresAt(dpi));
+    const Size least = MinimumMainWindow(test::EvenLetters(dpi));
     for (const Size outer : {Size{900, 600}, Size{1024, 768}, Size{1366, 728}, Size{1920, 1040},
                              Size{2560, 1400}, Size{3840, 2160}, Size{3840, 1200}}) {
       const Size inner{outer.width - 16, outer.height - 60};  // frame, caption and menu bar
@@ -45,7 +34,7 @@ std::vector<Screen> Screens() {
 
 std::map<std::string, Area> Places(const Screen& screen) {
   std::map<std::string, Area> places;
-  for (const Placement& place : LayOutMainWindow(screen.inner, MeasuresAt(screen.dpi))) {
+  for (const Placement& place : LayOutMainWindow(screen.inner, test::EvenLetters(screen.dpi))) {
     EXPECT_TRUE(places.emplace(place.name, place.area).second) << place.name << " has two places";
   }
   return places;
@@ -120,19 +109,19 @@ TEST(MainWindowLayout, ThePagesShareTheAreaBelowTheToolbar) {
 }
 
 TEST(MainWindowLayout, NineHundredBySixHundredIsEnoughAtFullSize) {
-  const Size least = MinimumMainWindow(MeasuresAt(96));
+  const Size least = MinimumMainWindow(test::EvenLetters(96));
   EXPECT_LE(least.width, 900 - 16);
   EXPECT_LE(least.height, 600 - 60);
 }
 
 TEST(MainWindowLayout, A4KScreenIsEnoughAtThreeTimesTheSize) {
-  const Size least = MinimumMainWindow(MeasuresAt(288));
+  const Size least = MinimumMainWindow(test::EvenLetters(288));
   EXPECT_LE(least.width, 3840 - 16);
   EXPECT_LE(least.height, 2160 - 60);
 }
 
 TEST(MainWindowLayout, ASmallerWindowIsLaidOutAsTheSmallestThatFits) {
-  const TextMeasures measures = MeasuresAt(96);
+  const TextMeasures measures = test::EvenLetters(96);
   EXPECT_EQ(LayOutMainWindow({100, 50}, measures),
             LayOutMainWindow(MinimumMainWindow(measures), measures));
 }
@@ -140,7 +129,7 @@ TEST(MainWindowLayout, ASmallerWindowIsLaidOutAsTheSmallestThatFits) {
 TEST(MainWindowLayout, CaptionsAreNotCutOff) {
   for (const Screen& screen : Screens()) {
     const auto places = Places(screen);
-    const TextMeasures measures = MeasuresAt(screen.dpi);
+    const TextMeasures measures = test::EvenLetters(screen.dpi);
     for (const LabelDesign& label : MainWindowLabels()) {
       std::string shown(label.caption);
       std::erase(shown, '&');
@@ -156,8 +145,8 @@ TEST(MainWindowLayout, TheChartIsWideEnoughForItsNumbersAndTitles) {
   for (const Screen& screen : Screens()) {
     const Area chart = Places(screen).at("ctrlStormwaterReuse1");
     EXPECT_GE(chart.right - chart.left, (chart.bottom - chart.top) * 5 / 4) << Name(screen);
-    EXPECT_GE(chart.right - chart.left, MeasuresAt(screen.dpi).Scale(420)) << Name(screen);
-    EXPECT_GE(chart.bottom - chart.top, MeasuresAt(screen.dpi).Scale(260)) << Name(screen);
+    EXPECT_GE(chart.right - chart.left, test::EvenLetters(screen.dpi).Scale(420)) << Name(screen);
+    EXPECT_GE(chart.bottom - chart.top, test::EvenLetters(screen.dpi).Scale(260)) << Name(screen);
   }
 }
 

@@ -7,6 +7,7 @@
 #include "shell/ClimateStationsDesign.h"
 #include "shell/SmallWindows.h"
 #include "shell/frmClimateStations.h"
+#include "support/EvenLetters.h"
 #include "support/FormFixture.h"
 #include "support/RecordingHost.h"
 
@@ -183,20 +184,9 @@ TEST_F(SmallWindowsTest, OkEnterAndEscCloseTheAboutBox) {
   }
 }
 
-// Letters of one width, as wide as the widest message fonts have them on the average.
-TextMeasures MeasuresAt(int dpi) {
-  TextMeasures measures;
-  measures.dpi = dpi;
-  measures.lineHeight = measures.Scale(15);
-  measures.width = [letter = measures.Scale(6)](std::string_view text) {
-    return letter * static_cast<int>(text.size());
-  };
-  return measures;
-}
-
 TEST(AboutDesignTest, EverythingHasItsPlaceFromTopToBottom) {
   for (const int dpi : {96, 120, 144, 192}) {
-    const TextMeasures measures = MeasuresAt(dpi);
+    const TextMeasures measures = test::EvenLetters(dpi);
     const Size inner = AboutDesign::Get().InitialSize(measures);
     const auto places = AboutDesign::Get().LayOut(inner, measures);
     ASSERT_EQ(places.size(), AboutDesign::Get().Widgets().size());

@@ -18,12 +18,6 @@ class AboutBox : public testing::Test {
     form_.ClickMenu("mnuHelp_About");
     return form_.WaitForWindow("About this module", AboutDesign::Get());
   }
-  bool IsClosed() const {
-    return form_.Until([&] {
-      return !form_.Dialog() && ::IsWindowEnabled(form_.Window()) &&
-             ::GetForegroundWindow() == form_.Window();
-    });
-  }
 
   FormOnScreen form_{2};
 };
@@ -46,7 +40,7 @@ TEST_F(AboutBox, OkEnterEscAndTheFrameCloseIt) {
     if (how.starts_with("enter")) about.Press({VK_RETURN, {}});
     if (how == "esc") about.Press({VK_ESCAPE, {}});
     if (how == "frame") about.CloseByFrame();
-    ASSERT_TRUE(IsClosed()) << way;
+    ASSERT_TRUE(form_.UntilBack()) << way;
     EXPECT_TRUE(form_.Until([&] { return form_.Focus() == "cmbClimateStation"; })) << way;
   }
 }

@@ -170,6 +170,12 @@ FormUser FormUser::WaitForWindow(std::string_view caption, const FormDesign& des
   return FormUser(opened, design);
 }
 
+bool FormUser::UntilBack() const {
+  return Until([this] {
+    return !Dialog() && ::IsWindowEnabled(window_) && ::GetForegroundWindow() == window_;
+  });
+}
+
 bool FormUser::Until(const std::function<bool()>& isSo) const {
   const auto end = std::chrono::steady_clock::now() + kDeadline;
   while (std::chrono::steady_clock::now() < end) {

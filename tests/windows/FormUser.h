@@ -52,6 +52,9 @@ class FormUser {
   // where none comes.
   FormUser WaitForWindow(std::string_view caption, const FormDesign& design) const;
 
+  // Waits until nothing stands over the window any more: it is active, and works.
+  bool UntilBack() const;
+
   // Waits until it is so; false where it does not come about in time.
   bool Until(const std::function<bool()>& isSo) const;
   bool UntilText(std::string_view widget, std::string_view text) const;

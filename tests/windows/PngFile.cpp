@@ -5,8 +5,10 @@
 
 #include <filesystem>
 
+#include "base/Paths.h"
 #include "entry/com/ComError.h"
 #include "platform/win32/ComPtr.h"
+#include "platform/win32/PictureReader.h"
 
 namespace orvik::test {
 namespace {
@@ -32,35 +34,13 @@ UINT RowBytes(const Picture& picture) {
 }
 
 std::wstring Wide(const std::string& path) {
-  return std::filesystem::absolute(path).wstring();
+  return std::filesystem::absolute(PathFromUtf8(path)).wstring();
 }
 
 }  // namespace
 
 Picture ReadPng(const std::string& path) {
-  const auto factory = Imaging();
-  ComPtr<IWICBitmapDecoder> decoder;
-  if (FAILED(factory->CreateDecoderFromFilename(Wide(path).c_str(), nullptr, GENERIC_READ,
-                                                WICDecodeMetadataCacheOnDemand, decoder.Out()))) {
-    return {};
-  }
-  ComPtr<IWICBitmapFrameDecode> frame;
-  Check(decoder->GetFrame(0, frame.Out()), "The file holds no picture.");
-  ComPtr<IWICFormatConverter> converter;
-  Check(factory->CreateFormatConverter(converter.Out()), "There is no converter.");
-  Check(converter->Initialize(frame.Get(), GUID_WICPixelFormat32bppBGR, WICBitmapDitherTypeNone,
-                              nullptr, 0, WICBitmapPaletteTypeCustom),
-        "The pixels cannot be converted.");
-  UINT width = 0;
-  UINT height = 0;
-  Check(converter->GetSize(&width, &height), "The picture has no size.");
-  Picture picture{{static_cast<int>(width), static_cast<int>(height)},
-                  std::vector<std::uint32_t>(std::size_t{width} * height)};
-  Check(converter->CopyPixels(nullptr, RowBytes(picture), Bytes(picture),
-                              reinterpret_cast<BYTE*>(picture.pixels.data())),
-        "The pixels cannot be read.");
-  for (std::uint32_t& pixel : picture.pixels) pixel &= 0xFFFFFF;
-  return picture;
+  return ReadPictureFile(PathToUtf8(std::filesystem::absolute(PathFromUtf8(path)))).value_or(Picture{});
 }
 
 void WritePng(const std::string& path, const Picture& picture) {

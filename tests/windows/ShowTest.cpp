@@ -257,12 +257,12 @@ TEST_F(ShowTest, TheStationMapAndTheAboutBoxOpenOverTheWindow) {
     const FormUser stations = user.WaitForWindow("Climate stations", ClimateStationsDesign::Get());
     map = stations.Text("ctrlPictureViewer1");
     stations.Press({VK_ESCAPE, {}});
-    user.Until([&] { return ::GetForegroundWindow() == user.Window() && !user.Dialog(); });
+    user.UntilBack();
     user.ClickMenu("mnuHelp_About");
     const FormUser about = user.WaitForWindow("About this module", AboutDesign::Get());
     version = about.Text("txtVersion");
     about.Press({VK_RETURN, {}});
-    user.Until([&] { return ::GetForegroundWindow() == user.Window() && !user.Dialog(); });
+    user.UntilBack();
     user.Click("cmdDiscardExit");
   });
   EXPECT_THAT(map, testing::MatchesRegex("Map of the climate stations: zoom \\d+ %"));

@@ -113,7 +113,7 @@ TEST(SmallWindowsPicture, IsTakenOfTheMapAndOfTheAboutBox) {
   test::WaitUntilPainted(map);
   test::Screenshot(map.Window(), PictureFolder() + "map-zoomed.png");
   map.Press({VK_ESCAPE, {}});
-  ASSERT_TRUE(form.Until([&] { return !form.Dialog() && ::IsWindowEnabled(form.Window()); }));
+  ASSERT_TRUE(form.UntilBack());
   form.ClickMenu("mnuHelp_About");
   const FormUser about = form.WaitForWindow("About this module", AboutDesign::Get());
   TakePictures(about, "about", SizeOf(about.Window()));

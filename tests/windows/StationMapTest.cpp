@@ -49,12 +49,6 @@ class StationMap : public testing::Test {
     form_.Click("cmdMap");
     return form_.WaitForWindow("Climate stations", ClimateStationsDesign::Get());
   }
-  bool IsClosed() const {
-    return form_.Until([&] {
-      return !form_.Dialog() && ::IsWindowEnabled(form_.Window()) &&
-             ::GetForegroundWindow() == form_.Window();
-    });
-  }
 
   test::ClientThread com_;
   FormOnScreen form_{1};
@@ -100,7 +94,7 @@ TEST_F(StationMap, OpensOverTheMainWindowFromTheButtonAndTheMenuAndGivesTheKeybo
     EXPECT_EQ(::GetMenu(map.Window()), nullptr);
     EXPECT_TRUE(map.Until([&] { return map.Focus() == kViewer; }));
     map.Press({VK_ESCAPE, {}});
-    EXPECT_TRUE(IsClosed());
+    EXPECT_TRUE(form_.UntilBack());
     const char* focus = byMenu ? "txtBasinArea" : "cmdMap";
     EXPECT_TRUE(form_.Until([&] { return form_.Focus() == focus; })) << form_.Focus();
   }
@@ -110,7 +104,7 @@ TEST_F(StationMap, TheCloseBoxClosesItAndLeavesTheMainWindow) {
   FormUser map = Open();
   form_.CloseByFrame();  // the map has to be closed first
   map.CloseByFrame();
-  EXPECT_TRUE(IsClosed());
+  EXPECT_TRUE(form_.UntilBack());
   EXPECT_TRUE(form_.IsOpen());
 }
 
@@ -144,7 +138,7 @@ TEST_F(StationMap, AMissingOrDamagedPictureLeavesItEmptyAndQuiet) {
     const FormUser map = Open();
     EXPECT_EQ(map.Text(kViewer), "Map of the climate stations: no picture") << row;
     map.Press({VK_ESCAPE, {}});
-    EXPECT_TRUE(IsClosed()) << row;
+    EXPECT_TRUE(form_.UntilBack()) << row;
   }
 }
 
