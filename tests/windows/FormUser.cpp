@@ -29,33 +29,22 @@ void SendKey(WORD code, DWORD flags) {
   ::SendInput(1, &input, sizeof input);
 }
 
-void SendMouse(DWORD flags) {
+// Moves to a point of the window and presses or lets go a button there (0: neither), in one event:
+// after SetCursorPos the system may still report where the pointer was before.
+void MouseEventAt(HWND window, POINT at, DWORD button) {
+  constexpr int kWhole = 65536;  // of the screen's width and height
+  ::ClientToScreen(window, &at);
   INPUT input{};
   input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
+  input.mi.dx = static_cast<LONG>((at.x * kWhole + kWhole / 2) / ::GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = static_cast<LONG>((at.y * kWhole + kWhole / 2) / ::GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
   ::SendInput(1, &input, sizeof input);
 }
 
-void MouseTo(HWND window, POINT at) {
-  ::ClientToScreen(window, &at);
-  ::SetCursorPos(at.x, at.y);
-}
-
-// Moves and clicks in one event each: the system may still report where the pointer was when the
-// window came up under it.
 void ClickAt(HWND window, POINT at) {
-  constexpr int kWhole = 65536;  // of the screen's width and height
-  ::ClientToScreen(window, &at);
-  const int width = ::GetSystemMetrics(SM_CXSCREEN);
-  const int height = ::GetSystemMetrics(SM_CYSCREEN);
-  for (const DWORD button : {DWORD{MOUSEEVENTF_LEFTDOWN}, DWORD{MOUSEEVENTF_LEFTUP}}) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = static_cast<LONG>((at.x * kWhole + kWhole / 2) / width);
-    input.mi.dy = static_cast<LONG>((at.y * kWhole + kWhole / 2) / height);
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
-    ::SendInput(1, &input, sizeof input);
-  }
+  MouseEventAt(window, at, MOUSEEVENTF_LEFTDOWN);
+  MouseEventAt(window, at, MOUSEEVENTF_LEFTUP);
 }
 
 BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
@@ -219,11 +208,10 @@ void FormUser::Choose(std::string_view list, std::string_view item) {
 
 void FormUser::DragOnChart(POINT from, POINT to) {
   const HWND chart = Find("ctrlStormwaterReuse1");
-  MouseTo(chart, from);
-  SendMouse(MOUSEEVENTF_LEFTDOWN);
-  MouseTo(chart, {(from.x + to.x) / 2, (from.y + to.y) / 2});
-  MouseTo(chart, to);
-  SendMouse(MOUSEEVENTF_LEFTUP);
+  MouseEventAt(chart, from, MOUSEEVENTF_LEFTDOWN);
+  MouseEventAt(chart, {(from.x + to.x) / 2, (from.y + to.y) / 2}, 0);
+  MouseEventAt(chart, to, 0);
+  MouseEventAt(chart, to, MOUSEEVENTF_LEFTUP);
 }
 
 void FormUser::ClickMenu(std::string_view item) {
