@@ -70,7 +70,10 @@ FormUser::FormUser(HWND window) {
   Watch(window);
 }
 
+// The pointer of the screen itself, which clicks do not move, goes into a corner: a window or a
+// list that came up under it would take it for a move of the mouse.
 void FormUser::Watch(HWND window) {
+  ::SetCursorPos(0, ::GetSystemMetrics(SM_CYSCREEN) - 1);
   thread_id_ = ::GetWindowThreadProcessId(window, nullptr);
   window_ = window;
 }
@@ -192,14 +195,17 @@ void FormUser::DropDown(std::string_view list) {
   }
 }
 
-// The list drops down, and the arrow keys go to the item.
+// The list drops down, and the arrow keys go to the item, one step after the other has shown.
 void FormUser::Choose(std::string_view list, std::string_view item) {
   DropDown(list);
   const HWND box = Find(list);
+  const auto marked = [&] { return ::SendMessageW(box, CB_GETCURSEL, 0, 0); };
   const LRESULT index = ::SendMessageW(box, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                        reinterpret_cast<LPARAM>(WideFromUtf8(item).c_str()));
-  Press({VK_HOME, {}});
-  for (LRESULT i = 0; i < index; ++i) Press({VK_DOWN, {}});
+  for (LRESULT at = marked(); at != index; at = marked()) {
+    Press({static_cast<WORD>(at < index ? VK_DOWN : VK_UP), {}});
+    if (!Until([&] { return marked() != at; })) break;
+  }
   Press({VK_RETURN, {}});
   const bool isChosen = Until(
       [&] { return ::SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) == 0 && Text(list) == item; });

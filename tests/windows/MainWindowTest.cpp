@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 
 #include "FormOnScreen.h"
 #include "ParentWindow.h"
@@ -230,6 +231,11 @@ TEST(MainWindow, F5OverAnOpenListSolvesForTheItemThatItMarks) {
 
 // --- The chart ---
 
+// What a field shows; 0 where it is empty.
+double Number(const FormOnScreen& form, const char* field) {
+  return std::strtod(form.Text(field).c_str(), nullptr);
+}
+
 TEST(MainWindow, ADragOnTheChartFillsTheFields) {
   FormOnScreen form(1);
   TypeSite(form);
@@ -239,7 +245,7 @@ TEST(MainWindow, ADragOnTheChartFillsTheFields) {
   form.DragOnChart({inner.right / 2, inner.bottom / 2}, {inner.right / 2 + 20, inner.bottom / 2});
   // The site values follow from the normalized ones: S = V x 5 / 12, Q = R x 7 (EIA = IA = 5 ac).
   // While the mouse is still on its way, a reader may see fields of two places.
-  const auto number = [&](const char* field) { return std::stod("0" + form.Text(field)); };
+  const auto number = [&](const char* field) { return Number(form, field); };
   EXPECT_TRUE(form.Until([&] {
     return number("txtSolveFor(3)") > 0 &&
            std::abs(number("txtSolveFor(3)") - number("txtV") * 5 / 12) < 1e-5 &&
@@ -256,9 +262,9 @@ TEST(MainWindow, ArrowKeysMoveThePointOfAChartReachedByTab) {
   ::GetClientRect(form.Find("ctrlStormwaterReuse1"), &inner);
   form.DragOnChart({inner.right / 2, inner.bottom / 2}, {inner.right / 2, inner.bottom / 2});
   ASSERT_TRUE(form.Until([&] { return !form.Text("txtV").empty(); }));
-  const double V = std::stod(form.Text("txtV"));
+  const double V = Number(form, "txtV");
   form.Press({VK_RIGHT, {}});
-  EXPECT_TRUE(form.Until([&] { return std::stod("0" + form.Text("txtV")) > V; }));
+  EXPECT_TRUE(form.Until([&] { return Number(form, "txtV") > V; }));
 }
 
 }  // namespace
