@@ -159,6 +159,23 @@ TEST_F(clsStReuseTest, NoiseAsAProjectIsToldAndTheWindowOpens) {
   EXPECT_EQ(p3_, "noise");
 }
 
+TEST_F(clsStReuseTest, HalfAProjectIsToldAndTheWindowOpensEmpty) {
+  auto lines = ProjectLines();
+  lines.pop_back();
+  p3_ = ProjectText(lines);
+  p2_ = "20\r\n0.25";
+  EXPECT_EQ(Show(2,
+                 [this] {
+                   EXPECT_EQ(toolkit_.Text("txtProjectName"), "");
+                   EXPECT_EQ(toolkit_.Find<HeadlessComboBox>("cmbClimateStation").ListIndex(), -1);
+                   EXPECT_EQ(toolkit_.Text("txtIrrigationArea"), "");
+                   EXPECT_EQ(toolkit_.Text("txtBasinArea"), "20") << "the host's own basin";
+                 }),
+            0);
+  ASSERT_EQ(desktop_.Messages().size(), 1U);
+  EXPECT_EQ(desktop_.Messages()[0].text, "Error reading data.");
+}
+
 TEST_F(clsStReuseTest, AProjectWithoutResultsSavesWithEmptyLines) {
   EXPECT_EQ(ShowAndSave(), 1);
   EXPECT_EQ(p2_, "\r\n\r\n");
