@@ -273,6 +273,19 @@ TEST_F(clsStReuseTest, FileDialogsStartInTheModulesFolder) {
   EXPECT_TRUE(FolderExists(module_.Folders().module));
 }
 
+// What the user does to the folders later is the user's own; printing needs none of them.
+TEST_F(clsStReuseTest, OnlyTheFirstShowMakesTheFolders) {
+  const std::string suite = folder_ / "Documents/ORVIK33";
+  RecordingPrinter printer;
+  entry_.Print_Remote(&printer, 2, "", ProjectText());
+  EXPECT_FALSE(FolderExists(suite));
+  EXPECT_EQ(ShowAndSave(), 1);
+  EXPECT_TRUE(FolderExists(suite));
+  std::filesystem::remove_all(PathFromUtf8(suite));
+  EXPECT_EQ(ShowAndSave(), 1);
+  EXPECT_FALSE(FolderExists(suite));
+}
+
 // --- One window ---
 
 TEST_F(clsStReuseTest, ASecondCallWhileTheWindowIsOpenIsRefusedAndHarmsNothing) {
