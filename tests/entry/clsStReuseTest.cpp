@@ -310,6 +310,12 @@ TEST_F(clsStReuseTest, AWindowLeftFromPrintingOpensOnDefaultData) {
   EXPECT_EQ(Show(2, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
 }
 
+TEST_F(clsStReuseTest, AReturnCodeLeftFromBeforeIsNoAnswer) {
+  module_.Window().ReturnCode(1);
+  EXPECT_EQ(Show(1, [this] { toolkit_.CloseByFrame("Form1"); }), 0);
+  EXPECT_EQ(p3_, "");
+}
+
 TEST_F(clsStReuseTest, AnotherThreadIsRefusedTheWindow) {
   module_.Window();
   std::thread([this] { EXPECT_THROW(entry_.Show(2, p1_, p2_, p3_), WindowThreadError); }).join();

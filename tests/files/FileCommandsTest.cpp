@@ -214,6 +214,14 @@ TEST_F(FileMenu, AFolderThatIsGoneIsNoStartFolder) {
   EXPECT_EQ(desktop_.FileDialogs().back().startFolder, "/home/user/Documents");
 }
 
+// The user who looked for a place there goes on from there.
+TEST_F(FileMenu, AFailedSaveStillMovesTheDialogs) {
+  folder_.Write("Other/Pond.kav/inside", "a folder in the file's way");
+  SaveAs(folder_ / "Other/Pond.kav");
+  Open("");
+  EXPECT_EQ(desktop_.FileDialogs().back().startFolder, FolderOf(folder_ / "Other/Pond.kav"));
+}
+
 TEST_F(FileMenu, AnUnknownDocumentsFolderIsEmptyAndSaysWhy) {
   desktop_.DocumentsFolder(std::nullopt);
   std::string error;
