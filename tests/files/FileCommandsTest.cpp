@@ -74,7 +74,9 @@ TEST_F(FileMenu, ADamagedFileLeavesWhatWasReadBeforeTheFault) {
   SolveForEfficiency();
   auto lines = test::ProjectLines();
   lines.resize(12);
-  Open(folder_.Write("cut.kav", ProjectText(lines)));
+  const std::string path = folder_.Write("cut.kav", ProjectText(lines));
+  Open(path);
+  EXPECT_EQ(CurrentPath(), path);
   EXPECT_EQ(desktop_.Messages().back().text, "Error reading data file.");
   EXPECT_EQ(Text("txtProjectName"), "Pond");
   EXPECT_EQ(Text("txtBasinArea"), "10");
