@@ -127,6 +127,13 @@ TEST(FindEBetweenCurves, TakesTheCurveItselfWithinTheTolerance) {
   EXPECT_NE(FindEBetweenCurves(3, CurveR(3, A) + 1.1e-5, A, B)->E, 50);
 }
 
+TEST(FindEBetweenCurves, OfTwoCurvesWithinTheToleranceItTakesTheHigherE) {
+  const EfficiencyCurve A = Logarithmic(50, 0.15, 1);
+  const EfficiencyCurve B = Logarithmic(70, 0.150008, 1);
+  EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, A) + 1e-6, A, B)->E, 70);
+  EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, A), A, A)->E, 50);  // no quotient is needed
+}
+
 TEST(FindEBetweenCurves, GivesUpWhereItsStepsAreTooCoarse) {
   // A sum of two numbers near 1E20 can only be a multiple of 16384, which never comes within 1E-5
   // of this rate.
