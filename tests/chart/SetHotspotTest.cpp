@@ -84,6 +84,9 @@ TEST_F(SetHotspot, TheSearchForVStopsAtItsTolerances) {
 TEST_F(SetHotspot, WritesTheResultInSinglePrecision) {
   ASSERT_TRUE(Ask(Pair::EV, "60", "3"));
   EXPECT_EQ(result_, "0.1200694");
+  ASSERT_TRUE(Ask(Pair::RV, "0.12", "3"));
+  // 50 + 400 (0.05 ln 3 - 0.03) = 59.9722458; the nearest single is 59.9722443.
+  EXPECT_EQ(result_, "59.97224");
 }
 
 TEST_F(SetHotspot, AStoredEUsesItsCurveUnchanged) {
