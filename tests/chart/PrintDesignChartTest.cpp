@@ -42,6 +42,17 @@ class PrintDesignChart : public ChartFixture {
     return printer.Take();
   }
 
+  // With the design point at V = 3.5 on a curve of 70 % that has this R everywhere.
+  Log PrintAnswerAt(const std::string& R) {
+    CurveFileText file = WithWideCurves();
+    file.curves[1].A = R;
+    Load(file);
+    std::string found;
+    EXPECT_TRUE(chart_.SetHotspotUsing_EV("70", "3.5", found));
+    EXPECT_EQ(found, R);
+    return Print(100, 200, 900, 800);
+  }
+
   // Place of the first call that begins so; -1 for none.
   static int Place(const Log& calls, std::string_view beginning) {
     const auto found =
@@ -189,13 +200,7 @@ TEST_F(PrintDesignChart, TheHotspotIsLastAndFilledWithRed) {
 // A rate above the chart's own limit is an answer like any other: R = 0.403 is row 753 - 523.9,
 // four above the frame and within the rectangle.
 TEST_F(PrintDesignChart, AnAnswerJustAboveTheFrameIsPrinted) {
-  CurveFileText file = WithWideCurves();
-  file.curves[1].A = "0.403";
-  Load(file);
-  std::string R;
-  ASSERT_TRUE(chart_.SetHotspotUsing_EV("70", "3.5", R));
-  ASSERT_EQ(R, "0.403");
-  const Log calls = Print(100, 200, 900, 800);
+  const Log calls = PrintAnswerAt("0.403");
   EXPECT_THAT(calls, Contains("fill polygon 500,224 505,229 500,234 495,229 colour 0x0000FF"));
   EXPECT_THAT(calls, Contains("line 154,229 to 500,229 colour 0x0000FF width 1 copy"));
   EXPECT_THAT(calls.back(), HasSubstr("\"E=70%\" Arial 10 colour 0x0000FF"));
@@ -204,12 +209,7 @@ TEST_F(PrintDesignChart, AnAnswerJustAboveTheFrameIsPrinted) {
 // R = 0.435 is row 753 - 565.5, 45 above the frame and 12 above the rectangle: the leader leads
 // there. The text keeps to the frame, beside the column of V.
 TEST_F(PrintDesignChart, AnAnswerAboveTheRectangleIsCutOffAtItsEdge) {
-  CurveFileText file = WithWideCurves();
-  file.curves[1].A = "0.435";
-  Load(file);
-  std::string R;
-  ASSERT_TRUE(chart_.SetHotspotUsing_EV("70", "3.5", R));
-  const Log calls = Print(100, 200, 900, 800);
+  const Log calls = PrintAnswerAt("0.435");
   const int clip = Place(calls, "clip 100,200 to 901,801");
   ASSERT_NE(clip, -1) << testing::PrintToString(calls);
   const auto at = [&](int offset) { return calls.at(static_cast<std::size_t>(clip + offset)); };
