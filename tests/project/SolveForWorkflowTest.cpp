@@ -70,6 +70,18 @@ TEST_F(SolveForWorkflowTest, NormalizedValuesAreCalculatedInSinglePrecision) {
   EXPECT_EQ(Text("txtR"), "0.1273066");
 }
 
+// 0.53 x 12.3 is 6.519 in its text, from which 6.350667 would follow, as in double precision.
+TEST_F(SolveForWorkflowTest, TheEiaIsTakenInSinglePrecisionAndNotFromItsText) {
+  TypeSite();
+  Choose("cmbSolveFor", "Efficiency");
+  Type("txtBasinArea", "12.3");
+  Type("txtRunoffCoefficient", "0.53");
+  Type("txtSolveFor(1)", "3.45");
+  TypeAndEnter("txtSolveFor(2)", "0.5");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "6.519");
+  EXPECT_EQ(Text("txtV"), "6.350668");
+}
+
 // V = 4 in is the first middle that the search on the curve tries. V / 12 x EIA and double
 // precision give 9.6.
 TEST_F(SolveForWorkflowTest, TheSolvedStorageIsCalculatedInSinglePrecision) {
