@@ -46,6 +46,16 @@ TEST_F(SolveForWorkflowTest, FindsTheReuseRate) {
   EXPECT_NEAR(Number("txtSolveFor(3)"), R * 7, 7e-7);
 }
 
+TEST_F(SolveForWorkflowTest, AGivenEfficiencyIsShownAsANumberOfOurs) {
+  TypeSite();
+  for (const char* mode : {"Storage Volume", "Reuse Rate"}) {
+    Choose("cmbSolveFor", mode);
+    Type("txtSolveFor(1)", " 060.50 ");
+    TypeAndEnter("txtSolveFor(2)", "0.875");
+    EXPECT_EQ(Text("txtE"), "60.5") << mode;
+  }
+}
+
 TEST_F(SolveForWorkflowTest, FiveAcreFeetAndOneInchPerWeekAreTwelveInchesAndASeventh) {
   TypeSite("Orlando");
   Choose("cmbSolveFor", "Efficiency");
