@@ -9,7 +9,19 @@ namespace {
 
 using test::FormFixture;
 
-class SolveForWorkflowTest : public FormFixture {};
+class SolveForWorkflowTest : public FormFixture {
+ protected:
+  void TypeAreas(const char* basin, const char* runoffCoefficient, const char* irrigation) {
+    Type("txtBasinArea", basin);
+    Type("txtRunoffCoefficient", runoffCoefficient);
+    Type("txtIrrigationArea", irrigation);
+  }
+  void Solve(const char* mode, const char* first, const char* second) {
+    Choose("cmbSolveFor", mode);
+    Type("txtSolveFor(1)", first);
+    TypeAndEnter("txtSolveFor(2)", second);
+  }
+};
 
 TEST_F(SolveForWorkflowTest, FindsTheEfficiency) {
   SolveForEfficiency();
@@ -49,9 +61,7 @@ TEST_F(SolveForWorkflowTest, FindsTheReuseRate) {
 TEST_F(SolveForWorkflowTest, AGivenEfficiencyIsShownAsANumberOfOurs) {
   TypeSite();
   for (const char* mode : {"Storage Volume", "Reuse Rate"}) {
-    Choose("cmbSolveFor", mode);
-    Type("txtSolveFor(1)", " 060.50 ");
-    TypeAndEnter("txtSolveFor(2)", "0.875");
+    Solve(mode, " 060.50 ", "0.875");
     EXPECT_EQ(Text("txtE"), "60.5") << mode;
   }
 }
@@ -83,11 +93,8 @@ TEST_F(SolveForWorkflowTest, NormalizedValuesAreCalculatedInSinglePrecision) {
 // 0.53 x 12.3 is 6.519 in its text, from which 6.350667 would follow, as in double precision.
 TEST_F(SolveForWorkflowTest, TheEiaIsTakenInSinglePrecisionAndNotFromItsText) {
   TypeSite();
-  Choose("cmbSolveFor", "Efficiency");
-  Type("txtBasinArea", "12.3");
-  Type("txtRunoffCoefficient", "0.53");
-  Type("txtSolveFor(1)", "3.45");
-  TypeAndEnter("txtSolveFor(2)", "0.5");
+  TypeAreas("12.3", "0.53", "5");
+  Solve("Efficiency", "3.45", "0.5");
   EXPECT_EQ(Text("txtEquivalentImperviousArea"), "6.519");
   EXPECT_EQ(Text("txtV"), "6.350668");
 }
@@ -96,12 +103,8 @@ TEST_F(SolveForWorkflowTest, TheEiaIsTakenInSinglePrecisionAndNotFromItsText) {
 // precision give 9.6.
 TEST_F(SolveForWorkflowTest, TheSolvedStorageIsCalculatedInSinglePrecision) {
   TypeSite();
-  Type("txtBasinArea", "28.8");
-  Type("txtRunoffCoefficient", "1");
-  Type("txtIrrigationArea", "28.8");
-  Choose("cmbSolveFor", "Storage Volume");
-  Type("txtSolveFor(1)", "50");
-  TypeAndEnter("txtSolveFor(2)", "0.5647971");  // R = 0.15 - 0.05 ln 4 = 0.0806853 in/day
+  TypeAreas("28.8", "1", "28.8");
+  Solve("Storage Volume", "50", "0.5647971");  // R = 0.15 - 0.05 ln 4 = 0.0806853 in/day
   EXPECT_EQ(Text("txtV"), "4");
   EXPECT_EQ(Text("txtSolveFor(3)"), "9.599999");
 }
@@ -116,12 +119,8 @@ TEST_F(SolveForWorkflowTest, TheSolvedReuseRateIsCalculatedInSinglePrecision) {
   }
   folder_.Write("KAV Data/Grady.crv", file.Text());
   TypeSite("Grady");
-  Type("txtBasinArea", "16.8");
-  Type("txtRunoffCoefficient", "1");
-  Type("txtIrrigationArea", "37.1");
-  Choose("cmbSolveFor", "Reuse Rate");
-  Type("txtSolveFor(1)", "70");
-  TypeAndEnter("txtSolveFor(2)", "5");
+  TypeAreas("16.8", "1", "37.1");
+  Solve("Reuse Rate", "70", "5");
   EXPECT_EQ(Text("txtR"), "0.226");
   EXPECT_EQ(Text("txtSolveFor(3)"), "0.7163773");
 }
