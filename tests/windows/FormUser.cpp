@@ -16,9 +16,10 @@
 namespace orvik::test {
 namespace {
 
-constexpr std::chrono::seconds kDeadline{20};
+constexpr std::chrono::seconds kDeadline = FormUser::kDeadline;
+constexpr std::chrono::seconds kPatience{4};  // before a user tries again
 
-void SendKey(WORD code, DWORD flags) {
+INPUT KeyEvent(WORD code, DWORD flags) {
   INPUT input{};
   input.type = INPUT_KEYBOARD;
   input.ki.wVk = (flags & KEYEVENTF_UNICODE) != 0 ? WORD{0} : code;
@@ -26,7 +27,12 @@ void SendKey(WORD code, DWORD flags) {
                        ? code
                        : static_cast<WORD>(::MapVirtualKeyW(code, MAPVK_VK_TO_VSC));
   input.ki.dwFlags = flags;
-  ::SendInput(1, &input, sizeof input);
+  return input;
+}
+
+// All in one call: between two, the system may set the keys that are held to those of its keyboard.
+void Send(std::vector<INPUT> events) {
+  ::SendInput(static_cast<UINT>(events.size()), events.data(), sizeof(INPUT));
 }
 
 // Moves to a point of the window and presses or lets go a button there (0: neither), in one event:
@@ -138,8 +144,8 @@ HWND FormUser::Dialog() const {
   return found;
 }
 
-bool FormUser::Until(const std::function<bool()>& isSo) const {
-  const auto end = std::chrono::steady_clock::now() + kDeadline;
+bool FormUser::Until(const std::function<bool()>& isSo, std::chrono::seconds deadline) const {
+  const auto end = std::chrono::steady_clock::now() + deadline;
   while (std::chrono::steady_clock::now() < end) {
     if (isSo()) return true;
     std::this_thread::sleep_for(std::chrono::milliseconds(2));
@@ -161,30 +167,40 @@ void FormUser::Click(std::string_view widget) {
 }
 
 void FormUser::Press(const Key& key) const {
-  for (const WORD held : key.held) SendKey(held, 0);
-  SendKey(key.code, 0);
-  SendKey(key.code, KEYEVENTF_KEYUP);
-  for (const WORD held : key.held) SendKey(held, KEYEVENTF_KEYUP);
+  std::vector<INPUT> events;
+  for (const WORD held : key.held) events.push_back(KeyEvent(held, 0));
+  events.push_back(KeyEvent(key.code, 0));
+  events.push_back(KeyEvent(key.code, KEYEVENTF_KEYUP));
+  for (const WORD held : key.held) events.push_back(KeyEvent(held, KEYEVENTF_KEYUP));
+  Send(std::move(events));
 }
 
 void FormUser::TypeText(std::string_view text) const {
+  std::vector<INPUT> events;
   for (const wchar_t unit : WideFromUtf8(text)) {
-    SendKey(unit, KEYEVENTF_UNICODE);
-    SendKey(unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+    events.push_back(KeyEvent(unit, KEYEVENTF_UNICODE));
+    events.push_back(KeyEvent(unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
   }
+  Send(std::move(events));
 }
 
-void FormUser::Type(std::string_view field, std::string_view text) {
+bool FormUser::TryToType(std::string_view field, std::string_view text) {
   Click(field);
-  if (!Until([&] { return Focus() == field; })) {
-    throw std::runtime_error("The keyboard does not come to " + std::string(field));
-  }
+  if (!Until([&] { return Focus() == field; }, kPatience)) return false;
   Press({'A', {VK_CONTROL}});
   Press({VK_DELETE, {}});
   TypeText(text);
-  if (!UntilText(field, text)) {
-    throw std::runtime_error(std::string(field) + " shows " + Text(field));
+  return Until([&] { return Text(field) == text; }, kPatience);
+}
+
+// Like a user who looks at the field and types again where a click or a key got lost on the way.
+void FormUser::Type(std::string_view field, std::string_view text) {
+  constexpr int kTries = 5;
+  for (int i = 0; i < kTries; ++i) {
+    if (TryToType(field, text)) return;
   }
+  throw std::runtime_error(std::string(field) + " shows " + Text(field) + ", the keyboard is at " +
+                           Focus());
 }
 
 void FormUser::DropDown(std::string_view list) {
