@@ -234,7 +234,7 @@ class ctrlStormwaterReuse {
 
   clsPlotWindow Window() const;
   void PrintChart(Printer& printer, const clsPlotMetrics& metrics) const;
-  void PrintHotspot(Printer& printer, const ChartScene& scene,
+  void PrintHotspot(Printer& printer, const clsRectangle_Integer& target, const ChartScene& scene,
                     std::span<const Area> captions) const;
 
   Desktop& desktop_;

@@ -92,11 +92,13 @@ void ctrlStormwaterReuse::PrintChart(Printer& printer, const clsPlotMetrics& met
   for (const PlacedText& label : labels) captions.push_back(CharactersOf(label));
   DrawCurves(printer, scene, captions);
   DrawCurveEnds(printer, scene);
-  if (hotspotVisible_) PrintHotspot(printer, scene, captions);
+  if (hotspotVisible_) PrintHotspot(printer, metrics.Target, scene, captions);
 }
 
-// A hotspot off the frame (on the axes of another station) has no place on the page.
-void ctrlStormwaterReuse::PrintHotspot(Printer& printer, const ChartScene& scene,
+// A rate that is found between two curves may lie above the frame, and then above the chart's place
+// on the page, where the mark and its leaders are cut off as they are at the control's edge.
+void ctrlStormwaterReuse::PrintHotspot(Printer& printer, const clsRectangle_Integer& target,
+                                       const ChartScene& scene,
                                        std::span<const Area> captions) const {
   Point centre;
   try {
@@ -105,9 +107,11 @@ void ctrlStormwaterReuse::PrintHotspot(Printer& printer, const ChartScene& scene
   } catch (const NumericError&) {
     return;  // far off
   }
-  if (scene.geometry.IsPointInFrame(ToInt16(centre.x), ToInt16(centre.y)) == kFalse16) return;
   const int height = scene.PixelHeightOf(scene.heights.Label);
-  PrintHotspotMark(printer, centre, scene.layout.Frame, height, scene.thinLine);
+  {
+    const ClipScope clip(printer, {target.Left, target.Top, target.Right + 1, target.Bottom + 1});
+    PrintHotspotMark(printer, centre, scene.layout.Frame, height, scene.thinLine);
+  }
   if (!isEDefined_ || !IsReadable(height)) return;
   PrintHotspotText(printer, "E=" + ConvertToString(ToSingle(E_)) + "%", centre, scene.layout.Frame,
                    height, captions, CurveLines(scene));

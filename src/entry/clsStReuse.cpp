@@ -56,7 +56,8 @@ void clsStReuse::Load(Form1& window, const std::string& ParamString2,
     if (FileExists(ParamString2)) window.Files().OpenProject(ParamString2);
     return;
   }
-  if (!ParamString3.empty()) window.Files().ReadFile(ParamString3);
+  // Half a project must not pass for the host's.
+  if (!ParamString3.empty() && !window.Files().ReadFile(ParamString3)) window.Files().New();
   const auto items = SplitLines(ParamString2);
   if (items.size() >= 2) window.TakeBasin(items[0], items[1]);
 }

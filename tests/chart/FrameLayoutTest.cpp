@@ -24,6 +24,12 @@ TEST(LayoutFrame, IsLimitedByTheHeightInAWideControl) {
   EXPECT_EQ(layout.Frame.Bottom, 592);  // 34.09 + 558.01
 }
 
+TEST(LayoutFrame, CountsTheBandAboveWithItsOwnFactor) {
+  // 2250 x 1500 leaves 2210 x 1460. Frame height 1460 x 0.4 / 0.4301 = 1357.82, width 1810.43; the
+  // top is 20 + 1460 x 0.0101 / 0.4301 = 54.29 (a factor of 1.02 would give 54.62).
+  EXPECT_EQ(Layout(2250, 1500).Frame, (clsRectangle_Integer{220, 2030, 54, 1412}));
+}
+
 TEST(LayoutFrame, IsLimitedByTheWidthInATallControl) {
   // 340 x 640 leaves 300 x 600. Frame 300 x 225; bands 225 x 0.0101 / 0.4 = 5.68 above and 11.25
   // below; free height 358.07.

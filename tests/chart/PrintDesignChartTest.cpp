@@ -42,6 +42,17 @@ class PrintDesignChart : public ChartFixture {
     return printer.Take();
   }
 
+  // With the design point at V = 3.5 on a curve of 70 % that has this R everywhere.
+  Log PrintAnswerAt(const std::string& R) {
+    CurveFileText file = WithWideCurves();
+    file.curves[1].A = R;
+    Load(file);
+    std::string found;
+    EXPECT_TRUE(chart_.SetHotspotUsing_EV("70", "3.5", found));
+    EXPECT_EQ(found, R);
+    return Print(100, 200, 900, 800);
+  }
+
   // Place of the first call that begins so; -1 for none.
   static int Place(const Log& calls, std::string_view beginning) {
     const auto found =
@@ -180,10 +191,33 @@ TEST_F(PrintDesignChart, TheHotspotIsLastAndFilledWithRed) {
   const int mark = Place(calls, "fill polygon 500,358 505,363 500,368 495,363 colour 0x0000FF");
   ASSERT_NE(mark, -1) << testing::PrintToString(calls);
   EXPECT_GT(mark, Place(calls, "unclip"));
-  EXPECT_EQ(calls.size(), static_cast<std::size_t>(mark) + 3);
+  EXPECT_EQ(calls.size(), static_cast<std::size_t>(mark) + 4);
   EXPECT_EQ(calls[calls.size() - 1], "text 505,348 \"E=" + E + "%\" Arial 10 colour 0x0000FF");
   EXPECT_THAT(calls, Contains("line 154,363 to 500,363 colour 0x0000FF width 1 copy"));
   EXPECT_THAT(calls, Contains("line 500,753 to 500,363 colour 0x0000FF width 1 copy"));
+}
+
+// A rate above the chart's own limit is an answer like any other: R = 0.403 is row 753 - 523.9,
+// four above the frame and within the rectangle.
+TEST_F(PrintDesignChart, AnAnswerJustAboveTheFrameIsPrinted) {
+  const Log calls = PrintAnswerAt("0.403");
+  EXPECT_THAT(calls, Contains("fill polygon 500,224 505,229 500,234 495,229 colour 0x0000FF"));
+  EXPECT_THAT(calls, Contains("line 154,229 to 500,229 colour 0x0000FF width 1 copy"));
+  EXPECT_THAT(calls.back(), HasSubstr("\"E=70%\" Arial 10 colour 0x0000FF"));
+}
+
+// R = 0.435 is row 753 - 565.5, 45 above the frame and 12 above the rectangle: the leader leads
+// there. The text keeps to the frame, beside the column of V.
+TEST_F(PrintDesignChart, AnAnswerAboveTheRectangleIsCutOffAtItsEdge) {
+  const Log calls = PrintAnswerAt("0.435");
+  const int clip = Place(calls, "clip 100,200 to 901,801");
+  ASSERT_NE(clip, -1) << testing::PrintToString(calls);
+  const auto at = [&](int offset) { return calls.at(static_cast<std::size_t>(clip + offset)); };
+  EXPECT_EQ(at(1), "line 154,188 to 500,188 colour 0x0000FF width 1 copy");
+  EXPECT_EQ(at(2), "line 500,753 to 500,188 colour 0x0000FF width 1 copy");
+  EXPECT_EQ(at(3), "fill polygon 500,183 505,188 500,193 495,188 colour 0x0000FF");
+  EXPECT_EQ(at(4), "unclip");
+  EXPECT_EQ(calls.back(), "text 505,234 \"E=70%\" Arial 10 colour 0x0000FF");
 }
 
 TEST_F(PrintDesignChart, AHiddenHotspotIsNotPrinted) {

@@ -65,9 +65,28 @@ TEST_F(SetHotspot, FindsVFromEAndR) {
   ExpectAnswer(Pair::ER, "70", "0.15", 2.718282, 6e-4);  // exp(1)
 }
 
+// The digits are those of the middle at which the halving of VStart...VEnd stops, worked out by a
+// separate program: 1.25...7 after 11 and 12 middles, within 1E-5 in R. On the steep curve the
+// first middle known within 5E-6 in V, the 22nd, comes before one that is within 1E-5 in R.
+TEST_F(SetHotspot, TheSearchForVStopsAtItsTolerances) {
+  ASSERT_TRUE(Ask(Pair::ER, "60", "0.12"));
+  EXPECT_EQ(result_, "3.004761");
+  ASSERT_TRUE(Ask(Pair::ER, "60", "0.11"));
+  EXPECT_EQ(result_, "3.668762");
+  CurveFileText file = LogarithmicCurves();
+  file.header[4] = "100";
+  file.curves[0] = {"50", "1", "7", "100", "-50", "0", "0"};
+  Load(file);
+  ASSERT_TRUE(Ask(Pair::ER, "50", "77"));
+  EXPECT_EQ(result_, "1.584074");
+}
+
 TEST_F(SetHotspot, WritesTheResultInSinglePrecision) {
   ASSERT_TRUE(Ask(Pair::EV, "60", "3"));
   EXPECT_EQ(result_, "0.1200694");
+  ASSERT_TRUE(Ask(Pair::RV, "0.12", "3"));
+  // 50 + 400 (0.05 ln 3 - 0.03) = 59.9722458; the nearest single is 59.9722443.
+  EXPECT_EQ(result_, "59.97224");
 }
 
 TEST_F(SetHotspot, AStoredEUsesItsCurveUnchanged) {

@@ -78,7 +78,7 @@ TEST(PictureScaling, AThinLineDoesNotDisappear) {
     const Picture scaled = ScalePicture(picture, {1, 100}, Whole({1, 100}));
     int darkness = 0;
     for (const std::uint32_t pixel : scaled.pixels) darkness += 255 - static_cast<int>(pixel);
-    EXPECT_NEAR(darkness, 255 / 3, 2) << at;
+    EXPECT_NEAR(darkness, 255.0 / 3, 2) << at;
   }
 }
 

@@ -10,6 +10,7 @@ class MyTextBox : public testing::Test {
  protected:
   MyTextBox() {
     box_.OnChange = [this] { ++changes_; };
+    box_.OnLeave = [this] { ++leaves_; };
     box_.OnKeyPress = [this](std::int16_t& KeyAscii) {
       ++keys_;
       if (KeyAscii == 'x') KeyAscii = 0;
@@ -21,6 +22,7 @@ class MyTextBox : public testing::Test {
   ctrlMyTextBox box_{toolkit_, "txtDate"};
   int changes_ = 0;
   int keys_ = 0;
+  int leaves_ = 0;
 };
 
 TEST_F(MyTextBox, PropertiesAreThoseOfTheInnerTextBox) {
@@ -55,11 +57,18 @@ TEST_F(MyTextBox, WithTheEventSwitchOffNothingReachesTheHostAndKeysPassUnchanged
   box_.Text(box_.Text() + "!");
   EXPECT_EQ(changes_, 0);
   EXPECT_EQ(keys_, 0);
+  toolkit_.Leave("txtDate");
+  EXPECT_EQ(leaves_, 0);
   EXPECT_EQ(box_.Text(), "axb!");
 }
 
 TEST_F(MyTextBox, EventsAreOnAtFirst) {
   EXPECT_TRUE(box_.EventsOn());
+  toolkit_.Type("txtDate", "b");
+  toolkit_.Leave("txtDate");
+  EXPECT_EQ(changes_, 1);
+  EXPECT_EQ(keys_, 1);
+  EXPECT_EQ(leaves_, 1);
 }
 
 }  // namespace

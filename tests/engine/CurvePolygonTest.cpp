@@ -82,6 +82,17 @@ TEST(IsPointInsidePolygon, CountsAVertexOnce) {
   EXPECT_FALSE(IsPointInsidePolygon(21, 10, diamond));
 }
 
+TEST(IsPointInsidePolygon, CountsAPointOnASlantedEdgeAndDoesNotRoundWhereItCrosses) {
+  // The right edge from (10, 0) to (14, 2) passes row 1 at 12; the one from (-3, 0) to (0, 2) at
+  // -1.5.
+  const FramePolygon slanted{{0, 10, 14, 0, 0}, {0, 0, 2, 2, 0}};
+  EXPECT_TRUE(IsPointInsidePolygon(12, 1, slanted));
+  EXPECT_FALSE(IsPointInsidePolygon(13, 1, slanted));
+  const FramePolygon left{{-9, -3, 0, -9, -9}, {0, 0, 2, 2, 0}};
+  EXPECT_TRUE(IsPointInsidePolygon(-2, 1, left));
+  EXPECT_FALSE(IsPointInsidePolygon(-1, 1, left));
+}
+
 TEST(IsPointInsidePolygon, AgreesWithTheWindingNumberOnARandomPolygon) {
   // An independent method: the angles under which the edges are seen add up to a full turn inside
   // and to nothing outside.

@@ -53,6 +53,48 @@ TEST(ExtractCurve, InterpolatesEveryParameterInE) {
   EXPECT_EQ(curve->V.front(), 1.125);
 }
 
+// Every parameter is another one on the second curve.
+CurveSet TwoDifferentCurves() {
+  EfficiencyCurve A = Logarithmic(50, 0.125, 1, 6);
+  A.C = 0.25;
+  A.D = -0.5;
+  EfficiencyCurve B = Logarithmic(70, 0.375, 2, 8);
+  B.B = -0.25;
+  B.C = 0.75;
+  B.D = -1;
+  CurveSet set;
+  set.Curves = {A, B};
+  return set;
+}
+
+TEST(ExtractCurve, InterpolatesParametersThatAllDiffer) {
+  const auto curve = ExtractCurve(TwoDifferentCurves(), 55);  // a quarter of the way
+  ASSERT_TRUE(curve);
+  EXPECT_DOUBLE_EQ(curve->A, 0.1875);
+  EXPECT_DOUBLE_EQ(curve->B, -0.1);
+  EXPECT_DOUBLE_EQ(curve->C, 0.375);
+  EXPECT_DOUBLE_EQ(curve->D, -0.625);
+  EXPECT_DOUBLE_EQ(curve->VStart, 1.25);
+  EXPECT_DOUBLE_EQ(curve->VEnd, 6.5);
+}
+
+TEST(ExtractCurve, TakesTheShareFromEInDoublePrecision) {
+  // As a single, 63.3 is 63.2999992: the share of the way would be another one.
+  const double E = 63.3;
+  const auto curve = ExtractCurve(TwoDifferentCurves(), E);
+  ASSERT_TRUE(curve);
+  EXPECT_DOUBLE_EQ(curve->A, 0.125 + 0.25 * (E - 50) / 20);
+  EXPECT_DOUBLE_EQ(curve->VEnd, 6 + 2 * (E - 50) / 20);
+}
+
+TEST(ExtractCurve, FindsACurveUpToItsNeighbours) {
+  for (const double E : {50.001, 69.999, 70.001, 89.999}) {
+    const auto curve = ExtractCurve(ThreeCurves(), E);
+    ASSERT_TRUE(curve) << E;
+    EXPECT_NEAR(curve->A, 0.15 + 0.05 * (E - 50) / 20, 1e-12) << E;  // A is linear over all three
+  }
+}
+
 TEST(ExtractCurve, FindsNothingOutsideTheCurves) {
   EXPECT_FALSE(ExtractCurve(ThreeCurves(), 49.99));
   EXPECT_FALSE(ExtractCurve(ThreeCurves(), 90.01));
@@ -125,6 +167,31 @@ TEST(FindEBetweenCurves, TakesTheCurveItselfWithinTheTolerance) {
     EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, B) + off, A, B)->E, 70) << off;
   }
   EXPECT_NE(FindEBetweenCurves(3, CurveR(3, A) + 1.1e-5, A, B)->E, 50);
+}
+
+TEST(FindEBetweenCurves, InterpolatesEveryCoefficient) {
+  // At one V every coefficient moves R in proportion to E, so E = 50 + 20 (R - R50) / (R70 - R50).
+  const CurveSet set = TwoDifferentCurves();
+  const EfficiencyCurve& A = set.Curves[0];
+  const EfficiencyCurve& B = set.Curves[1];
+  const double V = 3;
+  const double lower = CurveR(V, A);
+  const double upper = CurveR(V, B);
+  for (const double share : {0.1, 0.4, 0.75}) {
+    const auto found = FindEBetweenCurves(V, lower + (upper - lower) * share, A, B);
+    ASSERT_TRUE(found) << share;
+    EXPECT_NEAR(found->E, 50 + 20 * share, 1e-9);
+    EXPECT_NEAR(found->t, share, 1e-11);
+  }
+  EXPECT_EQ(FindEBetweenCurves(V, lower, A, B)->t, 0);
+  EXPECT_EQ(FindEBetweenCurves(V, upper, A, B)->t, 1);
+}
+
+TEST(FindEBetweenCurves, OfTwoCurvesWithinTheToleranceItTakesTheHigherE) {
+  const EfficiencyCurve A = Logarithmic(50, 0.15, 1);
+  const EfficiencyCurve B = Logarithmic(70, 0.150008, 1);
+  EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, A) + 1e-6, A, B)->E, 70);
+  EXPECT_EQ(FindEBetweenCurves(3, CurveR(3, A), A, A)->E, 50);  // no quotient is needed
 }
 
 TEST(FindEBetweenCurves, GivesUpWhereItsStepsAreTooCoarse) {

@@ -120,6 +120,12 @@ TEST_F(Form1Test, ClosingStandAloneAsksNothingAndKeepsTheReturnCode) {
   EXPECT_EQ(form_->ReturnCode(), 0);
 }
 
+TEST_F(Form1Test, ClosingInAnotherModeAsksNothing) {
+  form_->Mode(3);
+  EXPECT_TRUE(toolkit_.CloseByFrame("Form1"));
+  EXPECT_TRUE(desktop_.Messages().empty());
+}
+
 // What was typed last counts, although the field is not left: a host must not get the results of
 // other numbers.
 TEST_F(Form1Test, LeavingByTheMenuOrTheFrameSolvesForWhatWasTypedLast) {
@@ -207,6 +213,12 @@ TEST_F(Form1Test, EscDuringADragOverTheChartBringsTheNumbersBack) {
   chart.OnKeyDown(27);
   EXPECT_EQ(texts(), before);
   EXPECT_EQ(Message(), "");
+}
+
+TEST_F(Form1Test, ResultsHaveNoBlanksAround) {
+  SolveForEfficiency();
+  Type("txtSolveFor(1)", " 1.25 ");
+  EXPECT_EQ(form_->StorageVolume(), "1.25");
 }
 
 TEST_F(Form1Test, ResultsAreEmptyWithoutAMode) {

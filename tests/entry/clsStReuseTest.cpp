@@ -129,6 +129,23 @@ TEST_F(clsStReuseTest, NoiseAsAProjectIsToldAndTheWindowOpens) {
   EXPECT_EQ(p3_, "noise");
 }
 
+TEST_F(clsStReuseTest, HalfAProjectIsToldAndTheWindowOpensEmpty) {
+  auto lines = ProjectLines();
+  lines.pop_back();
+  p3_ = ProjectText(lines);
+  p2_ = "20\r\n0.25";
+  EXPECT_EQ(Show(2,
+                 [this] {
+                   EXPECT_EQ(toolkit_.Text("txtProjectName"), "");
+                   EXPECT_EQ(toolkit_.Find<HeadlessComboBox>("cmbClimateStation").ListIndex(), -1);
+                   EXPECT_EQ(toolkit_.Text("txtIrrigationArea"), "");
+                   EXPECT_EQ(toolkit_.Text("txtBasinArea"), "20") << "the host's own basin";
+                 }),
+            0);
+  ASSERT_EQ(desktop_.Messages().size(), 1U);
+  EXPECT_EQ(desktop_.Messages()[0].text, "Error reading data.");
+}
+
 TEST_F(clsStReuseTest, AProjectWithoutResultsSavesWithEmptyLines) {
   EXPECT_EQ(ShowAndSave(), 1);
   EXPECT_EQ(p2_, "\r\n\r\n");
@@ -226,6 +243,19 @@ TEST_F(clsStReuseTest, FileDialogsStartInTheModulesFolder) {
   EXPECT_TRUE(FolderExists(module_.Folders().module));
 }
 
+// What the user does to the folders later is the user's own; printing needs none of them.
+TEST_F(clsStReuseTest, OnlyTheFirstShowMakesTheFolders) {
+  const std::string suite = folder_ / "Documents/ORVIK33";
+  RecordingPrinter printer;
+  entry_.Print_Remote(&printer, 2, "", ProjectText());
+  EXPECT_FALSE(FolderExists(suite));
+  EXPECT_EQ(ShowAndSave(), 1);
+  EXPECT_TRUE(FolderExists(suite));
+  std::filesystem::remove_all(PathFromUtf8(suite));
+  EXPECT_EQ(ShowAndSave(), 1);
+  EXPECT_FALSE(FolderExists(suite));
+}
+
 // --- One window ---
 
 TEST_F(clsStReuseTest, ASecondCallWhileTheWindowIsOpenIsRefusedAndHarmsNothing) {
@@ -248,6 +278,12 @@ TEST_F(clsStReuseTest, ASecondCallWhileTheWindowIsOpenIsRefusedAndHarmsNothing) 
 TEST_F(clsStReuseTest, AWindowLeftFromPrintingOpensOnDefaultData) {
   module_.Window().Files().ReadFile(ProjectText());
   EXPECT_EQ(Show(2, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
+}
+
+TEST_F(clsStReuseTest, AReturnCodeLeftFromBeforeIsNoAnswer) {
+  module_.Window().ReturnCode(1);
+  EXPECT_EQ(Show(1, [this] { toolkit_.CloseByFrame("Form1"); }), 0);
+  EXPECT_EQ(p3_, "");
 }
 
 TEST_F(clsStReuseTest, AnotherThreadIsRefusedTheWindow) {

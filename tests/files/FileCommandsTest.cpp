@@ -74,7 +74,9 @@ TEST_F(FileMenu, ADamagedFileLeavesWhatWasReadBeforeTheFault) {
   SolveForEfficiency();
   auto lines = test::ProjectLines();
   lines.resize(12);
-  Open(folder_.Write("cut.kav", ProjectText(lines)));
+  const std::string path = folder_.Write("cut.kav", ProjectText(lines));
+  Open(path);
+  EXPECT_EQ(CurrentPath(), path);
   EXPECT_EQ(desktop_.Messages().back().text, "Error reading data file.");
   EXPECT_EQ(Text("txtProjectName"), "Pond");
   EXPECT_EQ(Text("txtBasinArea"), "10");
@@ -212,6 +214,14 @@ TEST_F(FileMenu, AFolderThatIsGoneIsNoStartFolder) {
   std::filesystem::remove_all(PathFromUtf8(folder_ / "Projects"));
   Click("mnuFile_Open");
   EXPECT_EQ(desktop_.FileDialogs().back().startFolder, "/home/user/Documents");
+}
+
+// The user who looked for a place there goes on from there.
+TEST_F(FileMenu, AFailedSaveStillMovesTheDialogs) {
+  folder_.Write("Other/Pond.kav/inside", "a folder in the file's way");
+  SaveAs(folder_ / "Other/Pond.kav");
+  Open("");
+  EXPECT_EQ(desktop_.FileDialogs().back().startFolder, FolderOf(folder_ / "Other/Pond.kav"));
 }
 
 TEST_F(FileMenu, AnUnknownDocumentsFolderIsEmptyAndSaysWhy) {

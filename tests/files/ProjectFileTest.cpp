@@ -206,6 +206,20 @@ TEST_F(ProjectFileTest, AnEmptyTextIsRefusedInSilence) {
   EXPECT_EQ(Text("txtBasinArea"), "") << "cleared";
 }
 
+TEST_F(ProjectFileTest, ATextThatCannotBeReadIsRecalculatedAllTheSame) {
+  EXPECT_FALSE(Read("noise"));
+  EXPECT_EQ(Message(), "The basin area has not been defined.");
+}
+
+TEST_F(ProjectFileTest, ClearDataEmptiesTheChartsOutcomeAlsoWithoutAStation) {
+  std::string E;
+  EXPECT_FALSE(form_->Chart().SetHotspotUsing_RV("1", "1", E));
+  EXPECT_NE(form_->Chart().ErrMsg(), "");
+  form_->File().ClearData();
+  EXPECT_EQ(form_->Chart().ErrMsg(), "");
+  EXPECT_EQ(form_->Chart().HelpTopicIndex(), 0);
+}
+
 TEST_F(ProjectFileTest, ClearDataEmptiesEveryField) {
   SolveForEfficiency();
   for (const char* field : {"txtProjectName", "txtDescription", "txtProjectNumber", "txtEngineer",

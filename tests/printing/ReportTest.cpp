@@ -139,6 +139,16 @@ TEST_F(Report, EveryPageHasItsHeaderAndTheProjectAtItsFoot) {
   }
 }
 
+TEST_F(Report, BlanksAroundAValueAreNotPrinted) {
+  TypeDescription();
+  SolveForEfficiency();
+  Type("txtProjectName", "  Citrus Grove ");
+  TypeAndEnter("txtBasinArea", "  10  ");
+  const auto texts = TextsOf(Print());
+  EXPECT_THAT(texts, Contains("Citrus Grove"));
+  EXPECT_THAT(texts, Contains("10 acres"));
+}
+
 TEST_F(Report, CaptionsAndValuesStandInTwoColumns) {
   TypeDescription();
   SolveForEfficiency();
@@ -329,6 +339,16 @@ TEST_F(Report, ChangesNeitherTheFieldsNorTheChart) {
   EXPECT_EQ(before, after);
   EXPECT_EQ(screenBefore.Calls(), screenAfter.Calls());
   EXPECT_EQ(std::pair(form_->Chart().HotspotX(), form_->Chart().HotspotY()), box);
+}
+
+TEST_F(Report, ASecondDocumentBeginsWithoutABlankSheet) {
+  SolveForEfficiency();
+  ProjectReport report(form_->Fields(), form_->Chart(), desktop_);
+  RecordingPrinter first;
+  RecordingPrinter second;
+  report.PrintDoc(first);
+  report.PrintDoc(second);
+  EXPECT_EQ(first.Calls(), second.Calls());
 }
 
 TEST_F(Report, IsTheSameWhenItIsPrintedAgain) {

@@ -40,6 +40,26 @@ TEST(Conversions, NormalizedReuseIsSpreadOverTheIrrigationAreaForAWeek) {
   EXPECT_EQ(site, "0.4375");
 }
 
+// Values whose last digit tells the order of operations and the precision; recalculated step by
+// step outside of this code, each step rounded to single precision.
+TEST(Conversions, TheOrderOfOperationsIsPartOfTheResult) {
+  std::string site;
+  std::string message;
+  // V x EIA / 12 and double precision give 7.9765 and 9.33875.
+  EXPECT_TRUE(NormalizedStorageToSiteStorage("2.58", "37.1", site, message));
+  EXPECT_EQ(site, "7.976499");
+  EXPECT_TRUE(NormalizedStorageToSiteStorage("4.65", "24.1", site, message));
+  EXPECT_EQ(site, "9.338751");
+  // All other orders and double precision give 0.7163774 and 0.6776418.
+  EXPECT_TRUE(NormalizedReuseToSiteReuse("0.226", "16.8", "37.1", site, message));
+  EXPECT_EQ(site, "0.7163773");
+  EXPECT_TRUE(NormalizedReuseToSiteReuse("0.141", "23", "33.5", site, message));
+  EXPECT_EQ(site, "0.6776417");
+  // Double precision gives 79693.95 and 99850.18, single from the beginning 79693.95 and 99850.17.
+  EXPECT_EQ(InchesPerWeek_To_GPD("1.07", "19.2"), "79693.94");
+  EXPECT_EQ(InchesPerWeek_To_GPD("0.9", "28.6"), "99850.19");
+}
+
 TEST(Conversions, NoSignIsRefused) {
   std::string site;
   std::string message;

@@ -56,6 +56,49 @@ TEST_F(Interactive, WithoutAnIrrigationAreaThePointShowsAndMissingDataIsToldWith
   EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kTrue16);
 }
 
+TEST_F(Interactive, WithoutAnEiaThePointHasNoSiteValuesEither) {
+  Choose("cmbClimateStation", "Tampa");
+  Type("txtIrrigationArea", "5");
+  PlaceAt(3, 0.12);
+  EXPECT_NE(Text("txtE"), "");
+  EXPECT_EQ(Text("txtSolveFor(1)") + Text("txtSolveFor(2)") + Text("txtSolveFor(3)"), "");
+  EXPECT_EQ(Message(), "Missing data.");
+}
+
+TEST_F(Interactive, MissingDataLeaveTheBeepOffWhileThePointIsDragged) {
+  Choose("cmbClimateStation", "Tampa");
+  PressAt(3, 0.12);
+  const auto& geometry = form_->Chart().Geometry();
+  form_->Chart().MouseMove(geometry.XPlotToXFrame(4), geometry.YPlotToYFrame(0.12));
+  EXPECT_EQ(Message(), "Missing data.");
+  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kFalse16);
+  Release();
+  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kTrue16);
+}
+
+TEST_F(Interactive, AChangeTakesTheLastMessageAway) {
+  TypeSite();
+  PlaceAt(6.5, 0.38);
+  ASSERT_EQ(Message(), "Out of range");
+  PlaceAt(3, 0.12);
+  EXPECT_EQ(Message(), "");
+  EXPECT_EQ(form_->Fields().txtErrMsg.ExtendedHelpTopic(), 0);
+}
+
+// R's site value fails before E does, V has nothing to say.
+TEST_F(Interactive, TheLastOfSeveralMessagesStands) {
+  TypeSite();
+  Type("txtIrrigationArea", "0");
+  toolkit_.Leave("txtIrrigationArea");
+  PlaceAt(6.5, 0.38);
+  EXPECT_EQ(Message(), "Out of range");
+  EXPECT_EQ(form_->Fields().txtErrMsg.ExtendedHelpTopic(), 1);
+  PlaceAt(3, 0.12);
+  EXPECT_EQ(Message(), "The calculation divides by zero.");
+  EXPECT_EQ(Text("txtSolveFor(1)"), "");
+  EXPECT_NEAR(Number("txtSolveFor(3)"), Number("txtV") / 2.4, 1e-6) << "does not need the area";
+}
+
 TEST_F(Interactive, APointOutsideTheCurvesHasNoEfficiencyAndSaysSo) {
   TypeSite();
   PlaceAt(6.5, 0.38);
@@ -86,6 +129,33 @@ TEST_F(Interactive, AChangeInATypedModeLeavesTheSlots) {
   EXPECT_EQ(Text("txtSolveFor(1)"), "1.25");
   EXPECT_EQ(Text("txtSolveFor(2)"), "0.875");
   EXPECT_EQ(Text("txtR"), "0.125");
+}
+
+TEST_F(Interactive, AChangeInATypedModeTellsOfMissingDataToo) {
+  SolveForEfficiency();
+  Type("txtIrrigationArea", "");
+  form_->Chart().OnChange();
+  EXPECT_EQ(Text("txtR"), "0.125");
+  EXPECT_EQ(Message(), "Missing data.");
+}
+
+TEST_F(Interactive, WithoutAModeAChangeFillsTheSlotsAsInTheInteractiveOne) {
+  SolveForEfficiency();
+  form_->Fields().cmbSolveFor->ListIndex(-1);
+  form_->Chart().OnChange();
+  EXPECT_EQ(Text("txtSolveFor(1)"), "0.875");
+  EXPECT_EQ(Text("txtSolveFor(2)"), Text("txtE"));
+  EXPECT_EQ(Text("txtSolveFor(3)"), "1.25");
+}
+
+TEST_F(Interactive, ARecalculationDoesNotFollowAChartThatIsNotInteractive) {
+  TypeSite();
+  PlaceAt(3, 0.12);
+  form_->Chart().InteractiveMode(kFalse16);
+  PressReCalc();
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "5");
+  EXPECT_EQ(Text("txtR") + Text("txtE") + Text("txtV"), "");
+  EXPECT_EQ(Message(), "");
 }
 
 TEST_F(Interactive, ARecalculationFollowsThePoint) {

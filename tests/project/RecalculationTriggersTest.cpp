@@ -35,6 +35,8 @@ TEST_F(RecalculationTriggersTest, EnterRecalculates) {
     Enter(field);
     EXPECT_EQ(runs_, ++expected) << field;
   }
+  Enter("txtSolveFor(3)");
+  EXPECT_EQ(runs_, ++expected) << "the result's field";
 }
 
 TEST_F(RecalculationTriggersTest, LeavingAChangedFieldRecalculatesOnce) {
@@ -126,8 +128,14 @@ TEST_F(RecalculationTriggersTest, LeavingAFieldThatAFileFilledDoesNothing) {
 }
 
 TEST_F(RecalculationTriggersTest, EnterIsTakenByTheFieldAndLeavesItsText) {
-  Enter("txtBasinArea");
+  const auto& basinArea = toolkit_.Find<HeadlessTextBox>("txtBasinArea");
+  std::int16_t key = 13;
+  basinArea.OnKeyPress(key);
+  EXPECT_EQ(key, 0);
   EXPECT_EQ(Text("txtBasinArea"), "10");
+  key = '1';
+  basinArea.OnKeyPress(key);
+  EXPECT_EQ(key, '1');
 }
 
 }  // namespace

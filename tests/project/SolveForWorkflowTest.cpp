@@ -1,5 +1,7 @@
 // The typed modes end to end, and what carries over when the mode changes. The site: EIA 5 ac, 5 ac
 // irrigated, so V = 2.4 S and R = Q / 7. Tampa's curves: E = 50 + 400 (R + 0.05 ln V - 0.15).
+#include <map>
+
 #include "support/FormFixture.h"
 
 namespace orvik {
@@ -7,7 +9,19 @@ namespace {
 
 using test::FormFixture;
 
-class SolveForWorkflowTest : public FormFixture {};
+class SolveForWorkflowTest : public FormFixture {
+ protected:
+  void TypeAreas(const char* basin, const char* runoffCoefficient, const char* irrigation) {
+    Type("txtBasinArea", basin);
+    Type("txtRunoffCoefficient", runoffCoefficient);
+    Type("txtIrrigationArea", irrigation);
+  }
+  void Solve(const char* mode, const char* first, const char* second) {
+    Choose("cmbSolveFor", mode);
+    Type("txtSolveFor(1)", first);
+    TypeAndEnter("txtSolveFor(2)", second);
+  }
+};
 
 TEST_F(SolveForWorkflowTest, FindsTheEfficiency) {
   SolveForEfficiency();
@@ -44,6 +58,14 @@ TEST_F(SolveForWorkflowTest, FindsTheReuseRate) {
   EXPECT_NEAR(Number("txtSolveFor(3)"), R * 7, 7e-7);
 }
 
+TEST_F(SolveForWorkflowTest, AGivenEfficiencyIsShownAsANumberOfOurs) {
+  TypeSite();
+  for (const char* mode : {"Storage Volume", "Reuse Rate"}) {
+    Solve(mode, " 060.50 ", "0.875");
+    EXPECT_EQ(Text("txtE"), "60.5") << mode;
+  }
+}
+
 TEST_F(SolveForWorkflowTest, FiveAcreFeetAndOneInchPerWeekAreTwelveInchesAndASeventh) {
   TypeSite("Orlando");
   Choose("cmbSolveFor", "Efficiency");
@@ -66,6 +88,41 @@ TEST_F(SolveForWorkflowTest, NormalizedValuesAreCalculatedInSinglePrecision) {
   Type("txtBasinArea", "9.6");
   TypeAndEnter("txtIrrigationArea", "5.9");
   EXPECT_EQ(Text("txtR"), "0.1273066");
+}
+
+// 0.53 x 12.3 is 6.519 in its text, from which 6.350667 would follow, as in double precision.
+TEST_F(SolveForWorkflowTest, TheEiaIsTakenInSinglePrecisionAndNotFromItsText) {
+  TypeSite();
+  TypeAreas("12.3", "0.53", "5");
+  Solve("Efficiency", "3.45", "0.5");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "6.519");
+  EXPECT_EQ(Text("txtV"), "6.350668");
+}
+
+// V = 4 in is the first middle that the search on the curve tries. V / 12 x EIA and double
+// precision give 9.6.
+TEST_F(SolveForWorkflowTest, TheSolvedStorageIsCalculatedInSinglePrecision) {
+  TypeSite();
+  TypeAreas("28.8", "1", "28.8");
+  Solve("Storage Volume", "50", "0.5647971");  // R = 0.15 - 0.05 ln 4 = 0.0806853 in/day
+  EXPECT_EQ(Text("txtV"), "4");
+  EXPECT_EQ(Text("txtSolveFor(3)"), "9.599999");
+}
+
+// On a flat curve R is the curve's own number. All other orders and double precision give
+// 0.7163774.
+TEST_F(SolveForWorkflowTest, TheSolvedReuseRateIsCalculatedInSinglePrecision) {
+  auto file = test::LogarithmicCurves();
+  for (auto& curve : file.curves) {
+    curve.A = "0.226";
+    curve.B = "0";
+  }
+  folder_.Write("KAV Data/Grady.crv", file.Text());
+  TypeSite("Grady");
+  TypeAreas("16.8", "1", "37.1");
+  Solve("Reuse Rate", "70", "5");
+  EXPECT_EQ(Text("txtR"), "0.226");
+  EXPECT_EQ(Text("txtSolveFor(3)"), "0.7163773");
 }
 
 // A solution of one mode does not stand, locked, as if it were the next mode's.
@@ -197,6 +254,26 @@ TEST_F(ModeChangeTest, CarriesASolvedValueOverAsAGivenOne) {
   Choose("cmbSolveFor", "Reuse Rate");
   EXPECT_EQ(Slot(1), E);
   EXPECT_NEAR(Number("txtSolveFor(3)"), 0.875, 1e-3);
+}
+
+// What stands in the slots of one mode stands, by its caption, in those of the other.
+TEST_F(ModeChangeTest, EachModeTakesItsGivenValuesFromEachOther) {
+  const char* const modes[] = {"Interactive", "Efficiency", "Storage Volume", "Reuse Rate"};
+  SolveForEfficiency();
+  for (const char* from : modes) {
+    for (const char* to : modes) {
+      if (from == to) continue;
+      Choose("cmbSolveFor", from);
+      std::map<std::string, std::string> values;
+      for (int slot = 1; slot <= 3; ++slot) values[Caption(slot)] = Slot(slot);
+      for (const auto& [caption, value] : values) ASSERT_NE(value, "") << from << ": " << caption;
+      Choose("cmbSolveFor", to);
+      const int given = to == modes[0] ? 0 : 2;
+      for (int slot = 1; slot <= given; ++slot) {
+        EXPECT_EQ(Slot(slot), values[Caption(slot)]) << from << " to " << to << ", slot " << slot;
+      }
+    }
+  }
 }
 
 TEST_F(ModeChangeTest, CarriesTheInteractivePointOver) {

@@ -29,6 +29,9 @@ TEST_P(SiteMessages, StopTheRecalculation) {
   EXPECT_EQ(Message(), GetParam().message);
   EXPECT_EQ(Text("txtSolveFor(3)"), "");
   EXPECT_EQ(Text("txtR") + Text("txtE") + Text("txtV"), "");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"),
+            std::string_view(GetParam().field) == "txtIrrigationArea" ? "5" : "");
+  EXPECT_FALSE(HotspotIsVisible()) << "a result, as the numbers are";
   EXPECT_EQ(form_->Fields().txtErrMsg.ExtendedHelpTopic(), 0);
   EXPECT_TRUE(desktop_.Messages().empty()) << "faults of input never open a message box";
 }

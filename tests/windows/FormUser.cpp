@@ -17,9 +17,10 @@
 namespace orvik::test {
 namespace {
 
-constexpr std::chrono::seconds kDeadline{20};
+constexpr std::chrono::seconds kDeadline = FormUser::kDeadline;
+constexpr std::chrono::seconds kPatience{4};  // before a user tries again
 
-void SendKey(WORD code, DWORD flags) {
+INPUT KeyEvent(WORD code, DWORD flags) {
   INPUT input{};
   input.type = INPUT_KEYBOARD;
   input.ki.wVk = (flags & KEYEVENTF_UNICODE) != 0 ? WORD{0} : code;
@@ -27,37 +28,32 @@ void SendKey(WORD code, DWORD flags) {
                        ? code
                        : static_cast<WORD>(::MapVirtualKeyW(code, MAPVK_VK_TO_VSC));
   input.ki.dwFlags = flags;
-  ::SendInput(1, &input, sizeof input);
+  return input;
 }
 
-void SendMouse(DWORD flags, int turn = 0) {
+// All in one call: between two, the system may set the keys that are held to those of its keyboard.
+void Send(std::vector<INPUT> events) {
+  ::SendInput(static_cast<UINT>(events.size()), events.data(), sizeof(INPUT));
+}
+
+// Moves to a point of the window and presses or lets go a button there, or turns the wheel (0:
+// nothing of all this), in one event: after SetCursorPos the system may still report where the
+// pointer was before.
+void MouseEventAt(HWND window, POINT at, DWORD action, int turn = 0) {
+  constexpr int kWhole = 65536;  // of the screen's width and height
+  ::ClientToScreen(window, &at);
   INPUT input{};
   input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
+  input.mi.dx = static_cast<LONG>((at.x * kWhole + kWhole / 2) / ::GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = static_cast<LONG>((at.y * kWhole + kWhole / 2) / ::GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | action;
   input.mi.mouseData = static_cast<DWORD>(turn);
   ::SendInput(1, &input, sizeof input);
 }
 
-void MouseTo(HWND window, POINT at) {
-  ::ClientToScreen(window, &at);
-  ::SetCursorPos(at.x, at.y);
-}
-
-// Moves and clicks in one event each: the system may still report where the pointer was when the
-// window came up under it.
 void ClickAt(HWND window, POINT at) {
-  constexpr int kWhole = 65536;  // of the screen's width and height
-  ::ClientToScreen(window, &at);
-  const int width = ::GetSystemMetrics(SM_CXSCREEN);
-  const int height = ::GetSystemMetrics(SM_CYSCREEN);
-  for (const DWORD button : {DWORD{MOUSEEVENTF_LEFTDOWN}, DWORD{MOUSEEVENTF_LEFTUP}}) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = static_cast<LONG>((at.x * kWhole + kWhole / 2) / width);
-    input.mi.dy = static_cast<LONG>((at.y * kWhole + kWhole / 2) / height);
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
-    ::SendInput(1, &input, sizeof input);
-  }
+  MouseEventAt(window, at, MOUSEEVENTF_LEFTDOWN);
+  MouseEventAt(window, at, MOUSEEVENTF_LEFTUP);
 }
 
 struct DialogSearch {
@@ -95,7 +91,10 @@ FormUser::FormUser(HWND window, const FormDesign& design) : design_(&design) {
   Watch(window);
 }
 
+// The pointer of the screen itself, which clicks do not move, goes into a corner: a window or a
+// list that came up under it would take it for a move of the mouse.
 void FormUser::Watch(HWND window) {
+  ::SetCursorPos(0, ::GetSystemMetrics(SM_CYSCREEN) - 1);
   thread_id_ = ::GetWindowThreadProcessId(window, nullptr);
   window_ = window;
 }
@@ -176,8 +175,8 @@ bool FormUser::UntilBack() const {
   });
 }
 
-bool FormUser::Until(const std::function<bool()>& isSo) const {
-  const auto end = std::chrono::steady_clock::now() + kDeadline;
+bool FormUser::Until(const std::function<bool()>& isSo, std::chrono::seconds deadline) const {
+  const auto end = std::chrono::steady_clock::now() + deadline;
   while (std::chrono::steady_clock::now() < end) {
     if (isSo()) return true;
     std::this_thread::sleep_for(std::chrono::milliseconds(2));
@@ -199,30 +198,40 @@ void FormUser::Click(std::string_view widget) {
 }
 
 void FormUser::Press(const Key& key) const {
-  for (const WORD held : key.held) SendKey(held, 0);
-  SendKey(key.code, 0);
-  SendKey(key.code, KEYEVENTF_KEYUP);
-  for (const WORD held : key.held) SendKey(held, KEYEVENTF_KEYUP);
+  std::vector<INPUT> events;
+  for (const WORD held : key.held) events.push_back(KeyEvent(held, 0));
+  events.push_back(KeyEvent(key.code, 0));
+  events.push_back(KeyEvent(key.code, KEYEVENTF_KEYUP));
+  for (const WORD held : key.held) events.push_back(KeyEvent(held, KEYEVENTF_KEYUP));
+  Send(std::move(events));
 }
 
 void FormUser::TypeText(std::string_view text) const {
+  std::vector<INPUT> events;
   for (const wchar_t unit : WideFromUtf8(text)) {
-    SendKey(unit, KEYEVENTF_UNICODE);
-    SendKey(unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+    events.push_back(KeyEvent(unit, KEYEVENTF_UNICODE));
+    events.push_back(KeyEvent(unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
   }
+  Send(std::move(events));
 }
 
-void FormUser::Type(std::string_view field, std::string_view text) {
+bool FormUser::TryToType(std::string_view field, std::string_view text) {
   Click(field);
-  if (!Until([&] { return Focus() == field; })) {
-    throw std::runtime_error("The keyboard does not come to " + std::string(field));
-  }
+  if (!Until([&] { return Focus() == field; }, kPatience)) return false;
   Press({'A', {VK_CONTROL}});
   Press({VK_DELETE, {}});
   TypeText(text);
-  if (!UntilText(field, text)) {
-    throw std::runtime_error(std::string(field) + " shows " + Text(field));
+  return Until([&] { return Text(field) == text; }, kPatience);
+}
+
+// Like a user who looks at the field and types again where a click or a key got lost on the way.
+void FormUser::Type(std::string_view field, std::string_view text) {
+  constexpr int kTries = 5;
+  for (int i = 0; i < kTries; ++i) {
+    if (TryToType(field, text)) return;
   }
+  throw std::runtime_error(std::string(field) + " shows " + Text(field) + ", the keyboard is at " +
+                           Focus());
 }
 
 void FormUser::DropDown(std::string_view list) {
@@ -233,14 +242,17 @@ void FormUser::DropDown(std::string_view list) {
   }
 }
 
-// The list drops down, and the arrow keys go to the item.
+// The list drops down, and the arrow keys go to the item, one step after the other has shown.
 void FormUser::Choose(std::string_view list, std::string_view item) {
   DropDown(list);
   const HWND box = Find(list);
+  const auto marked = [&] { return ::SendMessageW(box, CB_GETCURSEL, 0, 0); };
   const LRESULT index = ::SendMessageW(box, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                        reinterpret_cast<LPARAM>(WideFromUtf8(item).c_str()));
-  Press({VK_HOME, {}});
-  for (LRESULT i = 0; i < index; ++i) Press({VK_DOWN, {}});
+  for (LRESULT at = marked(); at != index; at = marked()) {
+    Press({static_cast<WORD>(at < index ? VK_DOWN : VK_UP), {}});
+    if (!Until([&] { return marked() != at; })) break;
+  }
   Press({VK_RETURN, {}});
   const bool isChosen = Until(
       [&] { return ::SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) == 0 && Text(list) == item; });
@@ -249,17 +261,15 @@ void FormUser::Choose(std::string_view list, std::string_view item) {
 
 void FormUser::Drag(std::string_view widget, POINT from, POINT to) {
   const HWND control = Find(widget);
-  MouseTo(control, from);
-  SendMouse(MOUSEEVENTF_LEFTDOWN);
-  MouseTo(control, {(from.x + to.x) / 2, (from.y + to.y) / 2});
-  MouseTo(control, to);
-  SendMouse(MOUSEEVENTF_LEFTUP);
+  MouseEventAt(control, from, MOUSEEVENTF_LEFTDOWN);
+  MouseEventAt(control, {(from.x + to.x) / 2, (from.y + to.y) / 2}, 0);
+  MouseEventAt(control, to, 0);
+  MouseEventAt(control, to, MOUSEEVENTF_LEFTUP);
 }
 
 void FormUser::TurnWheel(std::string_view widget, POINT at, int notches) {
-  MouseTo(Find(widget), at);
   for (int i = 0; i < std::abs(notches); ++i) {
-    SendMouse(MOUSEEVENTF_WHEEL, notches > 0 ? WHEEL_DELTA : -WHEEL_DELTA);
+    MouseEventAt(Find(widget), at, MOUSEEVENTF_WHEEL, notches > 0 ? WHEEL_DELTA : -WHEEL_DELTA);
   }
 }
 

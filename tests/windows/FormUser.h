@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -56,7 +57,8 @@ class FormUser {
   bool UntilBack() const;
 
   // Waits until it is so; false where it does not come about in time.
-  bool Until(const std::function<bool()>& isSo) const;
+  static constexpr std::chrono::seconds kDeadline{20};
+  bool Until(const std::function<bool()>& isSo, std::chrono::seconds deadline = kDeadline) const;
   bool UntilText(std::string_view widget, std::string_view text) const;
 
   // --- What a user does ---
@@ -82,6 +84,8 @@ class FormUser {
   void Watch(HWND window);
 
  private:
+  bool TryToType(std::string_view field, std::string_view text);
+
   const FormDesign* design_;
   std::atomic<HWND> window_{nullptr};
   std::atomic<DWORD> thread_id_{0};
