@@ -40,7 +40,8 @@ std::wstring Wide(const std::string& path) {
 }  // namespace
 
 Picture ReadPng(const std::string& path) {
-  return ReadPictureFile(PathToUtf8(std::filesystem::absolute(PathFromUtf8(path)))).value_or(Picture{});
+  return ReadPictureFile(PathToUtf8(std::filesystem::absolute(PathFromUtf8(path))))
+      .value_or(Picture{});
 }
 
 void WritePng(const std::string& path, const Picture& picture) {
