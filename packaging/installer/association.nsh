@@ -8,15 +8,16 @@
 
 ; Where another program has the ending already, its users keep it and find ours under "Open with".
 !macro WriteAssociation
+  ReadRegStr $0 HKCR ".kav" ""
+  ClearErrors
+  ${If} $0 == ""
+    WriteRegStr SHCTX "${CLASSES}\.kav" "" "${PROJECT_TYPE}"
+  ${EndIf}
   WriteRegStr SHCTX "${CLASSES}\${PROJECT_TYPE}" "" "ORVIK Stormwater Harvesting project"
   WriteRegStr SHCTX "${CLASSES}\${PROJECT_TYPE}\DefaultIcon" "" "$INSTDIR\StReuse.exe,-2"
   WriteRegStr SHCTX "${CLASSES}\${PROJECT_TYPE}\shell" "" "open"
   WriteRegStr SHCTX "${CLASSES}\${PROJECT_TYPE}\shell\open\command" "" '"$INSTDIR\StReuse.exe" "%1"'
   WriteRegStr SHCTX "${CLASSES}\.kav\OpenWithProgids" "${PROJECT_TYPE}" ""
-  ReadRegStr $0 HKCR ".kav" ""
-  ${If} $0 == ""
-    WriteRegStr SHCTX "${CLASSES}\.kav" "" "${PROJECT_TYPE}"
-  ${EndIf}
 !macroend
 
 !macro RemoveAssociation

@@ -31,9 +31,8 @@ Var InUse
 !macroend
 
 !macro TakeUserFile FOLDER NAME
-  GetFileTimeLocal "${STAGE}${FOLDER}\${NAME}" $2 $3
   GetFileTime "$INSTDIR${FOLDER}\${NAME}" $0 $1
-  ${If} "$0 $1" == "$2 $3"
+  ${If} "$0 $1" == "${FILE_TIME}"
     Delete "$INSTDIR${FOLDER}\${NAME}"
   ${EndIf}
 !macroend

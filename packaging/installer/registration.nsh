@@ -53,9 +53,10 @@ Var LibraryIsOurs
   SetRegView 64
 !macroend
 
+; The 64-bit library comes last: where the two views are one, it is the one that counts.
 !macro RegisterLibraries
-  !insertmacro RegisterTypes 64 StReuse.dll
   !insertmacro RegisterTypes 32 StReuse32.dll
+  !insertmacro RegisterTypes 64 StReuse.dll
   !insertmacro EachType WriteProgId SkipInterface
   StrCpy $LibraryPath "${CLASSES}\TypeLib\${LIBRARY_ID}\${LIBRARY_VERSION}"
   WriteRegStr SHCTX "$LibraryPath" "" "${LIBRARY_NAME}"
@@ -99,8 +100,10 @@ Var LibraryIsOurs
     !insertmacro EachType SkipClass RemoveInterface
   ${EndIf}
   ; A user's own part of the registry may not have had these before.
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\CLSID"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\Interface"
+  ${If} $Scope == CurrentUser
+    DeleteRegKey /ifempty HKCU "${CLASSES}\CLSID"
+    DeleteRegKey /ifempty HKCU "${CLASSES}\Interface"
+  ${EndIf}
   SetRegView 64
 !macroend
 
@@ -124,6 +127,8 @@ Var LibraryIsOurs
     DeleteRegKey SHCTX "$LibraryPath"
   ${EndIf}
   DeleteRegKey /ifempty SHCTX "${CLASSES}\TypeLib\${LIBRARY_ID}"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\TypeLib"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\Wow6432Node"
+  ${If} $Scope == CurrentUser
+    DeleteRegKey /ifempty HKCU "${CLASSES}\TypeLib"
+    DeleteRegKey /ifempty HKCU "${CLASSES}\Wow6432Node"
+  ${EndIf}
 !macroend

@@ -3,7 +3,9 @@
 Var Scope
 Var FolderIsGiven
 
-!define SETTINGS "Software\Microsoft\Windows\CurrentVersion\Uninstall\${PRODUCT_KEY}"
+; What Windows shows under "Installed apps".
+!define ALL_SETTINGS "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define SETTINGS "${ALL_SETTINGS}\${PRODUCT}"
 
 !macro UseScope
   ${If} $Scope == AllUsers

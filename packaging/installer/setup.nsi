@@ -1,4 +1,5 @@
-; The installer. packaging/make-packages gives STAGE (the files), GENERATED (their list), VERSION, SIZE (in KB) and OUTPUT.
+; The installer. packaging/make-packages gives STAGE (the files), GENERATED (their list), FILE_TIME
+; (of all of them), VERSION, SIZE (in KB), ICON and OUTPUT.
 ;
 ; It is a 64-bit program: it serves 64-bit Windows, and so it is tested where 32-bit programs do not run. For 32-bit Windows
 ; there is the zip.
@@ -12,7 +13,6 @@ ShowInstDetails nevershow
 ShowUninstDetails nevershow
 
 !define PRODUCT "ORVIK Stormwater Harvesting"
-!define PRODUCT_KEY "ORVIK Stormwater Harvesting"
 
 Name "${PRODUCT}"
 Caption "${PRODUCT} ${VERSION} Setup"
@@ -86,18 +86,25 @@ Function un.onInit
   !insertmacro UseScope
 FunctionEnd
 
-; The version that is there goes first, so that no file or key of it is left behind. $0 to $4 are lost.
+; Waits for it, and leaves its exit code in $0. So called it runs where it lies, and cannot delete itself.
+!macro RunUninstaller FOLDER
+  ExecWait '"${FOLDER}\uninstall.exe" /S /$Scope _?=${FOLDER}' $0
+  ${If} $0 = 0
+    Delete "${FOLDER}\uninstall.exe"
+    RMDir "${FOLDER}"
+  ${EndIf}
+!macroend
+
+; The version that is there goes first, so that no file or key of it is left behind.
 !macro RemoveFormerVersion
   ReadRegStr $4 SHCTX "${SETTINGS}" "InstallLocation"
   ${If} $4 != ""
   ${AndIf} ${FileExists} "$4\uninstall.exe"
-    ExecWait '"$4\uninstall.exe" /S /$Scope _?=$4' $0
-    ${If} $0 != 0
+    !insertmacro RunUninstaller $4
+    ${If} $0 <> 0
       SetErrorLevel $0
       Abort "The former version cannot be removed (code $0)."
     ${EndIf}
-    Delete "$4\uninstall.exe"
-    RMDir "$4"
   ${EndIf}
 !macroend
 
@@ -137,11 +144,12 @@ Section "Install"
   !insertmacro EachFile PutFile PutUserFile SkipFolder
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\uninstall.exe"
+  !insertmacro WriteAssociation
   ClearErrors
   !insertmacro RegisterLibraries
-  !insertmacro WriteAssociation
   !insertmacro WriteSettings
   ${If} ${Errors}
+    !insertmacro RunUninstaller "$INSTDIR" ; takes back what was done
     SetErrorLevel 5
     Abort "The registry cannot be written."
   ${EndIf}
@@ -164,12 +172,16 @@ Section "Uninstall"
   !insertmacro RemoveAssociation
   !insertmacro RemoveShortcuts
   !insertmacro EachFile TakeFile TakeUserFile TakeFolder
+  !insertmacro RemoveEmptyProjectFolders
+  DeleteRegKey SHCTX "${SETTINGS}"
+  ${If} $Scope == CurrentUser
+    DeleteRegKey /ifempty HKCU "${ALL_SETTINGS}" ; a user may not have had any before
+  ${EndIf}
+  !insertmacro TellShell
+  ; Last of all what tells that it has ended.
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
   ${If} $Scope == CurrentUser
     RMDir "$LOCALAPPDATA\Programs"
   ${EndIf}
-  !insertmacro RemoveEmptyProjectFolders
-  DeleteRegKey SHCTX "${SETTINGS}"
-  !insertmacro TellShell
 SectionEnd
