@@ -52,6 +52,9 @@ function(orvik_test target)
   orvik_program(${target} SOURCES ${TEST_SOURCES} LINKS ${TEST_LINKS} orvik_test_support GTest::gmock GTest::gtest_main)
   # GoogleTest's headers are most of what the compiler reads of a test: they are read once for all.
   target_precompile_headers(${target} REUSE_FROM orvik_test_headers)
+  if(NOT WIN32)
+    target_compile_options(${target} PRIVATE -pthread) # as they were compiled: some libraries of some tests ask for it
+  endif()
   # With them GCC 12 sees copies of impossible length in std::string's own functions (GCC bug 105329); later versions do not.
   if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(${target} PRIVATE -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)

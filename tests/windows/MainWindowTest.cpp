@@ -164,12 +164,8 @@ TEST(MainWindow, ThePageThatKeysTurnedToStaysWhenTheWindowComesBack) {
   form.Press({'2', {VK_CONTROL}});
   EXPECT_TRUE(form.Until([&] { return form.Focus() == "optPage(2)"; })) << form.Focus();
   const test::ParentWindow other;
-  const auto isActive = [](HWND window) {
-    ::SetForegroundWindow(window);
-    return test::Until([&] { return ::GetForegroundWindow() == window; });
-  };
-  ASSERT_TRUE(isActive(other.Handle()));
-  ASSERT_TRUE(isActive(form.Window()));
+  ASSERT_TRUE(test::Activate(other.Handle()));
+  ASSERT_TRUE(test::Activate(form.Window()));
   ASSERT_TRUE(test::Until([&] { return form.Focus().starts_with("optPage"); })) << form.Focus();
   form.Press({VK_F5, {}});
   EXPECT_TRUE(test::Until(

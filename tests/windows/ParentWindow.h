@@ -21,14 +21,25 @@ inline void HandleMessages() {
 }
 
 // Handles messages until it is so; false where it has not come about in time.
-inline bool Until(const std::function<bool()>& isSo) {
-  const auto end = std::chrono::steady_clock::now() + kDeadline;
+inline bool Until(const std::function<bool()>& isSo, std::chrono::seconds deadline = kDeadline) {
+  const auto end = std::chrono::steady_clock::now() + deadline;
   while (std::chrono::steady_clock::now() < end) {
     HandleMessages();
     if (isSo()) return true;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   return isSo();
+}
+
+// Makes the window the active one, and asks again where the window manager has had another mind
+// meanwhile.
+inline bool Activate(HWND window) {
+  constexpr int kTries = 5;
+  for (int i = 0; i < kTries; ++i) {
+    ::SetForegroundWindow(window);
+    if (Until([&] { return ::GetForegroundWindow() == window; }, kDeadline / kTries)) return true;
+  }
+  return false;
 }
 
 // A plain top-level window on the screen.
