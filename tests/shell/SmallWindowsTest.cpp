@@ -153,9 +153,8 @@ TEST_F(SmallWindowsTest, TheAboutBoxQuotesTheLicenceToTheLetter) {
   const auto oneLine = [](std::string text) {
     std::ranges::replace(text, '\r', ' ');
     std::ranges::replace(text, '\n', ' ');
-    text.erase(
-        std::ranges::unique(text, [](char a, char b) { return a == ' ' && b == ' '; }).begin(),
-        text.end());
+    const auto areBlanks = [](char a, char b) { return a == ' ' && b == ' '; };
+    text.erase(std::unique(text.begin(), text.end(), areBlanks), text.end());
     return text;
   };
   shown = oneLine(shown);
