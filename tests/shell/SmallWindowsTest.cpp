@@ -1,6 +1,7 @@
 // The station map and the about box, opened from the main window.
 #include <algorithm>
 
+#include "base/Paths.h"
 #include "base/VersionText.h"
 #include "shell/AboutDesign.h"
 #include "shell/AboutTexts.h"
@@ -36,7 +37,11 @@ class SmallWindowsTest : public FormFixture {
       if (work) work();
     });
   }
-  std::string WriteMap() const { return folder_.Write("Help/ReuseClimateStations.PNG", "a map"); }
+  // The path, with the system's separators.
+  std::string WriteMap() const {
+    folder_.Write("Help/ReuseClimateStations.PNG", "a map");
+    return folder_.Path() + "Help" + kPathSeparator + "ReuseClimateStations.PNG";
+  }
 
   std::map<std::string, int, std::less<>> shown_;
 };
