@@ -15,6 +15,8 @@ endif()
 if(WIN32)
   # One self-contained file each: the C++ runtime is linked in. Windows 10 is the oldest system served.
   target_link_options(orvik_options INTERFACE -static -static-libgcc -static-libstdc++)
+  # The same sources give the same bytes.
+  target_link_options(orvik_options INTERFACE -Wl,--no-insert-timestamp)
   target_compile_definitions(orvik_options INTERFACE _WIN32_WINNT=0x0A00 WINVER=0x0A00 UNICODE _UNICODE NOMINMAX
                                                      WIN32_LEAN_AND_MEAN)
 endif()
