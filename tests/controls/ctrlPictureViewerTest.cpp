@@ -26,7 +26,6 @@ class PictureViewerTest : public testing::Test {
     viewer_.Show(Filled({200, 100}));
     host_.Take();
   }
-  ~PictureViewerTest() override { viewer_.AttachHost(nullptr); }
 
   Area Place() const { return viewer_.View().Place(); }
   std::vector<std::string> Painted() {

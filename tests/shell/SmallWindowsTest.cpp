@@ -1,6 +1,7 @@
 // The station map and the about box, opened from the main window.
 #include <algorithm>
 
+#include "base/Paths.h"
 #include "base/VersionText.h"
 #include "shell/AboutDesign.h"
 #include "shell/AboutTexts.h"
@@ -36,7 +37,11 @@ class SmallWindowsTest : public FormFixture {
       if (work) work();
     });
   }
-  std::string WriteMap() const { return folder_.Write("Help/ReuseClimateStations.PNG", "a map"); }
+  // The path, with the system's separators.
+  std::string WriteMap() const {
+    folder_.Write("Help/ReuseClimateStations.PNG", "a map");
+    return folder_.Path() + "Help" + kPathSeparator + "ReuseClimateStations.PNG";
+  }
 
   std::map<std::string, int, std::less<>> shown_;
 };
@@ -153,9 +158,8 @@ TEST_F(SmallWindowsTest, TheAboutBoxQuotesTheLicenceToTheLetter) {
   const auto oneLine = [](std::string text) {
     std::ranges::replace(text, '\r', ' ');
     std::ranges::replace(text, '\n', ' ');
-    text.erase(
-        std::ranges::unique(text, [](char a, char b) { return a == ' ' && b == ' '; }).begin(),
-        text.end());
+    const auto areBlanks = [](char a, char b) { return a == ' ' && b == ' '; };
+    text.erase(std::unique(text.begin(), text.end(), areBlanks), text.end());
     return text;
   };
   shown = oneLine(shown);

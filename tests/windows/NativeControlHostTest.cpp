@@ -226,6 +226,10 @@ TEST_F(HostWindow, TheWheelIsToldInNotchesAtItsPlaceInTheControl) {
   EXPECT_EQ(told, (Point{30, 40}));
 }
 
+HCURSOR SystemCursor(const wchar_t* shape) {
+  return ::LoadCursorW(nullptr, shape);
+}
+
 TEST_F(HostWindow, ThePointerIsWhatTheControlSays) {
   const LPARAM inside = MAKELONG(HTCLIENT, WM_MOUSEMOVE);
   const auto send = [&] {
@@ -235,10 +239,19 @@ TEST_F(HostWindow, ThePointerIsWhatTheControlSays) {
   PointerShape shape = PointerShape::Hand;
   host_.Pointer = [&] { return shape; };
   EXPECT_NE(send(), 0);
-  EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_HAND)));
+  EXPECT_EQ(::GetCursor(), SystemCursor(IDC_HAND));
   shape = PointerShape::Arrow;
   EXPECT_NE(send(), 0);
-  EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW)));
+  EXPECT_EQ(::GetCursor(), SystemCursor(IDC_ARROW));
+}
+
+TEST_F(HostWindow, AlsoWhileItHasTheMouseThePointerIsWhatTheControlSays) {
+  host_.Pointer = [] { return PointerShape::Hand; };
+  host_.CaptureMouse();
+  ::SetCursor(SystemCursor(IDC_ARROW));
+  Send(WM_MOUSEMOVE, MK_LBUTTON, At(5, 6));
+  EXPECT_EQ(::GetCursor(), SystemCursor(IDC_HAND));
+  host_.ReleaseMouse();
 }
 
 TEST_F(HostWindow, ItsOwnReleaseIsNoLoss) {

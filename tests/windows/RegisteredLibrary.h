@@ -10,7 +10,7 @@ namespace orvik::test {
 // Registers the library for the time of the whole program.
 class RegisteredLibrary : public testing::Environment {
  public:
-  void SetUp() override { ASSERT_EQ(RunRegsvr32(L""), 0U); }
+  void SetUp() override { ASSERT_EQ(RunRegsvr32(), 0U); }
   void TearDown() override { EXPECT_EQ(RunRegsvr32(L"/u"), 0U); }
 };
 

@@ -71,7 +71,7 @@ TEST_F(RegistrationTest, NothingOfOursIsThereBefore) {
 }
 
 TEST_F(RegistrationTest, ForAllUsersAndBack) {
-  ASSERT_EQ(RunRegsvr32(L""), 0U);
+  ASSERT_EQ(RunRegsvr32(), 0U);
   ExpectRegistered(HKEY_LOCAL_MACHINE);
   ASSERT_EQ(RunRegsvr32(L"/u"), 0U);
   EXPECT_EQ(Difference(before_, TakeRegistrySnapshot()), "");
@@ -93,8 +93,8 @@ TEST_F(RegistrationTest, PlainUnregisteringTakesBothAway) {
 }
 
 TEST_F(RegistrationTest, RegisteringTwiceIsTakenBackAtOnce) {
-  ASSERT_EQ(RunRegsvr32(L""), 0U);
-  ASSERT_EQ(RunRegsvr32(L""), 0U);
+  ASSERT_EQ(RunRegsvr32(), 0U);
+  ASSERT_EQ(RunRegsvr32(), 0U);
   ASSERT_EQ(RunRegsvr32(L"/u"), 0U);
   EXPECT_EQ(Difference(before_, TakeRegistrySnapshot()), "");
 }
@@ -107,7 +107,7 @@ TEST_F(RegistrationTest, UnregisteringWhatIsNotThereIsNoFailure) {
 TEST_F(RegistrationTest, WhatTheOtherBuildNeedsStays) {
   {
     const OtherBuild other;
-    ASSERT_EQ(RunRegsvr32(L""), 0U);
+    ASSERT_EQ(RunRegsvr32(), 0U);
     ASSERT_EQ(RunRegsvr32(L"/u"), 0U);
     EXPECT_TRUE(ReadValue(HKEY_LOCAL_MACHINE, OtherBuild::Library(), L""));
     EXPECT_EQ(ReadValue(HKEY_LOCAL_MACHINE, kClasses + L"StReuse.clsIOStream\\CLSID", L""), kClsid);

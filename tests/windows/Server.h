@@ -67,7 +67,7 @@ class ManifestContext {
 std::wstring BuildPath(const wchar_t* name);
 
 // Runs regsvr32 on the library with these options; its exit code.
-DWORD RunRegsvr32(const std::wstring& options);
+DWORD RunRegsvr32(const std::wstring& options = {});
 
 // One way for a client to create the class. `Open` makes what must live as long as the object.
 struct Route {

@@ -207,25 +207,6 @@ TEST_F(StationMap, ADragMovesThePicture) {
   EXPECT_TRUE(UntilColour(map, other, ColourOfMap(190, 130)));
 }
 
-bool ShowsPointer(const FormUser& map, LPCWSTR shape) {
-  const HCURSOR wanted = ::LoadCursorW(nullptr, shape);
-  return map.Until([&] {
-    CURSORINFO pointer{};
-    pointer.cbSize = sizeof pointer;
-    return ::GetCursorInfo(&pointer) && pointer.hCursor == wanted;
-  });
-}
-
-TEST_F(StationMap, ThePointerIsAHandWhereThePictureCanBeDragged) {
-  FormUser map = Open();
-  const POINT at = FittedPoint(map, 150, 110);
-  map.Drag(kViewer, at, {at.x + 5, at.y});  // there is nothing to drag
-  EXPECT_TRUE(ShowsPointer(map, reinterpret_cast<LPCWSTR>(IDC_ARROW)));
-  map.TurnWheel(kViewer, at, 4);
-  map.Drag(kViewer, at, {at.x + 5, at.y + 5});
-  EXPECT_TRUE(ShowsPointer(map, reinterpret_cast<LPCWSTR>(IDC_HAND)));
-}
-
 // --- For listeners ---
 
 TEST_F(StationMap, AScreenReaderHearsAPictureWithItsZoom) {

@@ -27,7 +27,9 @@ Dim row
 For row = 4 To 6
   WScript.Echo "B" & row & ": " & Range("B" & row).Value
 Next
-WScript.Echo Split(Range("B8").Value, vbCrLf)(9)
+Dim projectLines
+projectLines = Split(Range("B8").Value, vbCrLf)
+WScript.Echo projectLines(9)
 
 Function ReadProject(path)
   Dim stream, line
