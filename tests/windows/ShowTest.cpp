@@ -193,7 +193,7 @@ TEST_F(ShowTest, ASecondCallWhileTheWindowIsOpenIsRefused) {
 
 TEST_F(ShowTest, TheHostsWindowIsDisabledMeanwhileAndGetsItsFocusBack) {
   const ParentWindow host;
-  ::SetForegroundWindow(host.Handle());
+  ASSERT_TRUE(Activate(host.Handle()));
   ::SetFocus(host.Handle());
   BOOL enabledMeanwhile = TRUE;
   ExpectShown(0, [&](FormUser& user) {
