@@ -46,19 +46,27 @@ function(orvik_known_leaks test)
   endif()
 endfunction()
 
+# orvik_test_options(<target>): how tests and the headers that are precompiled for them are compiled; both have to be alike.
+function(orvik_test_options target)
+  # A test is compiled more often than it is run. What it tests is compiled as it is shipped.
+  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
+  if(NOT WIN32)
+    target_compile_options(${target} PRIVATE -pthread) # the libraries of some tests ask for it
+  endif()
+  # With precompiled headers GCC 12 sees copies of impossible length in std::string's own functions (GCC bug 105329); later
+  # versions do not.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(${target} PRIVATE -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
+  endif()
+endfunction()
+
 # orvik_test(<target> SOURCES <files...> [LINKS <targets...>]): one GoogleTest program, one CTest entry.
 function(orvik_test target)
   cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
   orvik_program(${target} SOURCES ${TEST_SOURCES} LINKS ${TEST_LINKS} orvik_test_support GTest::gmock GTest::gtest_main)
   # GoogleTest's headers are most of what the compiler reads of a test: they are read once for all.
   target_precompile_headers(${target} REUSE_FROM orvik_test_headers)
-  if(NOT WIN32)
-    target_compile_options(${target} PRIVATE -pthread) # as they were compiled: some libraries of some tests ask for it
-  endif()
-  # With them GCC 12 sees copies of impossible length in std::string's own functions (GCC bug 105329); later versions do not.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(${target} PRIVATE -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
-  endif()
+  orvik_test_options(${target})
   add_test(NAME ${target} COMMAND ${target} WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
   orvik_known_leaks(${target})
 endfunction()

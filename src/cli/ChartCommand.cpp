@@ -45,7 +45,7 @@ std::string ValidateSize(const std::string& text) {
          std::to_string(kMostExtent) + " pixels each way)";
 }
 
-std::string ValidateOutput(const std::string& path) {
+std::string ValidatePicture(const std::string& path) {
   return PictureKindOf(path) ? std::string()
                              : "\"" + path + "\" does not end in .png, .svg or .pdf";
 }
@@ -135,7 +135,7 @@ CommandRun AddChartCommand(CLI::App& app) {
   command->add_option("-o,--output", request->output, "Picture file; its ending says the format")
       ->required()
       ->type_name("FILE.(png|svg|pdf)")
-      ->check(ValidateOutput);
+      ->check(ValidatePicture);
   command->add_option("--size", request->size, "Width and height in pixels, 960x640 if not given")
       ->type_name("WxH")
       ->check(ValidateSize);

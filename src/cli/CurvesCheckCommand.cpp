@@ -15,7 +15,7 @@
 namespace orvik {
 namespace {
 
-struct Request {
+struct CurvesCheckRequest {
   std::string file;
   RainArguments rain;
   PondArguments pond;
@@ -35,7 +35,7 @@ CurveSet ReadCurves(const std::string& path) {
   return set;
 }
 
-std::optional<PondDays> ReadDays(Console& console, const Request& request) {
+std::optional<PondDays> ReadDays(Console& console, const CurvesCheckRequest& request) {
   if (request.rain.file.empty()) return std::nullopt;
   const RainRecord record = ReadRain(request.rain);
   PrintMessage(console, DescribeFindings(record));
@@ -55,7 +55,7 @@ std::vector<CurveError> JudgeAll(const CurveSet& set, const std::optional<PondDa
   return errors;
 }
 
-ExitCode Check(Console& console, bool json, const Request& request) {
+ExitCode Check(Console& console, bool json, const CurvesCheckRequest& request) {
   const CurveSet set = ReadCurves(request.file);
   const std::optional<PondDays> days = ReadDays(console, request);
   const auto meanRunoff = days ? std::optional(days->MeanRunoff()) : std::nullopt;
@@ -79,7 +79,7 @@ ExitCode Check(Console& console, bool json, const Request& request) {
 }  // namespace
 
 CommandRun AddCurvesCheckCommand(CLI::App& curves) {
-  auto request = std::make_shared<Request>();
+  auto request = std::make_shared<CurvesCheckRequest>();
   auto* command = curves.add_subcommand("check", "Check that a curve file can be calculated with");
   command->add_option("FILE", request->file, "The curve file")->required()->type_name("FILE.crv");
   AddRainOptions(*command, request->rain, false);

@@ -17,7 +17,7 @@
 namespace orvik {
 namespace {
 
-struct Request {
+struct CurvesMakeAllRequest {
   std::string rainFolder;
   std::string folder;
   PondArguments pond;
@@ -40,7 +40,7 @@ void ShowProgress(Console& console, int station) {
               << ClimateStationName(static_cast<std::int16_t>(station)) << std::flush;
 }
 
-std::vector<StationCurves> MakeAll(Console& console, const Request& request) {
+std::vector<StationCurves> MakeAll(Console& console, const CurvesMakeAllRequest& request) {
   const PondOptions pond = ToPondOptions(request.pond);
   const ChartAxes axes = ToChartAxes(request.axes);
   std::vector<StationCurves> stations;
@@ -121,7 +121,7 @@ void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
 }  // namespace
 
 CommandRun AddCurvesMakeAllCommand(CLI::App& curves) {
-  auto request = std::make_shared<Request>();
+  auto request = std::make_shared<CurvesMakeAllRequest>();
   auto* command = curves.add_subcommand(
       "make-all", "Make the curve files of all climate stations and the table of their sources");
   command

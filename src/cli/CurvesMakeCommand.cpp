@@ -17,7 +17,7 @@
 namespace orvik {
 namespace {
 
-struct Request {
+struct CurvesMakeRequest {
   RainArguments rain;
   PondArguments pond;
   AxesArguments axes;
@@ -27,7 +27,7 @@ struct Request {
 };
 
 // What stands in the title for the rainfall: the user's words, or the file's name.
-std::string SourceOf(const Request& request) {
+std::string SourceOf(const CurvesMakeRequest& request) {
   if (!request.source.empty()) return request.source;
   return "daily rainfall " + PathToUtf8(PathFromUtf8(request.rain.file).filename());
 }
@@ -43,7 +43,7 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
   PrintCurvesTable(out, made.Set, made.Errors);
 }
 
-void PrintJson(std::ostream& out, const Request& request, const RainRecord& record,
+void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRecord& record,
                const RainYears& years, const MadeCurves& made) {
   const PondOptions pond = ToPondOptions(request.pond);
   const nlohmann::ordered_json object{{"name", request.name},
@@ -62,7 +62,7 @@ void PrintJson(std::ostream& out, const Request& request, const RainRecord& reco
 }
 
 // What can be said before any work is done.
-void CheckRequest(const Request& request) {
+void CheckRequest(const CurvesMakeRequest& request) {
   const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
   if (std::ranges::any_of(request.name + request.source, isControl)) {
     throw UsageError("The name and the source must be one line of text.");
@@ -75,7 +75,7 @@ void CheckRequest(const Request& request) {
   RequireReplaceable(request.file);
 }
 
-ExitCode Make(Console& console, bool json, const Request& request) {
+ExitCode Make(Console& console, bool json, const CurvesMakeRequest& request) {
   CheckRequest(request);
   const PondOptions pond = ToPondOptions(request.pond);
   const ChartAxes axes = ToChartAxes(request.axes);
@@ -98,7 +98,7 @@ ExitCode Make(Console& console, bool json, const Request& request) {
 }  // namespace
 
 CommandRun AddCurvesMakeCommand(CLI::App& curves) {
-  auto request = std::make_shared<Request>();
+  auto request = std::make_shared<CurvesMakeRequest>();
   auto* command = curves.add_subcommand("make", "Make a curve file from a daily rainfall record");
   AddRainOptions(*command, request->rain, true);
   command->add_option("--name", request->name, "Name of the place, for the file's title")

@@ -23,7 +23,7 @@ struct ReportRequest {
   std::string paper = "letter";
 };
 
-std::string ValidateOutput(const std::string& path) {
+std::string ValidatePdf(const std::string& path) {
   return PictureKindOf(path) == PictureKind::Pdf ? std::string()
                                                  : "\"" + path + "\" does not end in .pdf";
 }
@@ -73,7 +73,7 @@ CommandRun AddReportCommand(CLI::App& app) {
   command->add_option("-o,--output", request->output, "The report")
       ->required()
       ->type_name("FILE.pdf")
-      ->check(ValidateOutput);
+      ->check(ValidatePdf);
   command
       ->add_option(
           "--date", request->date,
