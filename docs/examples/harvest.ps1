@@ -1,6 +1,6 @@
 # Opens the stormwater harvesting window on a project, as a host program does. Where the user saves, the project goes back
 # to its file and the three results are printed.
-#   powershell -File harvest.ps1 PROJECT.kav
+#   powershell -ExecutionPolicy Bypass -File harvest.ps1 PROJECT.kav
 param([Parameter(Mandatory)][string]$Path)
 $ErrorActionPreference = 'Stop'
 $InHostProject = 2

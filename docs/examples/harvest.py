@@ -12,7 +12,7 @@ IN_HOST_PROJECT = 2
 
 def main(path):
     file = Path(path)
-    project = file.read_bytes().decode("utf-8")
+    project = file.read_bytes().decode("utf-8-sig")  # with a mark or without
     reuse = gencache.EnsureDispatch("StReuse.clsStReuse")
     # What the module changes comes back after its answer.
     saved, own, results, project = reuse.Show(IN_HOST_PROJECT, "", "", project)

@@ -1,5 +1,5 @@
 // Reads numbers out of a text in memory, line by line, and prints their sum.
-// StReuse.h comes with the build (generated/com/StReuse.h).
+// StReuse.h lies beside this file in the packages, and in generated/com of a build.
 #include <StReuse.h>
 #include <windows.h>
 

@@ -89,6 +89,7 @@ FunctionEnd
 
 ; Waits for it, and leaves its exit code in $0. So called it runs where it lies, and cannot delete itself.
 !macro RunUninstaller FOLDER
+  SetOutPath "$TEMP" ; a folder that a program works in cannot go
   ExecWait '"${FOLDER}\uninstall.exe" /S /$Scope _?=${FOLDER}' $0
   ${If} $0 = 0
     Delete "${FOLDER}\uninstall.exe"

@@ -41,10 +41,10 @@ constexpr std::array kSections = {
             "The C++ library and runtime of GCC (libstdc++, libgcc): GNU General Public License 3 "
             "with the GCC Runtime Library Exception 3.1.\r\n"
             "The runtime of mingw-w64, with winpthreads: public domain, Zope Public License 2.1, "
-            "MIT, BSD "
-            "and similar licences.\r\n"
+            "MIT, BSD and similar licences.\r\n"
             "The command line kav, besides: CLI11 (BSD licence) and JSON for Modern C++ (MIT "
-            "licence)."},
+            "licence).\r\n"
+            "NOTICES.txt, which comes with the programs, has their terms."},
 };
 
 }  // namespace

@@ -26,9 +26,10 @@ std::wstring ReadProject(const std::filesystem::path& path) {
   if (!file) throw std::runtime_error("The project cannot be read.");
   const std::string bytes{std::istreambuf_iterator<char>(file), {}};
   std::wstring text(bytes.size(), L'\0');
+  const int size = static_cast<int>(bytes.size());
   text.resize(static_cast<std::size_t>(
-      MultiByteToWideChar(CP_UTF8, 0, bytes.data(), static_cast<int>(bytes.size()), text.data(),
-                          static_cast<int>(text.size()))));
+      MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, text.data(), size)));
+  if (text.empty()) throw std::runtime_error("The project is no text in UTF-8.");
   return text;
 }
 
@@ -75,7 +76,9 @@ int Run(const std::filesystem::path& path) {
     std::puts("Nothing was saved.");
     return 1;
   }
-  std::ofstream(path, std::ios::binary) << Utf8(project);
+  std::ofstream file(path, std::ios::binary);
+  file << Utf8(project);
+  if (!file.flush()) throw std::runtime_error("The project cannot be written.");
   std::printf("Reuse rate (gal/day), efficiency (%%), storage volume (ac-ft):\n%s\n",
               Utf8(results).c_str());
   return 0;
