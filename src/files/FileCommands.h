@@ -66,8 +66,7 @@ class FileCommands {
   // The fields hold another project now, or what could be read of it.
   std::function<void()> OnProjectReplaced;
 
-  const std::string& CurrentPath() const { return currentPath_; }      // empty: untitled
-  const std::string& CurrentFolder() const { return currentFolder_; }  // of the last file
+  const std::string& CurrentPath() const { return currentPath_; }  // empty: untitled
 
  private:
   FileDialog ProjectDialog();

@@ -46,7 +46,6 @@ class Printer : public Surface {
   // --- Text at the current position ---
 
   virtual void SetFont(const Font& font) { font_ = font; }
-  const Font& CurrentFont() const { return font_; }
 
   // A new page leaves the position as it is.
   void MoveTo(float x, float y) {

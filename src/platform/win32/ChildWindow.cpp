@@ -26,22 +26,6 @@ ChildWindow::~ChildWindow() {
   ::DestroyWindow(window_);
 }
 
-bool ChildWindow::HasStyle(LONG_PTR style) const {
-  return (::GetWindowLongPtrW(window_, GWL_STYLE) & style) != 0;
-}
-
-void ChildWindow::Show(bool visible) {
-  ::ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
-}
-
-void ChildWindow::Enable(bool enabled) {
-  ::EnableWindow(window_, enabled ? TRUE : FALSE);
-}
-
-void ChildWindow::Place(int left, int top, int width, int height) {
-  ::SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 std::string ChildWindow::WindowText() const {
   std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window_)), L'\0');
   // One unit more for the terminator, which the string has room for.

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/win32/WindowState.h"
+
 namespace orvik {
 
 // How a control's window is made.
@@ -27,13 +29,6 @@ class ChildWindow {
   HWND Handle() const { return window_; }
 
  protected:
-  bool HasStyle(LONG_PTR style) const;
-  bool IsShown() const { return HasStyle(WS_VISIBLE); }
-  void Show(bool visible);
-  bool IsEnabled() const { return !HasStyle(WS_DISABLED); }
-  void Enable(bool enabled);
-  void Place(int left, int top, int width, int height);
-
   std::string WindowText() const;
   void WindowText(std::string_view text);
 
@@ -53,11 +48,13 @@ class NativeWidget : public Interface, public ChildWindow {
  public:
   using ChildWindow::ChildWindow;
 
-  bool Visible() const override { return IsShown(); }
-  void Visible(bool visible) override { Show(visible); }
-  bool Enabled() const override { return IsEnabled(); }
-  void Enabled(bool enabled) override { Enable(enabled); }
-  void Move(int left, int top, int width, int height) override { Place(left, top, width, height); }
+  bool Visible() const override { return IsShown(Handle()); }
+  void Visible(bool visible) override { Show(Handle(), visible); }
+  bool Enabled() const override { return IsEnabled(Handle()); }
+  void Enabled(bool enabled) override { Enable(Handle(), enabled); }
+  void Move(int left, int top, int width, int height) override {
+    Place(Handle(), left, top, width, height);
+  }
 };
 
 }  // namespace orvik

@@ -7,6 +7,7 @@
 #include "platform/win32/ExceptionText.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/WideText.h"
+#include "platform/win32/WindowState.h"
 #include "platform/win32/WindowWall.h"
 
 namespace orvik {
@@ -69,20 +70,16 @@ WNDCLASSEXW NativeControlHost::Describe(HINSTANCE module) {
 
 // --- As a widget ---
 
-bool NativeControlHost::HasStyle(LONG_PTR style) const {
-  return (::GetWindowLongPtrW(window_, GWL_STYLE) & style) != 0;
-}
-
 bool NativeControlHost::Visible() const {
-  return HasStyle(WS_VISIBLE);
+  return IsShown(window_);
 }
 
 void NativeControlHost::Visible(bool visible) {
-  ::ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
+  Show(window_, visible);
 }
 
 bool NativeControlHost::Enabled() const {
-  return !HasStyle(WS_DISABLED);
+  return IsEnabled(window_);
 }
 
 // The keyboard goes on first: with a disabled window it would be nowhere.
@@ -90,11 +87,11 @@ void NativeControlHost::Enabled(bool enabled) {
   if (!enabled && window_ && ::GetFocus() == window_) {
     ::SendMessageW(::GetAncestor(window_, GA_ROOT), WM_NEXTDLGCTL, FALSE, FALSE);
   }
-  ::EnableWindow(window_, enabled ? TRUE : FALSE);
+  Enable(window_, enabled);
 }
 
 void NativeControlHost::Move(int left, int top, int width, int height) {
-  ::SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  Place(window_, left, top, width, height);
 }
 
 // --- What the control asks ---

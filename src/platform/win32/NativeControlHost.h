@@ -56,7 +56,6 @@ class NativeControlHost final : public ControlHost {
   LRESULT AnswerText(UINT message, WPARAM size, LPARAM buffer) const;
   void HasChanged();
   void TellChanges();
-  bool HasStyle(LONG_PTR style) const;
 
   WindowClass class_;
   HWND window_ = nullptr;

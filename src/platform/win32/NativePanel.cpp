@@ -7,6 +7,7 @@
 #include "platform/win32/GdiSurface.h"
 #include "platform/win32/Reflection.h"
 #include "platform/win32/SystemError.h"
+#include "platform/win32/WindowState.h"
 #include "platform/win32/WindowWall.h"
 
 namespace orvik {
@@ -37,17 +38,13 @@ WNDCLASSEXW NativePanel::Describe(HINSTANCE module) {
 
 // --- As a widget ---
 
-bool NativePanel::HasStyle(LONG_PTR style) const {
-  return (::GetWindowLongPtrW(window_, GWL_STYLE) & style) != 0;
-}
-
 bool NativePanel::Visible() const {
-  return HasStyle(WS_VISIBLE);
+  return IsShown(window_);
 }
 
 void NativePanel::Visible(bool visible) {
   if (visible == Visible()) return;
-  ::ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
+  Show(window_, visible);
   HandFocusOn(visible);  // none comes back into a page that is hidden already
   if (visible && OnShow) OnShow();
 }
@@ -60,15 +57,15 @@ void NativePanel::HandFocusOn(bool visible) const {
 }
 
 bool NativePanel::Enabled() const {
-  return !HasStyle(WS_DISABLED);
+  return IsEnabled(window_);
 }
 
 void NativePanel::Enabled(bool enabled) {
-  ::EnableWindow(window_, enabled ? TRUE : FALSE);
+  Enable(window_, enabled);
 }
 
 void NativePanel::Move(int left, int top, int width, int height) {
-  ::SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  Place(window_, left, top, width, height);
 }
 
 // --- Messages ---

@@ -29,7 +29,6 @@ class NativePanel final : public Panel {
 
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
   void Paint();
-  bool HasStyle(LONG_PTR style) const;
   void HandFocusOn(bool visible) const;
 
   WindowClass class_;

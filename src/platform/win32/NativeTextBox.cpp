@@ -58,7 +58,7 @@ void NativeTextBox::FoldPastedLines() {
 // --- State ---
 
 bool NativeTextBox::Locked() const {
-  return HasStyle(ES_READONLY);
+  return HasStyle(Handle(), ES_READONLY);
 }
 
 void NativeTextBox::Locked(bool locked) {
@@ -128,7 +128,7 @@ void NativeTextBox::ShowScrollBarAsNeeded() const {
   ::GetClientRect(Handle(), &inner);
   const LRESULT lines = ::SendMessageW(Handle(), EM_GETLINECOUNT, 0, 0);
   const bool isNeeded = lines * LineHeight() > inner.bottom;
-  if (isNeeded != HasStyle(WS_VSCROLL)) ::ShowScrollBar(Handle(), SB_VERT, isNeeded);
+  if (isNeeded != HasStyle(Handle(), WS_VSCROLL)) ::ShowScrollBar(Handle(), SB_VERT, isNeeded);
 }
 
 // --- Messages ---

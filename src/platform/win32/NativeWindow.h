@@ -23,7 +23,6 @@ class NativeWindow final : public Window {
 
   HWND Handle() const { return window_; }
   const FormDesign& Design() const { return design_; }
-  const MessageFont& TextFont() const { return font_; }
   const std::shared_ptr<NativeMenuBar>& MenuBar() const { return menu_; }
 
   bool Visible() const override;
