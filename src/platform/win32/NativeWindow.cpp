@@ -11,6 +11,7 @@
 #include "platform/win32/Reflection.h"
 #include "platform/win32/SystemError.h"
 #include "platform/win32/WideText.h"
+#include "platform/win32/WindowState.h"
 #include "platform/win32/WindowWall.h"
 
 namespace orvik {
@@ -95,7 +96,7 @@ WNDCLASSEXW NativeWindow::Describe(HINSTANCE module) {
 // --- As a widget ---
 
 bool NativeWindow::Visible() const {
-  return (::GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+  return IsShown(window_);
 }
 
 // Hiding ends a modal showing: the host works again before ours goes, and the loop is woken.
@@ -110,11 +111,11 @@ bool NativeWindow::Enabled() const {
 }
 
 void NativeWindow::Enabled(bool enabled) {
-  ::EnableWindow(window_, enabled ? TRUE : FALSE);
+  Enable(window_, enabled);
 }
 
 void NativeWindow::Move(int left, int top, int width, int height) {
-  ::SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  Place(window_, left, top, width, height);
 }
 
 std::string NativeWindow::Caption() const {

@@ -27,7 +27,7 @@ inline void Enable(HWND window, bool enabled) {
   ::EnableWindow(window, enabled ? TRUE : FALSE);
 }
 
-// Pixels of the parent.
+// Pixels of the parent; of the screen for a window without one.
 inline void Place(HWND window, int left, int top, int width, int height) {
   ::SetWindowPos(window, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
