@@ -3,9 +3,8 @@
 
 #include <string_view>
 
-#include "chart/PlotGeometry.h"
 #include "engine/CurveSet.h"
-#include "platform/Surface.h"
+#include "engine/PlotGeometry.h"
 
 namespace orvik {
 

@@ -5,9 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "chart/PlotRecords.h"
 #include "engine/CurvePolygon.h"
 #include "engine/EfficiencyCurve.h"
+#include "engine/PlotRecords.h"
 #include "platform/Surface.h"
 
 namespace orvik {

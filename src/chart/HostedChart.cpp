@@ -5,7 +5,7 @@ namespace orvik {
 HostedChart::HostedChart(Toolkit& toolkit, std::string_view name, ctrlStormwaterReuse& chart)
     : host_(toolkit.MakeControlHost(name)), chart_(chart) {
   chart_.AttachHost(host_.get());
-  host_->OnPaint = [this](Surface& surface) { chart_.Paint(surface); };
+  host_->OnPaint = [this](Surface& surface) { chart_.PaintScreen(surface); };
   host_->OnResize = [this](int width, int height) { chart_.Resize(width, height); };
   host_->OnMouseDown = [this](std::int16_t button, double x, double y) {
     chart_.MouseDown(button, x, y);

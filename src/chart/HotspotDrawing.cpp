@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Rounding.h"
 #include "chart/ChartColours.h"
 #include "chart/ChartText.h"
 #include "chart/CurvePixels.h"
@@ -50,10 +51,15 @@ bool IsWithin(const Area& area, const clsRectangle_Integer& frame) {
 
 }  // namespace
 
-void DrawHotspot(Surface& surface, const Hotspot& hotspot, const clsRectangle_Integer& frame,
+clsRectangle_Integer HotspotBox(FramePixel centre) {
+  return {ToInt16(centre.X - kMarkReach), ToInt16(centre.X + kMarkReach),
+          ToInt16(centre.Y - kMarkReach), ToInt16(centre.Y + kMarkReach)};
+}
+
+void DrawHotspot(Surface& surface, FramePixel centre, const clsRectangle_Integer& frame,
                  int penWidth) {
   const Pen pen = MarkPen(surface, penWidth);
-  const clsRectangle_Integer& box = hotspot.Box();
+  const clsRectangle_Integer box = HotspotBox(centre);
   const std::array<Point, 5> sides{{{box.Left, box.Top},
                                     {box.Right, box.Top},
                                     {box.Right, box.Bottom},
@@ -62,10 +68,10 @@ void DrawHotspot(Surface& surface, const Hotspot& hotspot, const clsRectangle_In
   surface.Polyline(sides, pen);
   // The leaders end before the box, whose own pixels they would flip back. Near the frame's edge
   // the box itself reaches it.
-  const Point onLeftEdge{frame.Left, hotspot.Y()};
-  const Point onBottomEdge{hotspot.X(), frame.Bottom};
-  if (onLeftEdge.x < box.Left) surface.Line(onLeftEdge, {box.Left, hotspot.Y()}, pen);
-  if (onBottomEdge.y > box.Bottom) surface.Line(onBottomEdge, {hotspot.X(), box.Bottom}, pen);
+  const Point onLeftEdge{frame.Left, centre.Y};
+  const Point onBottomEdge{centre.X, frame.Bottom};
+  if (onLeftEdge.x < box.Left) surface.Line(onLeftEdge, {box.Left, centre.Y}, pen);
+  if (onBottomEdge.y > box.Bottom) surface.Line(onBottomEdge, {centre.X, box.Bottom}, pen);
 }
 
 void PrintHotspotMark(Surface& surface, Point centre, const clsRectangle_Integer& frame, int size,

@@ -4,8 +4,9 @@
 #include <span>
 #include <string>
 
-#include "chart/Hotspot.h"
 #include "engine/EfficiencyCurve.h"
+#include "engine/FramePixel.h"
+#include "engine/PlotGeometry.h"
 #include "platform/Surface.h"
 
 namespace orvik {
@@ -13,10 +14,13 @@ namespace orvik {
 // Colour that the marks flip: on white paper they are red.
 inline constexpr Colour kMarkColour = 0xFFFF00;
 
+// The box round the hotspot's pixel.
+clsRectangle_Integer HotspotBox(FramePixel centre);
+
 // The box, and from it a line to the frame's left edge at the hotspot's R and one to its bottom
 // edge at its V. Exclusive-or: drawn again, it is gone. Where the surface cannot do that the
 // hotspot is drawn in the colour that it has on white.
-void DrawHotspot(Surface& surface, const Hotspot& hotspot, const clsRectangle_Integer& frame,
+void DrawHotspot(Surface& surface, FramePixel centre, const clsRectangle_Integer& frame,
                  int penWidth);
 
 // The hotspot on paper: a filled red mark at its pixel, with thin leaders to the frame's left and

@@ -1,25 +1,25 @@
-// The design chart control: it owns the curves of one climate station, the chart's geometry and the
-// hotspot (the design point), and finds the third of R, V and E from the other two.
+// The design chart control: the curves of one climate station, the design point (the hotspot) on
+// them, and the chart that shows both.
 #pragma once
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "base/Boolean16.h"
+#include "chart/ChartPrinting.h"
 #include "chart/ChartScene.h"
-#include "chart/ChartText.h"
-#include "chart/Hotspot.h"
-#include "chart/PlotGeometry.h"
-#include "engine/CurvePolygon.h"
-#include "engine/CurveSet.h"
-#include "platform/Desktop.h"
+#include "chart/ChartState.h"
+#include "chart/HotspotInput.h"
+#include "chart/ScreenMarks.h"
+#include "engine/CurveLoading.h"
 #include "platform/Host.h"
 #include "platform/Printer.h"
+#include "platform/Surface.h"
 
 namespace orvik {
 
@@ -27,27 +27,27 @@ namespace orvik {
 // EIA. E: efficiency, percent.
 //
 // Operations that can fail answer False and leave the reason in ErrMsg and the number of the help
-// topic in HelpTopicIndex; only loading shows messages itself. Numeric faults of unusable curve
-// files (curves that meet, samples beyond 16-bit pixels) are thrown as NumericError, except by the
-// answers to mouse and keys: there the efficiency is undefined.
+// topic in HelpTopicIndex. Numeric faults of unusable curve files (curves that meet, samples beyond
+// 16-bit pixels) are thrown as NumericError, except by the answers to mouse and keys: there the
+// efficiency is undefined.
 class ctrlStormwaterReuse {
  public:
   // `defaultDataFolder` holds the folder "KAV Data" where DesignDataDirectory names no other; it
   // ends with a path separator.
-  ctrlStormwaterReuse(Desktop& desktop, std::string defaultDataFolder);
+  explicit ctrlStormwaterReuse(std::string defaultDataFolder);
   ctrlStormwaterReuse(const ctrlStormwaterReuse&) = delete;
   ctrlStormwaterReuse& operator=(const ctrlStormwaterReuse&) = delete;
   ~ctrlStormwaterReuse() = default;
 
   // The window that shows the control, null for none. It outlives the control or is taken away
   // before it goes.
-  void AttachHost(Host* host) { host_ = host; }
+  void AttachHost(Host* host) { marks_.AttachHost(host); }
 
   // --- Climate station and curves ---
 
-  // Loads the curves of a station (1...25; SubscriptError otherwise), or clears them (0). Shows a
-  // message where the folder or the file is missing; IsLoaded tells the result.
-  void SetCurveData(std::int16_t StationIndex);
+  // Loads the curves of a station (1...25; SubscriptError otherwise), or clears them (0). Whoever
+  // asked tells the user what went wrong.
+  LoadOutcome SetCurveData(std::int16_t StationIndex);
 
   // The folder of the curve files, with a path separator at its end; empty means the default.
   const std::string& DesignDataDirectory() const { return designDataDirectory_; }
@@ -56,12 +56,16 @@ class ctrlStormwaterReuse {
   // The folder that curve files are read from: that one, or the default.
   std::string CurveFolder() const;
 
-  bool IsLoaded() const { return isLoaded_; }
+  bool IsLoaded() const { return state_.curves.has_value(); }
   std::int16_t StationIndex() const { return stationIndex_; }
   const std::string& StationName() const { return stationName_; }
 
   // The loaded curves. Not to be read while IsLoaded is false.
-  const CurveSet& Curves() const { return curves_; }
+  const CurveSet& Curves() const { return state_.curves->Curves(); }
+
+  // The curves in the chart's frame, as design questions are asked of them; null while none are
+  // loaded.
+  const FramedCurves* InFrame() const { return state_.Loaded(); }
 
   // The limits of the loaded file: V on X, R on Y. No value while nothing is loaded.
   std::optional<double> MinX() const;
@@ -78,9 +82,10 @@ class ctrlStormwaterReuse {
   // V and R.
   void Resize(int width, int height);
 
-  Size ControlSize() const { return {width_, height_}; }
+  Size ControlSize() const { return size_; }
   const FrameLayout& Layout() const { return layout_; }
-  const PlotGeometry& Geometry() const { return geometry_; }
+  // Of the curves in their frame; without an extent while nothing is loaded.
+  const PlotGeometry& Geometry() const;
 
   // --- Solving ---
 
@@ -90,12 +95,23 @@ class ctrlStormwaterReuse {
   bool SetHotspotUsing_ER(std::string_view E, std::string_view R, std::string& V);
   bool SetHotspotUsing_EV(std::string_view E, std::string_view V, std::string& R);
 
-  const std::string& ErrMsg() const { return errMsg_; }
-  std::int16_t HelpTopicIndex() const { return helpTopicIndex_; }
+  std::string ErrMsg() const { return Sentence(state_.point.message); }
+  std::int16_t HelpTopicIndex() const { return HelpTopic(state_.point.message.id); }
 
   // --- Hotspot ---
 
-  Boolean16 HotSpotVisibile() const { return ToBoolean16(hotspotVisible_); }
+  // The design point as a whole, with what came of the last question about it.
+  const DesignPoint& Point() const { return state_.point; }
+  void Point(DesignPoint point);
+
+  // Lets the work change the point: work(DesignPoint&, const FramedCurves*); its answer.
+  template <typename Work>
+  auto ChangePoint(Work&& work) {
+    Refresh();
+    return std::forward<Work>(work)(state_.point, InFrame());
+  }
+
+  Boolean16 HotSpotVisibile() const { return ToBoolean16(state_.point.isShown); }
   void HideHotSpot();
 
   // The hotspot's values in single precision; 0 and False while it is hidden (E: also while it is
@@ -104,27 +120,17 @@ class ctrlStormwaterReuse {
   bool GetV(float& V) const;
   bool GetE(float& E) const;
 
-  // The hotspot in double precision, as it was solved; the last ones while it is hidden.
-  double HotspotV() const { return hotspot_.V(); }
-  double HotspotR() const { return hotspot_.R(); }
-  double HotspotE() const { return E_; }
-
-  // The hotspot's pixel.
-  std::int16_t HotspotX() const { return hotspot_.X(); }
-  std::int16_t HotspotY() const { return hotspot_.Y(); }
-
-  // The curve through the hotspot's E; nothing where E is undefined.
-  const std::optional<EfficiencyCurve>& HighlightCurve() const { return highlightCurve_; }
-
   // --- Painting ---
 
   // Paints the whole control: paper, background, and below the border, while curves are loaded and
-  // UserMode is True, the chart with its hotspot. A highlight is not painted again, so a window
-  // always paints the whole control. Nothing else of the control changes.
-  void Paint(Surface& surface);
+  // UserMode is True, the chart with its hotspot.
+  void Paint(Surface& surface) const;
+
+  // The same for the screen, where a highlight goes with it.
+  void PaintScreen(Surface& surface);
 
   // Has the whole control painted again soon.
-  void Refresh();
+  void Refresh() { marks_.Repaint(); }
 
   // True while the control works for a user; False where a host only lays it out, which shows no
   // chart. True at first.
@@ -136,141 +142,58 @@ class ctrlStormwaterReuse {
 
   // --- Printing ---
 
-  // Prints the chart into the rectangle (the printer's units), laid out afresh: title, frame, grid
-  // and ticks, axis texts, labels, curves, their ends, and a visible hotspot. Nothing where no
-  // curves are loaded or the rectangle has no place for them. Nothing of the control changes.
+  // See chart/ChartPrinting. Nothing is printed where no curves are loaded.
   void PrintDesignChart(Printer& printer, std::int16_t Left, std::int16_t Top, std::int16_t Right,
                         std::int16_t Bottom) const;
-
-  // The measures of the chart in such a rectangle. Requires loaded curves.
-  clsPlotMetrics PrintMetrics(std::int16_t Left, std::int16_t Top, std::int16_t Right,
-                              std::int16_t Bottom) const;
-
-  // The height that uses a page's width best, in the units of `width`. Requires loaded curves.
-  double PrintedHeight(double width) const;
 
   // --- Mouse and keys ---
 
   // True: the mouse places the hotspot.
-  Boolean16 InteractiveMode() const { return ToBoolean16(interactive_); }
+  Boolean16 InteractiveMode() const { return ToBoolean16(input_.InteractiveMode()); }
   void InteractiveMode(Boolean16 on);
 
   // True during a drag.
-  Boolean16 MouseCaptured() const { return ToBoolean16(mouseCaptured_); }
+  Boolean16 MouseCaptured() const { return ToBoolean16(input_.MouseCaptured()); }
 
   // What the window's messages say. Button 1 is the left one; x and y are pixels of the control,
   // and any value is allowed. Arrow keys (37...40) move a visible hotspot by a pixel; the Space bar
   // (32) shows the curve through it while it is held; Esc (27) ends a drag and puts everything back
   // as it was before, which is a change too.
-  void MouseDown(std::int16_t button, double x, double y);
-  void MouseMove(double x, double y);
-  void MouseUp();
-  void CaptureLost();  // the system took the mouse away: ends a drag, once
-  void KeyDown(std::int16_t keyCode);
-  void KeyUp(std::int16_t keyCode);
-  bool WantsKey(std::int16_t keyCode) const;  // whether KeyDown would heed it now
-  void GotFocus() { hasFocus_ = true; }
-  void LostFocus();
-  Boolean16 HasFocus() const { return ToBoolean16(hasFocus_); }
-
-  std::function<void()> OnChange;         // the user placed or moved the hotspot; E is evaluated
-  std::function<void()> OnMousePressed;   // a drag has begun; right after its first OnChange
-  std::function<void()> OnMouseReleased;  // the drag has ended
+  void MouseDown(std::int16_t button, double x, double y) { input_.MouseDown(button, x, y); }
+  void MouseMove(double x, double y) { input_.MouseMove(x, y); }
+  void MouseUp() { input_.MouseUp(); }
+  void CaptureLost() { input_.CaptureLost(); }  // the system took the mouse away: ends a drag, once
+  void KeyDown(std::int16_t keyCode) { input_.KeyDown(keyCode); }
+  void KeyUp(std::int16_t keyCode) { input_.KeyUp(keyCode); }
+  // Whether KeyDown would heed it now.
+  bool WantsKey(std::int16_t keyCode) const { return input_.WantsKey(keyCode); }
+  void GotFocus() { input_.GotFocus(); }
+  void LostFocus() { input_.LostFocus(); }
+  Boolean16 HasFocus() const { return ToBoolean16(input_.HasFocus()); }
 
  private:
-  bool LoadCurves(const std::string& folder);
-  void LayOut();
-  void PlaceWithinPixels(double V, double R);
-
-  bool Succeed();
-  bool Fail(std::string message, std::int16_t helpTopic);
-  bool FailHidden(std::string message, std::int16_t helpTopic);
-  bool CheckV(double V);
-  bool CheckR(double R);
-  bool CheckE(double E);
-  bool ExtractCurveFor(std::string_view text, double E, EfficiencyCurve& curve);
-  void ShowSolution(double V, double R, double E, EfficiencyCurve curve);
-  bool LocateHotspot();
-  bool LocateBetween(std::size_t i);
-  const FramePolygon& Region(std::size_t i);
-  bool FailLocation();
-  void ForgetE();
-
-  // What a cancelled drag puts back.
-  struct DesignPoint {
-    bool hotspotVisible;
-    double V;
-    double R;
-    bool isEDefined;
-    double E;
-    std::optional<EfficiencyCurve> highlightCurve;
-    std::string errMsg;
-    std::int16_t helpTopicIndex;
-  };
-
-  bool IsHotspotShown() const { return isLoaded_ && hotspotVisible_; }
-  bool TakesPoint(double x, double y) const;
-  void PlaceByMouse(double x, double y);
-  void CancelDrag();
-  void PutBack(DesignPoint point);
-  void StepHotspot(int dX, int dY);
-  void EvaluateE();
-  void ShowHighlight();
-  void RemoveHighlight();
-  bool DrawHighlight();
-  void ToggleHotspot();
-  Surface* TransientSurface() const;
-
-  void PaintBackground(Surface& surface) const;
-  void PaintChart(Surface& surface) const;
+  void LayOut(std::shared_ptr<const CurveSet> curves);
+  void Unload();
   ChartScene Scene() const;
-  void DrawTitleBlock_Screen(Surface& surface, TextRoom& room) const;
-  void DrawPlotFrame_Screen(Surface& surface) const;
-  void DrawCurves_Screen(Surface& surface) const;
-  void DrawCurveEnds_Screen(Surface& surface) const;
-  void DrawLabels_Screen(Surface& surface, const TextRoom& room) const;
-  void DrawHotspot_Screen(Surface& surface) const;
-  void DrawBorder(Surface& surface) const;
 
-  clsPlotWindow Window() const;
-  void PrintChart(Printer& printer, const clsPlotMetrics& metrics) const;
-  void PrintHotspot(Printer& printer, const clsRectangle_Integer& target, const ChartScene& scene,
-                    std::span<const Area> captions) const;
-
-  Desktop& desktop_;
   std::string defaultDataFolder_;
   std::string designDataDirectory_;
-
-  bool isLoaded_ = false;
   std::int16_t stationIndex_ = 0;  // 0: none
   std::string stationName_;
-  CurveSet curves_;
-
-  int width_ = 960;  // pixels; the size without a window
-  int height_ = 640;
-  LayoutHeights layoutHeights_;
+  Size size_{kReferenceWidth, kReferenceHeight};
   FrameLayout layout_;
-  PlotGeometry geometry_;
-  // The region between curve i and the next, made when it is first asked for in a layout.
-  std::vector<std::optional<FramePolygon>> regions_;
-
-  std::string errMsg_;
-  std::int16_t helpTopicIndex_ = 0;
-
-  bool hotspotVisible_ = false;
-  Hotspot hotspot_;
-  bool isEDefined_ = false;
-  double E_ = 0;  // the last solved efficiency
-  std::optional<EfficiencyCurve> highlightCurve_;
-
-  Host* host_ = nullptr;
+  ChartState state_;
+  ScreenMarks marks_;
+  HotspotInput input_{state_, marks_};
   bool userMode_ = true;
   std::optional<Picture> backgroundPicture_;
-  bool interactive_ = false;
-  bool mouseCaptured_ = false;
-  std::optional<DesignPoint> beforeDrag_;  // none where the curves are others by now
-  bool highlightShown_ = false;            // the highlight curve is on the screen
-  bool hasFocus_ = false;
+
+ public:
+  // --- Events ---
+
+  std::function<void()>& OnChange = input_.OnChange;  // the user placed or moved the hotspot
+  std::function<void()>& OnMousePressed = input_.OnMousePressed;    // a drag has begun
+  std::function<void()>& OnMouseReleased = input_.OnMouseReleased;  // the drag has ended
 };
 
 }  // namespace orvik

@@ -1,15 +1,12 @@
 // kav calc: a project file, calculated and shown field by field as the window would show it.
+#include <algorithm>
 #include <iomanip>
 #include <memory>
 #include <nlohmann/json.hpp>
 
 #include "cli/Command.h"
 #include "cli/ProjectOpening.h"
-#include "entry/Form1.h"
-#include "platform/headless/HeadlessDesktop.h"
-#include "platform/headless/HeadlessToolkit.h"
-#include "project/FieldCaptions.h"
-#include "project/WithoutResults.h"
+#include "design/HostResults.h"
 
 namespace orvik {
 namespace {
@@ -22,59 +19,58 @@ struct Row {
   std::string unit = {};
 };
 
-void AddDescription(std::vector<Row>& rows, ProjectForm& form) {
-  rows.push_back(
-      {"txtProjectName", std::string(FieldCaption::kProject), form.txtProjectName.Text()});
-  rows.push_back(
-      {"txtDescription", std::string(FieldCaption::kDescription), form.txtDescription.Text()});
-  rows.push_back({"txtProjectNumber", std::string(FieldCaption::kProjectNumber),
-                  form.txtProjectNumber.Text()});
-  rows.push_back({"txtEngineer", std::string(FieldCaption::kEngineer), form.txtEngineer.Text()});
-  rows.push_back({"txtSuervisingEngineer", std::string(FieldCaption::kSupervisingEngineer),
-                  form.txtSuervisingEngineer.Text()});
-  rows.push_back({"txtDate", std::string(FieldCaption::kDate), form.txtDate.Text()});
-}
-
-void AddSite(std::vector<Row>& rows, ProjectForm& form) {
-  rows.push_back(
-      {"txtBasinArea", std::string(FieldCaption::kBasinArea), form.txtBasinArea.Text(), "ac"});
-  rows.push_back({"txtRunoffCoefficient", std::string(FieldCaption::kRunoffCoefficient),
-                  form.txtRunoffCoefficient.Text()});
-  rows.push_back({"txtEquivalentImperviousArea",
-                  std::string(FieldCaption::kEquivalentImperviousArea),
-                  form.txtEquivalentImperviousArea.Text(), "ac"});
-  rows.push_back({"txtIrrigationArea", std::string(FieldCaption::kIrrigationArea),
-                  form.txtIrrigationArea.Text(), "ac"});
-  rows.push_back({"cmbClimateStation", std::string(FieldCaption::kClimateStation),
-                  ChosenItem(*form.cmbClimateStation)});
-  rows.push_back(
-      {"cmbSolveFor", std::string(FieldCaption::kSolveFor), ChosenItem(*form.cmbSolveFor)});
-}
-
-void AddSolution(std::vector<Row>& rows, ProjectForm& form) {
-  for (int slot = 1; slot <= kSolveForSlots; ++slot) {
-    rows.push_back({"txtSolveFor(" + std::to_string(slot) + ")", form.lblSolveFor(slot).Caption(),
-                    form.txtSolveFor(slot).Text()});
+// What a normalized quantity is called where it does not stand beside a field.
+std::string CaptionOf(const FieldDesign& field) {
+  switch (field.id) {
+    case Field::R:
+      return "Normalized reuse rate R";
+    case Field::V:
+      return "Normalized storage volume V";
+    default:
+      return PlainCaption(field.caption);
   }
-  rows.push_back({"txtR", "Normalized reuse rate R", form.txtR.Text(), "in/day on the EIA"});
-  rows.push_back({"txtE", "Efficiency E", form.txtE.Text(), "% of the runoff"});
-  rows.push_back({"txtV", "Normalized storage volume V", form.txtV.Text(), "in on the EIA"});
 }
 
-std::vector<Row> RowsOf(Form1& window) {
+void AddFields(std::vector<Row>& rows, const Project& project,
+               std::initializer_list<FieldKind> kinds) {
+  for (const FieldDesign& field : Fields()) {
+    if (std::ranges::find(kinds, field.kind) == kinds.end()) continue;
+    rows.push_back({std::string(field.control), CaptionOf(field), project.Text(field.id),
+                    std::string(field.shortUnit)});
+  }
+}
+
+void AddList(std::vector<Row>& rows, ListField list, std::string item) {
+  rows.push_back({std::string(DesignOf(list).control), PlainCaption(list), std::move(item)});
+}
+
+void AddSlots(std::vector<Row>& rows, const Project& project) {
+  for (int slot = 1; slot <= kSolveForSlots; ++slot) {
+    const Field field = SlotField(slot);
+    rows.push_back({std::string(DesignOf(field).control),
+                    std::string(SiteQuantityCaption(QuantityInSlot(project.mode, slot))),
+                    project.Text(field)});
+  }
+}
+
+std::vector<Row> RowsOf(const Project& project) {
+  using enum FieldKind;
   std::vector<Row> rows;
-  AddDescription(rows, window.Fields());
-  AddSite(rows, window.Fields());
-  AddSolution(rows, window.Fields());
-  rows.push_back({"ReuseRate", "Reuse rate of the site", window.ReuseRate(), "gal/day"});
+  AddFields(rows, project, {Text, Wrapped, Date});
+  AddFields(rows, project, {Number, Result});
+  AddList(rows, ListField::ClimateStation, project.StationName());
+  AddList(rows, ListField::SolveForMode, project.ModeName());
+  AddSlots(rows, project);
+  AddFields(rows, project, {Normalized});
+  rows.push_back({"ReuseRate", "Reuse rate of the site", ReuseRateResult(project), "gal/day"});
   return rows;
 }
 
-void PrintJson(std::ostream& out, const std::vector<Row>& rows, const ctrlErrorMessageBar& bar) {
+void PrintJson(std::ostream& out, const std::vector<Row>& rows, const Message& shown) {
   nlohmann::ordered_json object;
   for (const Row& row : rows) object[row.name] = row.value;
-  object["txtErrMsg"] = bar.Text();
-  object["helpTopic"] = bar.ExtendedHelpTopic();
+  object["txtErrMsg"] = Sentence(shown);
+  object["helpTopic"] = HelpTopic(shown.id);
   // Bytes of a damaged file that are no text are shown as the sign for that.
   out << object.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
 }
@@ -103,17 +99,11 @@ void PrintText(std::ostream& out, const std::vector<Row>& rows) {
 }
 
 ExitCode RunCalc(Console& console, const CommonOptions& options, const std::string& path) {
-  HeadlessToolkit toolkit;
-  HeadlessDesktop desktop;
-  Form1 window(toolkit, desktop, DataFolder(console, options));
-  if (!OpenProject(console, window, desktop, path)) return ExitCode::FileTrouble;
-  const auto rows = RowsOf(window);
-  const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
-  options.json ? PrintJson(console.out, rows, bar) : PrintText(console.out, rows);
-  const std::string message = WhyWithoutResults(window.Fields(), window.Chart());
-  if (message.empty()) return ExitCode::Done;
-  PrintMessage(console, message);
-  return ExitCode::CalculationSaysNo;
+  const auto opened = OpenProject(console, path, DataFolder(console, options));
+  if (!opened) return ExitCode::FileTrouble;
+  const auto rows = RowsOf(opened->project);
+  options.json ? PrintJson(console.out, rows, opened->shown) : PrintText(console.out, rows);
+  return TellResult(console, *opened);
 }
 
 }  // namespace

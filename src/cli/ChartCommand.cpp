@@ -3,14 +3,13 @@
 
 #include "base/NumberText.h"
 #include "base/RuntimeErrors.h"
+#include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
 #include "cli/ProjectOpening.h"
 #include "cli/StationQuestion.h"
 #include "curves/FileError.h"
 #include "curves/OutputFile.h"
 #include "platform/cairo/PictureFile.h"
-#include "platform/headless/HeadlessDesktop.h"
-#include "platform/headless/HeadlessToolkit.h"
 
 namespace orvik {
 namespace {
@@ -64,33 +63,41 @@ ExitCode SayNo(Console& console, std::string_view message) {
   return ExitCode::CalculationSaysNo;
 }
 
+// The chart of curves that are loaded, with a design point or none.
+ExitCode DrawChart(const CommonOptions& options, Console& console, const ChartRequest& request,
+                   std::int16_t station, const DesignPoint& point) {
+  ctrlStormwaterReuse chart(DataFolder(console, options));
+  chart.SetCurveData(station);
+  chart.Point(point);
+  return DrawToFile(request, chart);
+}
+
 ExitCode ChartOfStation(Console& console, const CommonOptions& options,
                         const ChartRequest& request) {
-  HeadlessDesktop desktop;
-  ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
-  const ExitCode loaded = LoadStation(console, chart, desktop, request.question.station);
-  if (loaded != ExitCode::Done) return loaded;
   Question question = request.question;
+  const StationAnswer station =
+      LoadStation(console, DataFolder(console, options), question.station);
+  if (!station.curves) return station.exitCode;
   try {
-    if (CountGiven(question) == 2 && !Solve(chart, question)) {
-      return SayNo(console, chart.ErrMsg());
+    DesignPoint point;
+    if (CountGiven(question) == 2) {
+      point = Solve(*station.curves, question);
+      if (point.message.id != MessageId::Success) return SayNo(console, Sentence(point.message));
     }
-    return DrawToFile(request, chart);
+    return DrawChart(options, console, request, station.station, point);
   } catch (const NumericError&) {
-    return RefuseCurves(console, chart);
+    return RefuseCurves(console, station.name);
   }
 }
 
 ExitCode ChartOfProject(Console& console, const CommonOptions& options,
                         const ChartRequest& request) {
-  HeadlessToolkit toolkit;
-  HeadlessDesktop desktop;
-  Form1 window(toolkit, desktop, DataFolder(console, options));
-  if (!OpenProject(console, window, desktop, request.project)) return ExitCode::FileTrouble;
-  const ctrlErrorMessageBar& bar = window.Fields().txtErrMsg;
-  if (bar.IsSet() != kFalse16) return SayNo(console, bar.Text());
-  if (!window.Chart().IsLoaded()) return SayNo(console, "The project has no climate station.");
-  return DrawToFile(request, window.Chart());
+  const auto opened = OpenProject(console, request.project, DataFolder(console, options));
+  if (!opened) return ExitCode::FileTrouble;
+  if (opened->shown.id != MessageId::None) return SayNo(console, Sentence(opened->shown));
+  if (!opened->curves) return SayNo(console, "The project has no climate station.");
+  return DrawChart(options, console, request,
+                   static_cast<std::int16_t>(opened->project.station + 1), opened->project.point);
 }
 
 ExitCode WrongUsage(Console& console, std::string_view message) {

@@ -1,24 +1,28 @@
 #include "cli/ProjectOpening.h"
 
 #include "cli/StationQuestion.h"
+#include "design/WithoutResults.h"
 
 namespace orvik {
 
-std::string ChosenItem(const ComboBox& list) {
-  return list.List(list.ListIndex());
+std::optional<OpenedProject> OpenProject(Console& console, const std::string& path,
+                                         const std::string& dataFolder) {
+  OpenedProject opened = OpenProjectFile(path, dataFolder);
+  for (const Message& message : opened.messages) PrintMessage(console, Sentence(message));
+  if (!opened.isRead) return std::nullopt;
+  if (opened.curves || opened.project.station == kNoStation) return opened;
+  if (opened.messages.empty()) {
+    PrintMessage(console, DescribeDamage(CurveFolderBelow(dataFolder),
+                                         static_cast<std::int16_t>(opened.project.station + 1)));
+  }
+  return std::nullopt;
 }
 
-bool OpenProject(Console& console, Form1& window, const HeadlessDesktop& desktop,
-                 const std::string& path) {
-  const bool isRead = window.Files().OpenProject(path);
-  for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
-  if (!isRead) return false;
-  const std::string station = ChosenItem(*window.Fields().cmbClimateStation);
-  if (station.empty() || window.Chart().IsLoaded()) return true;
-  if (desktop.Messages().empty()) {
-    PrintMessage(console, DescribeDamage(window.Chart(), station));
-  }
-  return false;
+ExitCode TellResult(Console& console, const OpenedProject& opened) {
+  const std::string why = WhyWithoutResults(opened.project, Sentence(opened.shown));
+  if (why.empty()) return ExitCode::Done;
+  PrintMessage(console, why);
+  return ExitCode::CalculationSaysNo;
 }
 
 }  // namespace orvik

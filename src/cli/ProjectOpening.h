@@ -1,19 +1,20 @@
-// Opens a project file for a command, in a window without a screen.
+// Opens a project file for a command.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "cli/Console.h"
-#include "entry/Form1.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "files/OpenedProject.h"
 
 namespace orvik {
 
-// The text that the list shows.
-std::string ChosenItem(const ComboBox& list);
+// The project with its results and the curves of its station. Nothing: the console has been told
+// why not.
+std::optional<OpenedProject> OpenProject(Console& console, const std::string& path,
+                                         const std::string& dataFolder);
 
-// Reads the project and the curves of its station. False: the console has been told why not.
-bool OpenProject(Console& console, Form1& window, const HeadlessDesktop& desktop,
-                 const std::string& path);
+// Done, or the message that there is no result and CalculationSaysNo.
+ExitCode TellResult(Console& console, const OpenedProject& opened);
 
 }  // namespace orvik

@@ -9,9 +9,7 @@
 #include "curves/OutputFile.h"
 #include "platform/cairo/CairoPrinter.h"
 #include "platform/cairo/PictureFile.h"
-#include "platform/headless/HeadlessDesktop.h"
-#include "platform/headless/HeadlessToolkit.h"
-#include "project/WithoutResults.h"
+#include "printing/ProjectReport.h"
 
 namespace orvik {
 namespace {
@@ -34,32 +32,28 @@ std::string ValidateDate(const std::string& text) {
              : "\"" + text + "\" is not a date and time like 2026-04-17 09:30:00";
 }
 
-std::string MakeReport(Form1& window, PaperFormat paper, const ClockTime& date) {
+std::string MakeReport(const OpenedProject& opened, PaperFormat paper, const ClockTime& date) {
   std::string bytes;
   CairoPrinter printer(bytes, paper, date);
-  printer.StartDocument(window.ReportTitle());
-  window.PrintDoc(printer);
+  const std::string shown = Sentence(opened.shown);
+  printer.StartDocument(ReportTitle(opened.project));
+  ProjectReport(opened.project, shown, opened.station.curves.get(), date).PrintDoc(printer);
   printer.EndDocument();
   return bytes;
 }
 
 ExitCode RunReport(Console& console, const CommonOptions& options, const ReportRequest& request) {
-  HeadlessToolkit toolkit;
-  HeadlessDesktop desktop;
-  desktop.Now(request.date.empty() ? DateAndTimeNow() : *ParseDateAndTime(request.date));
-  Form1 window(toolkit, desktop, DataFolder(console, options));
-  if (!OpenProject(console, window, desktop, request.project)) return ExitCode::FileTrouble;
+  const ClockTime date = request.date.empty() ? DateAndTimeNow() : *ParseDateAndTime(request.date);
+  const auto opened = OpenProject(console, request.project, DataFolder(console, options));
+  if (!opened) return ExitCode::FileTrouble;
   const PaperFormat paper = request.paper == "a4" ? PaperFormat::A4 : PaperFormat::Letter;
   try {
-    WriteOutputFile(request.output, MakeReport(window, paper, desktop.Now()));
+    WriteOutputFile(request.output, MakeReport(*opened, paper, date));
   } catch (const FileError& error) {
     PrintMessage(console, error.what());
     return ExitCode::FileTrouble;
   }
-  const std::string message = WhyWithoutResults(window.Fields(), window.Chart());
-  if (message.empty()) return ExitCode::Done;
-  PrintMessage(console, message);
-  return ExitCode::CalculationSaysNo;
+  return TellResult(console, *opened);
 }
 
 }  // namespace

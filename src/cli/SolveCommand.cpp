@@ -4,12 +4,9 @@
 #include <nlohmann/json.hpp>
 
 #include "base/NumberText.h"
-#include "base/Paths.h"
 #include "base/RuntimeErrors.h"
-#include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
 #include "cli/StationQuestion.h"
-#include "platform/headless/HeadlessDesktop.h"
 
 namespace orvik {
 namespace {
@@ -19,14 +16,14 @@ nlohmann::ordered_json JsonNumber(const std::string& text) {
   return ParseNumber(text);
 }
 
-void PrintJson(std::ostream& out, const Question& answer, bool solved,
-               const ctrlStormwaterReuse& chart) {
+void PrintJson(std::ostream& out, const Question& answer, const Message& message) {
+  const bool isSolved = message.id == MessageId::Success;
   const nlohmann::ordered_json object{{"station", answer.station},
                                       {"R", JsonNumber(answer.R)},
                                       {"V", JsonNumber(answer.V)},
                                       {"E", JsonNumber(answer.E)},
-                                      {"message", solved ? "" : chart.ErrMsg()},
-                                      {"helpTopic", chart.HelpTopicIndex()}};
+                                      {"message", isSolved ? "" : Sentence(message)},
+                                      {"helpTopic", HelpTopic(message.id)}};
   out << object.dump(2) << '\n';
 }
 
@@ -45,16 +42,17 @@ void PrintText(std::ostream& out, const Question& asked, const Question& answer,
   out << std::left << std::setw(19) << "Curves" << title << '\n';
 }
 
-ExitCode Answer(Console& console, bool json, ctrlStormwaterReuse& chart, const Question& asked) {
+ExitCode Answer(Console& console, bool json, const FramedCurves& curves, const Question& asked) {
   Question answer = asked;
-  const bool solved = Solve(chart, answer);
+  const Message message = Solve(curves, answer).message;
+  const bool isSolved = message.id == MessageId::Success;
   if (json) {
-    PrintJson(console.out, answer, solved, chart);
-  } else if (solved) {
-    PrintText(console.out, asked, answer, chart.Curves().Title);
+    PrintJson(console.out, answer, message);
+  } else if (isSolved) {
+    PrintText(console.out, asked, answer, curves.Curves().Title);
   }
-  if (solved) return ExitCode::Done;
-  PrintMessage(console, chart.ErrMsg());
+  if (isSolved) return ExitCode::Done;
+  PrintMessage(console, Sentence(message));
   return ExitCode::CalculationSaysNo;
 }
 
@@ -63,16 +61,15 @@ ExitCode RunSolve(Console& console, const CommonOptions& options, const Question
     PrintMessage(console, "Give two of --rate, --volume and --efficiency; the third is found.");
     return ExitCode::WrongUsage;
   }
-  HeadlessDesktop desktop;
-  ctrlStormwaterReuse chart(desktop, DataFolder(console, options));
-  const ExitCode loaded = LoadStation(console, chart, desktop, question.station);
-  if (loaded != ExitCode::Done) return loaded;
+  const StationAnswer station =
+      LoadStation(console, DataFolder(console, options), question.station);
+  if (!station.curves) return station.exitCode;
   Question asked = question;
-  asked.station = chart.StationName();
+  asked.station = station.name;
   try {
-    return Answer(console, options.json, chart, asked);
+    return Answer(console, options.json, *station.curves, asked);
   } catch (const NumericError&) {
-    return RefuseCurves(console, chart);
+    return RefuseCurves(console, station.name);
   }
 }
 

@@ -1,7 +1,10 @@
 #include "cli/StationQuestion.h"
 
+#include "base/NumberText.h"
+#include "design/OutcomeMessage.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFileDiagnosis.h"
+#include "engine/CurveLoading.h"
 
 namespace orvik {
 
@@ -19,36 +22,52 @@ int CountGiven(const Question& question) {
          static_cast<int>(!question.E.empty());
 }
 
-bool Solve(ctrlStormwaterReuse& chart, Question& question) {
-  if (question.E.empty()) return chart.SetHotspotUsing_RV(question.R, question.V, question.E);
-  if (question.V.empty()) return chart.SetHotspotUsing_ER(question.E, question.R, question.V);
-  return chart.SetHotspotUsing_EV(question.E, question.V, question.R);
+DesignPoint Solve(const FramedCurves& curves, Question& question) {
+  DesignPoint point;
+  const double R = ParseNumber(question.R);
+  const double V = ParseNumber(question.V);
+  if (question.E.empty()) {
+    question.E = PlaceUsingRV(point, &curves, R, V).value_or("");
+  } else if (question.V.empty()) {
+    question.V = PlaceUsingER(point, &curves, question.E, R).value_or("");
+  } else {
+    question.R = PlaceUsingEV(point, &curves, question.E, V).value_or("");
+  }
+  return point;
 }
 
-std::string DescribeDamage(const ctrlStormwaterReuse& chart, const std::string& station) {
-  const std::string why = DiagnoseCurveFile(chart.CurveFolder() + station + ".crv");
-  return "The curve file of " + station +
+std::string DescribeDamage(const std::string& folder, std::int16_t station) {
+  const std::string why = DiagnoseCurveFile(CurveFilePath(folder, station));
+  return "The curve file of " + std::string(ClimateStationName(station)) +
          (why.empty() ? " is damaged or cannot be read." : " cannot be read: " + why + ".");
 }
 
-ExitCode LoadStation(Console& console, ctrlStormwaterReuse& chart, const HeadlessDesktop& desktop,
-                     const std::string& name) {
+StationAnswer LoadStation(Console& console, const std::string& dataFolder,
+                          const std::string& name) {
+  StationAnswer answer;
   const auto station = FindClimateStation(name);
   if (!station) {
     PrintMessage(console, "There is no climate station \"" + name + "\". kav stations lists them.");
-    return ExitCode::WrongUsage;
+    answer.exitCode = ExitCode::WrongUsage;
+    return answer;
   }
-  chart.SetCurveData(*station);
-  if (chart.IsLoaded()) return ExitCode::Done;
-  for (const auto& message : desktop.Messages()) PrintMessage(console, message.text);
-  if (desktop.Messages().empty()) {
-    PrintMessage(console, DescribeDamage(chart, std::string(ClimateStationName(*station))));
+  answer.station = *station;
+  answer.name = ClimateStationName(*station);
+  const std::string folder = CurveFolderBelow(dataFolder);
+  const LoadedCurves loaded = LoadStationCurves(folder, *station);
+  if (loaded.curves) {
+    answer.curves.emplace(loaded.curves, ReferenceGeometry(*loaded.curves));
+    return answer;
   }
-  return ExitCode::FileTrouble;
+  const Message message = MessageOf(loaded.outcome, folder, *station);
+  PrintMessage(console, message.id == MessageId::None ? DescribeDamage(folder, *station)
+                                                      : Sentence(message));
+  answer.exitCode = ExitCode::FileTrouble;
+  return answer;
 }
 
-ExitCode RefuseCurves(Console& console, const ctrlStormwaterReuse& chart) {
-  PrintMessage(console, "The design curves of " + chart.StationName() +
+ExitCode RefuseCurves(Console& console, const std::string& station) {
+  PrintMessage(console, "The design curves of " + station +
                             " cannot be used: two of them meet or leave the chart.");
   return ExitCode::FileTrouble;
 }

@@ -1,11 +1,11 @@
 // A station and up to two known quantities, as commands take them.
 #pragma once
 
+#include <optional>
 #include <string>
 
-#include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "design/DesignPoint.h"
 
 namespace orvik {
 
@@ -22,18 +22,25 @@ void AddQuestionOptions(CLI::App& command, Question& question);
 
 int CountGiven(const Question& question);
 
-// Places the chart's hotspot from the two quantities that are given, and fills in the third. False:
-// the chart's ErrMsg says why not.
-bool Solve(ctrlStormwaterReuse& chart, Question& question);
+// Answers the question from the two quantities that are given, and fills in the third. The point of
+// the answer: its message says why there is none.
+DesignPoint Solve(const FramedCurves& curves, Question& question);
 
-// Loads the curves of the station of this name; anything but Done has been said on the console.
-ExitCode LoadStation(Console& console, ctrlStormwaterReuse& chart, const HeadlessDesktop& desktop,
-                     const std::string& name);
+// The curves of a station that the user named.
+struct StationAnswer {
+  ExitCode exitCode = ExitCode::Done;  // anything but Done has been said on the console
+  std::int16_t station = 0;
+  std::string name;  // as the table of stations has it
+  std::optional<FramedCurves> curves;
+};
 
-// The sentence for a station whose file is there, but gave the chart no curves.
-std::string DescribeDamage(const ctrlStormwaterReuse& chart, const std::string& station);
+StationAnswer LoadStation(Console& console, const std::string& dataFolder, const std::string& name);
 
-// Says that the loaded curves led to a numeric fault.
-ExitCode RefuseCurves(Console& console, const ctrlStormwaterReuse& chart);
+// The sentence for a station (1...25) whose file is there, but has no curves that can be used.
+// `folder` is that of the curve files.
+std::string DescribeDamage(const std::string& folder, std::int16_t station);
+
+// Says that the curves of this station led to a numeric fault.
+ExitCode RefuseCurves(Console& console, const std::string& station);
 
 }  // namespace orvik

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "engine/CurveSet.h"
-#include "files/clsIOStream.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 

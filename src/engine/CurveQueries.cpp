@@ -32,6 +32,18 @@ double InterpolatedR(double V, const EfficiencyCurve& A, const EfficiencyCurve& 
                 Interpolate(A.D, B.D, t));
 }
 
+EfficiencyCurve WithoutSamples(const EfficiencyCurve& stored) {
+  EfficiencyCurve curve;
+  curve.E = stored.E;
+  curve.A = stored.A;
+  curve.B = stored.B;
+  curve.C = stored.C;
+  curve.D = stored.D;
+  curve.VStart = stored.VStart;
+  curve.VEnd = stored.VEnd;
+  return curve;
+}
+
 struct Bound {
   double E;
   double R;
@@ -55,15 +67,13 @@ EfficiencyCurve InterpolateCurve(const EfficiencyCurve& A, const EfficiencyCurve
 std::optional<EfficiencyCurve> ExtractCurve(const CurveSet& set, double E) {
   const float single = ToSingle(E);
   for (const EfficiencyCurve& curve : set.Curves) {
-    if (single == curve.E) return curve;
+    if (single == curve.E) return WithoutSamples(curve);
   }
   for (std::size_t i = 0; i + 1 < set.Curves.size(); ++i) {
     const EfficiencyCurve& A = set.Curves[i];
     const EfficiencyCurve& B = set.Curves[i + 1];
     if (!(A.E <= single && single <= B.E)) continue;
-    EfficiencyCurve curve = InterpolateCurve(A, B, Share(E, A.E, B.E), single);
-    SampleCurve(curve);
-    return curve;
+    return InterpolateCurve(A, B, Share(E, A.E, B.E), single);
   }
   return std::nullopt;
 }

@@ -9,8 +9,8 @@
 namespace orvik {
 
 // The curve of efficiency E (percent): a stored curve whose E equals E in single precision, else
-// every parameter interpolated linearly in E between the first two neighbours that enclose it, and
-// sampled. Nothing outside the stored curves.
+// every parameter interpolated linearly in E between the first two neighbours that enclose it. Not
+// sampled: whoever draws it does that. Nothing outside the stored curves.
 std::optional<EfficiencyCurve> ExtractCurve(const CurveSet& set, double E);
 
 // Every parameter of two curves interpolated linearly: A's for t = 0, B's for t = 1. E is set as

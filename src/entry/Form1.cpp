@@ -4,9 +4,9 @@
 
 #include "base/RuntimeErrors.h"
 #include "base/VersionText.h"
+#include "design/NumberInput.h"
 #include "engine/ClimateStations.h"
 #include "printing/ProjectReport.h"
-#include "project/NumberInput.h"
 #include "shell/ChartCopy.h"
 #include "shell/MainWindowDesign.h"
 #include "shell/MainWindowTable.h"
@@ -37,12 +37,13 @@ Toolkit& Designed(Toolkit& toolkit) {
 Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
     : desktop_(desktop),
       form_(Designed(toolkit), desktop),
-      ctrlStormwaterReuse1_(desktop, dataFolder),
+      ctrlStormwaterReuse1_(dataFolder),
       chartWindow_(toolkit, "ctrlStormwaterReuse1", ctrlStormwaterReuse1_),
-      interactive_(form_, ctrlStormwaterReuse1_),
-      workflow_(form_, ctrlStormwaterReuse1_, interactive_),
-      triggers_(form_, ctrlStormwaterReuse1_, workflow_, interactive_),
-      file_(form_, ctrlStormwaterReuse1_, workflow_, desktop),
+      binding_(form_, ctrlStormwaterReuse1_),
+      interactive_(form_, ctrlStormwaterReuse1_, binding_),
+      workflow_(form_, ctrlStormwaterReuse1_, binding_),
+      triggers_(form_, ctrlStormwaterReuse1_, desktop, binding_, workflow_, interactive_),
+      file_(form_, ctrlStormwaterReuse1_, binding_, workflow_, desktop),
       files_(form_, workflow_, file_, desktop),
       pages_(toolkit, desktop, form_),
       messageHelp_(toolkit, desktop, form_.txtErrMsg, dataFolder),
@@ -98,10 +99,8 @@ void Form1::Form_Load() {
     form_.cmbClimateStation->AddItem(ClimateStationName(i));
   }
   form_.cmbSolveFor->Clear();
-  for (std::int16_t mode = 0; mode < SolveFor::kModes; ++mode) {
-    form_.cmbSolveFor->AddItem(SolveForItem(mode));
-  }
-  form_.cmbSolveFor->ListIndex(SolveFor::kInteractive);
+  for (const SolveFor mode : kSolveForModes) form_.cmbSolveFor->AddItem(SolveForItem(mode));
+  form_.cmbSolveFor->ListIndex(IndexOf(SolveFor::Interactive));
   form_.window->Caption("KAV - ORVIK 3.3 Stormwater Harvesting Module (Ver " + VersionText() + ")");
   Mode(mode_);
 }
@@ -117,9 +116,9 @@ void Form1::Mode(std::int16_t mode) {
 }
 
 void Form1::TakeBasin(const std::string& area, const std::string& runoffCoefficient) {
-  form_.txtBasinArea.Text(area);
-  form_.txtRunoffCoefficient.Text(runoffCoefficient);
-  triggers_.txtBasinArea_Process_CR();
+  form_.Box(Field::BasinArea).Text(area);
+  form_.Box(Field::RunoffCoefficient).Text(runoffCoefficient);
+  triggers_.Process_CR();
 }
 
 // --- Printing ---
@@ -133,8 +132,7 @@ void Form1::PrintOn(Printer* printer) {
   const DocumentStart start =
       printer ? printer->StartDocument(ReportTitle()) : DocumentStart::Unreachable;
   if (start == DocumentStart::Unreachable) {
-    desktop_.ShowMessage("Unable to establish connection with printer.", "Error",
-                         MessageIcon::Exclamation);
+    ShowError({MessageId::NoPrinter});
   }
   if (start != DocumentStart::Started) return;
   try {
@@ -143,17 +141,24 @@ void Form1::PrintOn(Printer* printer) {
   } catch (const PrinterError&) {
     return;  // the system tells the user about its printers; the job is given up as a whole
   } catch (const NumericError& fault) {
-    desktop_.ShowMessage("The report cannot be printed. " + NumericFaultSentence(fault), "Error",
-                         MessageIcon::Exclamation);
+    ShowError({MessageId::ReportNotPrintable, Sentence(NumericFaultMessage(fault))});
   }
 }
 
-void Form1::PrintDoc(Printer& printer) {
-  ProjectReport(form_, ctrlStormwaterReuse1_, desktop_).PrintDoc(printer);
+void Form1::PrintDoc(Printer& printer) const {
+  const Project project = binding_.Snapshot();
+  const std::string shown = form_.txtErrMsg.Text();
+  const FramedCurves* curves = ctrlStormwaterReuse1_.InFrame();
+  ProjectReport(project, shown, curves ? &curves->Curves() : nullptr, desktop_.Now())
+      .PrintDoc(printer);
 }
 
-std::string Form1::ReportTitle() {
-  return ProjectReport(form_, ctrlStormwaterReuse1_, desktop_).Title();
+std::string Form1::ReportTitle() const {
+  return orvik::ReportTitle(binding_.Snapshot());
+}
+
+void Form1::ShowError(const Message& message) {
+  desktop_.ShowMessage(Sentence(message), "Error", MessageIcon::Exclamation);
 }
 
 // --- Leaving ---
@@ -177,8 +182,7 @@ void Form1::Leave(std::int16_t returnCode) {
 void Form1::OpenDropped(const std::string& path) {
   if (mode_ != kStandAlone) return;
   if (!IsProjectFile(path)) {
-    return desktop_.ShowMessage("Only a project file (*.kav) can be opened here.", "Error",
-                                MessageIcon::Exclamation);
+    return ShowError({MessageId::OnlyProjectFiles});
   }
   files_.OpenProject(path);
   ctrlStormwaterReuse1_.Refresh();
@@ -188,7 +192,7 @@ void Form1::OpenDropped(const std::string& path) {
 void Form1::Form_QueryUnload(bool& cancel) {
   if (mode_ != kInHostProject || exitDecided_) return;
   const bool save =
-      desktop_.AskYesNo("Do you want to save the current data?", "Exit Stormwater Harvesting");
+      desktop_.AskYesNo(Sentence({MessageId::SaveCurrentData}), "Exit Stormwater Harvesting");
   Leave(save ? kSave : kDiscard);
   cancel = true;
 }

@@ -9,11 +9,11 @@
 #include "chart/HostedChart.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "controls/HostedButton.h"
-#include "entry/ProjectResults.h"
 #include "files/FileCommands.h"
 #include "files/ProjectFile.h"
 #include "platform/Desktop.h"
 #include "platform/Toolkit.h"
+#include "project/FormBinding.h"
 #include "project/InteractiveSynchronisation.h"
 #include "project/ProjectForm.h"
 #include "project/RecalculationTriggers.h"
@@ -59,15 +59,13 @@ class Form1 {
 
   // The report on a printer whose document has been started. Ending it is the caller's. Throws
   // PrinterError, and NumericError for a page that is more than 16-bit pixels wide or high.
-  void PrintDoc(Printer& printer);
+  void PrintDoc(Printer& printer) const;
 
   // What the document with the report is called.
-  std::string ReportTitle();
+  std::string ReportTitle() const;
 
-  // The results for the host, as text; see ProjectResults.
-  std::string ReuseRate() { return ReuseRateResult(form_); }          // gallons per day
-  std::string Efficiency() { return EfficiencyResult(form_); }        // percent
-  std::string StorageVolume() { return StorageVolumeResult(form_); }  // acre-feet
+  // The project as the fields show it; the results for a host are made of it.
+  Project Snapshot() const { return binding_.Snapshot(); }
 
   ProjectForm& Fields() { return form_; }
   ctrlStormwaterReuse& Chart() { return ctrlStormwaterReuse1_; }
@@ -85,12 +83,14 @@ class Form1 {
   void cmdSaveExit_Click();
   void cmdDiscardExit_Click();
   void Leave(std::int16_t returnCode);
+  void ShowError(const Message& message);
   void OpenDropped(const std::string& path);
 
   Desktop& desktop_;
   ProjectForm form_;
   ctrlStormwaterReuse ctrlStormwaterReuse1_;
   HostedChart chartWindow_;
+  FormBinding binding_;
   InteractiveSynchronisation interactive_;
   SolveForWorkflow workflow_;
   RecalculationTriggers triggers_;

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "base/Paths.h"
+#include "design/HostResults.h"
 
 namespace orvik {
 namespace {
@@ -45,8 +46,9 @@ std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& Para
     throw std::runtime_error("The project cannot be written as text.");
   }
   ParamString3 = project;
-  ParamString2 =
-      window.ReuseRate() + kLineEnd + window.Efficiency() + kLineEnd + window.StorageVolume();
+  const Project shown = window.Snapshot();
+  ParamString2 = ReuseRateResult(shown) + kLineEnd + EfficiencyResult(shown) + kLineEnd +
+                 StorageVolumeResult(shown);
   return kSaved;
 }
 

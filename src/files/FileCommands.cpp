@@ -2,12 +2,15 @@
 
 #include "base/Paths.h"
 #include "files/SafeReplace.h"
+#include "project/ProjectForm.h"
+#include "project/SolveForWorkflow.h"
 
 namespace orvik {
 namespace {
 
 constexpr std::string_view kProjectFilter =
     "All Files (*.*)|*.*|ORVIK Stormwater Harvesting (*.kav)|*.kav|";
+constexpr std::string_view kUntitledCaption = "ORVIK 3.3 Stormwater Harvesting - [untitled]";
 constexpr int kProjectFiles = 2;  // the filter's second pair
 
 }  // namespace
@@ -26,7 +29,7 @@ void FileCommands::Open() {
 
 bool FileCommands::OpenProject(std::string_view path) {
   if (LoadFile(path)) return true;
-  ShowError("Error reading data file.");
+  ShowError(MessageId::ProjectFileUnreadable);
   return false;
 }
 
@@ -46,7 +49,10 @@ void FileCommands::SaveAs() {
 // --- Reading ---
 
 void FileCommands::ClearData() {
+  form_.window->Caption(kUntitledCaption);
   file_.ClearData();
+  form_.picProject->Visible(false);
+  form_.picData->Visible(true);
   currentPath_.clear();
 }
 
@@ -76,7 +82,7 @@ bool FileCommands::ReadFile(std::string_view text) {
                       file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
   TellReplaced();
-  if (!isRead) ShowError("Error reading data.");
+  if (!isRead) ShowError(MessageId::ProjectTextUnreadable);
   workflow_.ReCalc();
   return isRead;
 }
@@ -143,12 +149,12 @@ std::string FileCommands::GetFileSaveName() {
 std::string FileCommands::GetMyDocumentsFolder(std::string& error) {
   error.clear();
   const auto folder = desktop_.DocumentsFolder();
-  if (!folder) error = "The folder path could not be detected";
+  if (!folder) error = Sentence({MessageId::NoDocumentsFolder});
   return folder.value_or("");
 }
 
-void FileCommands::ShowError(std::string_view text) {
-  desktop_.ShowMessage(text, "Error", MessageIcon::Exclamation);
+void FileCommands::ShowError(MessageId message) {
+  desktop_.ShowMessage(Sentence({message}), "Error", MessageIcon::Exclamation);
 }
 
 void FileCommands::ShowFileName(std::string_view path) {

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <utility>
 
+#include "design/Messages.h"
 #include "files/ProjectFile.h"
 #include "platform/Desktop.h"
-#include "project/ProjectForm.h"
 
 namespace orvik {
 
@@ -31,7 +31,7 @@ class FileCommands {
 
   // --- Behind the commands ---
 
-  // An empty, untitled project.
+  // An empty, untitled project on the data page.
   void ClearData();
 
   // Reads the project at `path`, which becomes the current file whatever the reading gave. Its
@@ -71,7 +71,7 @@ class FileCommands {
  private:
   FileDialog ProjectDialog();
   std::string StartFolder();
-  void ShowError(std::string_view text);
+  void ShowError(MessageId message);
   void ShowFileName(std::string_view path);
   void TellReplaced();
 

@@ -4,11 +4,9 @@
 #include <array>
 
 #include "base/Rounding.h"
-#include "base/Text.h"
+#include "base/RuntimeErrors.h"
+#include "design/Conversions.h"
 #include "printing/ResultWords.h"
-#include "project/Conversions.h"
-#include "project/FieldCaptions.h"
-#include "project/NumberInput.h"
 
 namespace orvik {
 namespace {
@@ -19,28 +17,26 @@ constexpr float kLeastChart = 0.75F;
 // Above the chart and the result's words, in body lines.
 constexpr float kGap = 0.4F;
 
-std::string Text(const ctrlMyTextBox& field) {
-  return std::string(Trim(field.Text()));
-}
-
 // The value with its unit behind it, or nothing.
 std::string WithUnit(const std::string& value, std::string_view unit) {
   return value.empty() ? value : value + " " + std::string(unit);
-}
-
-std::string ChosenItem(const ComboBox& list) {
-  return list.List(list.ListIndex());
 }
 
 ReportRow Row(std::string_view caption, std::string value) {
   return {std::string(caption), std::move(value)};
 }
 
-std::string GallonsPerDay(ProjectForm& form) {
-  const std::int16_t mode = form.cmbSolveFor->ListIndex();
-  const std::string rate = Text(form.txtSolveFor(SlotOfQuantity(mode, SiteQuantity::ReuseRate)));
+ReportRow RowOf(const Project& project, const FieldDesign& field) {
+  // The range that stands behind the coefficient in the window is no unit.
+  const bool hasUnit = !field.shortUnit.empty();
+  const std::string value = project.Trimmed(field.id);
+  return {PlainCaption(field.caption), hasUnit ? WithUnit(value, field.unit) : value};
+}
+
+std::string GallonsPerDay(const Project& project) {
   try {
-    return InchesPerWeek_To_GPD(rate, form.txtIrrigationArea.Text());
+    return InchesPerWeek_To_GPD(project.SiteText(SiteQuantity::ReuseRate),
+                                project.Text(Field::IrrigationArea));
   } catch (const NumericError&) {
     return {};  // more than single precision holds
   }
@@ -48,14 +44,14 @@ std::string GallonsPerDay(ProjectForm& form) {
 
 }  // namespace
 
-std::string ProjectReport::Title() const {
-  const std::string name = Text(form_.txtProjectName);
+std::string ReportTitle(const Project& project) {
+  const std::string name = project.Trimmed(Field::ProjectName);
   return "Stormwater Harvesting Report" + (name.empty() ? "" : " - " + name);
 }
 
 void ProjectReport::PrintDoc(Printer& printer) {
-  const std::string name = Text(form_.txtProjectName);
-  const std::string number = Text(form_.txtProjectNumber);
+  const std::string name = project_.Trimmed(Field::ProjectName);
+  const std::string number = project_.Trimmed(Field::ProjectNumber);
   pages_.CreditLine(number + (number.empty() || name.empty() ? "" : "  ") + name);
   pages_.ReadyFonts(printer);
   pages_.GetPrintableMargins(printer);
@@ -67,11 +63,12 @@ void ProjectReport::PrintDoc(Printer& printer) {
 
 void ProjectReport::PrintReport(Printer& printer) {
   ReportLines lines(printer, pages_);
-  lines.AlignTo(FieldCaption::kEquivalentImperviousArea);  // the longest of the fields' captions
+  lines.AlignTo(
+      PlainCaption(Field::EquivalentImperviousArea));  // the longest of the fields' captions
   PrintProjectData(lines);
   PrintBasinData(lines);
   PrintSolutionParameters(lines);
-  if (form_.cmbSolveFor->ListIndex() == SolveFor::kInteractive) {
+  if (project_.mode == SolveFor::Interactive) {
     PrintChartSection(printer, lines);
     lines.NewPage();
     lines.Heading("Result:");
@@ -88,64 +85,61 @@ void ProjectReport::PrintReport(Printer& printer) {
 
 void ProjectReport::PrintProjectData(ReportLines& lines) {
   lines.Heading("Project Data:");
-  lines.Rows(std::array{
-      Row(FieldCaption::kProject, Text(form_.txtProjectName)),
-      Row(FieldCaption::kDescription, Text(form_.txtDescription)),
-      Row(FieldCaption::kProjectNumber, Text(form_.txtProjectNumber)),
-      Row(FieldCaption::kEngineer, Text(form_.txtEngineer)),
-      Row(FieldCaption::kSupervisingEngineer, Text(form_.txtSuervisingEngineer)),
-      Row(FieldCaption::kDate, Text(form_.txtDate)),
-  });
+  std::vector<ReportRow> rows;
+  for (const FieldDesign& field : Fields()) {
+    if (field.IsDescription()) rows.push_back(RowOf(project_, field));
+  }
+  lines.Rows(rows);
 }
 
 void ProjectReport::PrintBasinData(ReportLines& lines) {
   lines.Heading("Basin Data:");
-  lines.Rows(std::array{
-      Row(FieldCaption::kBasinArea, WithUnit(Text(form_.txtBasinArea), "acres")),
-      Row(FieldCaption::kRunoffCoefficient, Text(form_.txtRunoffCoefficient)),
-      Row(FieldCaption::kEquivalentImperviousArea,
-          WithUnit(Text(form_.txtEquivalentImperviousArea), "acres (EIA)")),
-      Row(FieldCaption::kIrrigationArea, WithUnit(Text(form_.txtIrrigationArea), "acres")),
-  });
+  std::vector<ReportRow> rows;
+  for (const FieldDesign& field : Fields()) {
+    const bool isOfBasin = field.kind == FieldKind::Number || field.kind == FieldKind::Result;
+    if (isOfBasin) rows.push_back(RowOf(project_, field));
+  }
+  lines.Rows(rows);
 }
 
 void ProjectReport::PrintSolutionParameters(ReportLines& lines) {
   lines.Heading("Solution Parameters:");
   lines.Rows(std::array{
-      Row(FieldCaption::kClimateStation, ChosenItem(*form_.cmbClimateStation)),
-      Row("Source of the curves", chart_.IsLoaded() ? chart_.Curves().Title : ""),
-      Row(FieldCaption::kSolveFor, ChosenItem(*form_.cmbSolveFor)),
+      ReportRow{PlainCaption(ListField::ClimateStation), project_.StationName()},
+      ReportRow{"Source of the curves", curves_ ? curves_->Title : ""},
+      ReportRow{PlainCaption(ListField::SolveForMode), project_.ModeName()},
   });
 }
 
-std::vector<ReportRow> ProjectReport::SlotRows() {
+std::vector<ReportRow> ProjectReport::SlotRows() const {
   std::vector<ReportRow> rows;
   for (int slot = 1; slot <= kSolveForSlots; ++slot) {
-    rows.push_back({form_.lblSolveFor(slot).Caption(), Text(form_.txtSolveFor(slot))});
+    const SiteQuantity quantity = QuantityInSlot(project_.mode, slot);
+    rows.push_back({std::string(SiteQuantityCaption(quantity)), project_.Trimmed(SlotField(slot))});
   }
   return rows;
 }
 
 void ProjectReport::PrintResultWords(ReportLines& lines) {
   lines.Skip(kGap * lines.LineHeight(ReportFont::kBody));
-  lines.Paragraph(ResultInWords(form_, chart_), ReportFont::kEmphasis);
-  if (!HasResult(form_, chart_)) return;
-  const std::string gallons = GallonsPerDay(form_);
+  lines.Paragraph(ResultInWords(project_, shown_), ReportFont::kEmphasis);
+  if (!HasResult(project_, shown_)) return;
+  const std::string gallons = GallonsPerDay(project_);
   if (gallons.empty()) return;
   lines.Paragraph("This reuse rate is " + gallons + " gallons per day.", ReportFont::kBody);
 }
 
 float ProjectReport::ChartHeight() const {
-  if (!chart_.IsLoaded()) return 0;
-  return ToSingle(chart_.PrintedHeight(static_cast<double>(pages_.BodyRight()) -
-                                       static_cast<double>(pages_.BodyLeft())));
+  if (!curves_) return 0;
+  return ToSingle(PrintedChartHeight(
+      *curves_, static_cast<double>(pages_.BodyRight()) - static_cast<double>(pages_.BodyLeft())));
 }
 
 void ProjectReport::PrintChartSection(Printer& printer, ReportLines& lines) {
   const std::array legend{
-      Row("R: Normalized Reuse Rate (in./day on EIA)", Text(form_.txtR)),
-      Row("E: Efficiency", WithUnit(Text(form_.txtE), "percent")),
-      Row("V: Normalized Storage Volume (in. on EIA)", Text(form_.txtV)),
+      Row("R: Normalized Reuse Rate (in./day on EIA)", project_.Trimmed(Field::R)),
+      Row("E: Efficiency", WithUnit(project_.Trimmed(Field::E), "percent")),
+      Row("V: Normalized Storage Volume (in. on EIA)", project_.Trimmed(Field::V)),
   };
   const float height = ChartHeight();
   lines.Heading("Design Chart:", lines.HeightOfRows(legend.size()) + kLeastChart * height);
@@ -164,7 +158,7 @@ void ProjectReport::PrintChartSection(Printer& printer, ReportLines& lines) {
 }
 
 void ProjectReport::PrintDesignChart(Printer& printer, const clsRectangle_Integer& area) const {
-  chart_.PrintDesignChart(printer, area.Left, area.Top, area.Right, area.Bottom);
+  orvik::PrintDesignChart(printer, {*curves_, project_.StationName(), project_.point}, area);
 }
 
 }  // namespace orvik

@@ -4,23 +4,26 @@
 #include <string>
 #include <vector>
 
-#include "chart/ctrlStormwaterReuse.h"
+#include "chart/ChartPrinting.h"
+#include "design/Project.h"
 #include "platform/Desktop.h"
 #include "platform/Printer.h"
 #include "printing/ReportLines.h"
 #include "printing/clsPageControl.h"
-#include "project/ProjectForm.h"
 
 namespace orvik {
 
-// One document. The values are those that the form shows; nothing is recalculated.
+// What viewers and print queues call the report of the project.
+std::string ReportTitle(const Project& project);
+
+// One document. The values are those that the fields show; nothing is recalculated.
 class ProjectReport {
  public:
-  ProjectReport(ProjectForm& form, const ctrlStormwaterReuse& chart, Desktop& desktop)
-      : form_(form), chart_(chart), pages_(desktop) {}
-
-  // What viewers and print queues call the document.
-  std::string Title() const;
+  // `shown` is the message of the error bar, empty for none; `curves` are those of the project's
+  // station, null where none are loaded. All outlive this.
+  ProjectReport(const Project& project, const std::string& shown, const CurveSet* curves,
+                const ClockTime& time)
+      : project_(project), shown_(shown), curves_(curves), pages_(time) {}
 
   // Prepares the pages and prints the report. Ending the document is the caller's. Throws
   // PrinterError.
@@ -39,11 +42,12 @@ class ProjectReport {
   void PrintSolutionParameters(ReportLines& lines);
   void PrintChartSection(Printer& printer, ReportLines& lines);
   void PrintResultWords(ReportLines& lines);
-  std::vector<ReportRow> SlotRows();
+  std::vector<ReportRow> SlotRows() const;
   float ChartHeight() const;
 
-  ProjectForm& form_;
-  const ctrlStormwaterReuse& chart_;
+  const Project& project_;
+  const std::string& shown_;
+  const CurveSet* curves_;
   clsPageControl pages_;
 };
 

@@ -1,37 +1,28 @@
 #include "printing/ResultWords.h"
 
-#include "base/Text.h"
-#include "project/WithoutResults.h"
+#include "design/WithoutResults.h"
 
 namespace orvik {
 namespace {
 
-std::string Text(const ctrlMyTextBox& field) {
-  return std::string(Trim(field.Text()));
-}
-
-std::string SiteText(ProjectForm& form, SiteQuantity quantity) {
-  return Text(form.txtSolveFor(SlotOfQuantity(form.cmbSolveFor->ListIndex(), quantity)));
-}
-
-bool AllSlotsAreFilled(ProjectForm& form) {
+bool AllSlotsAreFilled(const Project& project) {
   for (int slot = 1; slot <= kSolveForSlots; ++slot) {
-    if (Text(form.txtSolveFor(slot)).empty()) return false;
+    if (project.Trimmed(SlotField(slot)).empty()) return false;
   }
   return true;
 }
 
-std::string Solution(ProjectForm& form) {
+std::string Solution(const Project& project) {
   const std::string efficiency =
-      SiteText(form, SiteQuantity::Efficiency) + " percent of the runoff";
-  const std::string storage = SiteText(form, SiteQuantity::StorageVolume) + " acre-feet";
-  const std::string rate = SiteText(form, SiteQuantity::ReuseRate) + " inches per week";
-  const std::string area = Text(form.txtIrrigationArea) + " acres";
-  switch (form.cmbSolveFor->ListIndex()) {
-    case SolveFor::kStorageVolume:
+      project.SiteText(SiteQuantity::Efficiency) + " percent of the runoff";
+  const std::string storage = project.SiteText(SiteQuantity::StorageVolume) + " acre-feet";
+  const std::string rate = project.SiteText(SiteQuantity::ReuseRate) + " inches per week";
+  const std::string area = project.Trimmed(Field::IrrigationArea) + " acres";
+  switch (project.mode) {
+    case SolveFor::StorageVolume:
       return "To use " + efficiency + " by irrigating " + area + " with " + rate +
              ", the pond must store " + storage + ".";
-    case SolveFor::kReuseRate:
+    case SolveFor::ReuseRate:
       return "To use " + efficiency + " from a pond that stores " + storage +
              ", irrigation must apply " + rate + " to " + area + ".";
     default:
@@ -42,14 +33,14 @@ std::string Solution(ProjectForm& form) {
 
 }  // namespace
 
-bool HasResult(ProjectForm& form, const ctrlStormwaterReuse& chart) {
-  return WhyWithoutResults(form, chart).empty() && AllSlotsAreFilled(form);
+bool HasResult(const Project& project, const std::string& shown) {
+  return WhyWithoutResults(project, shown).empty() && AllSlotsAreFilled(project);
 }
 
-std::string ResultInWords(ProjectForm& form, const ctrlStormwaterReuse& chart) {
-  if (HasResult(form, chart)) return Solution(form);
-  const std::string why = WhyWithoutResults(form, chart);
-  return "No result: " + (why.empty() ? "The project has not been calculated." : why);
+std::string ResultInWords(const Project& project, const std::string& shown) {
+  if (HasResult(project, shown)) return Solution(project);
+  const std::string why = WhyWithoutResults(project, shown);
+  return "No result: " + (why.empty() ? Sentence({MessageId::NotCalculated}) : why);
 }
 
 }  // namespace orvik

@@ -3,16 +3,16 @@
 
 #include <string>
 
-#include "chart/ctrlStormwaterReuse.h"
-#include "project/ProjectForm.h"
+#include "design/Project.h"
 
 namespace orvik {
 
 // One sentence that names every quantity with its unit in full and says which was found, or begins
-// with "No result:" and tells why. The numbers are the fields' own texts.
-std::string ResultInWords(ProjectForm& form, const ctrlStormwaterReuse& chart);
+// with "No result:" and tells why. The numbers are the fields' own texts; `shown` is the message of
+// the error bar.
+std::string ResultInWords(const Project& project, const std::string& shown);
 
 // True where the project is solved: every quantity of the site has its value.
-bool HasResult(ProjectForm& form, const ctrlStormwaterReuse& chart);
+bool HasResult(const Project& project, const std::string& shown);
 
 }  // namespace orvik

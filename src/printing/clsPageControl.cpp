@@ -44,8 +44,8 @@ std::string DateAndTime(const ClockTime& time) {
 
 }  // namespace
 
-clsPageControl::clsPageControl(Desktop& desktop)
-    : time_(desktop.Now()),
+clsPageControl::clsPageControl(const ClockTime& time)
+    : time_(time),
       versionText_(std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "." +
                    std::to_string(kBuildNumber)) {}
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "chart/PlotRecords.h"
+#include "engine/PlotRecords.h"
 #include "platform/Desktop.h"
 #include "platform/Printer.h"
 #include "printing/clsFont.h"
@@ -22,7 +22,7 @@ class clsPageControl {
   static constexpr int kFonts = 4;
 
   // All headers of a document tell the time of its beginning.
-  explicit clsPageControl(Desktop& desktop);
+  explicit clsPageControl(const ClockTime& time);
 
   // The report's fonts, numbered from 1: headings, small print, emphasis, body. Throws
   // SubscriptError.

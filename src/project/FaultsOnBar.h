@@ -3,8 +3,9 @@
 
 #include <utility>
 
-#include "controls/ctrlErrorMessageBar.h"
-#include "project/NumberInput.h"
+#include "base/RuntimeErrors.h"
+#include "design/NumberInput.h"
+#include "project/FormBinding.h"
 
 namespace orvik {
 
@@ -13,7 +14,7 @@ void ShowFaultsOnBar(ctrlErrorMessageBar& bar, Work&& work) {
   try {
     std::forward<Work>(work)();
   } catch (const NumericError& fault) {
-    bar.SetErrMsg(NumericFaultSentence(fault), 0);
+    ShowOnBar(bar, NumericFaultMessage(fault));
   }
 }
 

@@ -1,5 +1,8 @@
 #include "project/ModeChange.h"
 
+#include "chart/ctrlStormwaterReuse.h"
+#include "project/ProjectForm.h"
+
 namespace orvik {
 namespace {
 
@@ -11,13 +14,13 @@ void SetLocked(ctrlMyTextBox& field, bool locked) {
 }  // namespace
 
 void ModeChange::Apply() {
-  const std::int16_t mode = form_.cmbSolveFor->ListIndex();
+  const SolveFor mode = form_.Mode();
   const SiteTexts texts = TextsOfOldMode();
   const bool leavesSolution = IsTypedMode(mode_) && IsTypedMode(mode);
   mode_ = mode;
-  if (IsSolveForMode(mode)) FillSlots(mode, texts);
+  if (mode != SolveFor::None) FillSlots(mode, texts);
   SetLocks(mode);
-  const bool isInteractive = mode == SolveFor::kInteractive;
+  const bool isInteractive = mode == SolveFor::Interactive;
   chart_.InteractiveMode(ToBoolean16(isInteractive));
   // The normalized numbers still stand in their fields: the user finds the point where they were.
   const bool placed = isInteractive && interactive_.PlaceHotspotByNumbers();
@@ -27,21 +30,17 @@ void ModeChange::Apply() {
     interactive_.AnswerChange();
   } else {
     form_.txtErrMsg.Clear();
-    if (leavesSolution) EmptySolution();
+    // What another mode has solved is no solution of this one, which still lacks numbers.
+    if (leavesSolution) {
+      chart_.HideHotSpot();
+      binding_.Empty({Field::R, Field::E, Field::V});
+    }
   }
-}
-
-// What another mode has solved is no solution of this one, which still lacks numbers.
-void ModeChange::EmptySolution() {
-  chart_.HideHotSpot();
-  form_.txtR.Text("");
-  form_.txtE.Text("");
-  form_.txtV.Text("");
 }
 
 ModeChange::SiteTexts ModeChange::TextsOfOldMode() {
   SiteTexts texts;
-  if (!IsSolveForMode(mode_)) return texts;
+  if (mode_ == SolveFor::None) return texts;
   for (int slot = 1; slot <= kSolveForSlots; ++slot) {
     texts.at(static_cast<std::size_t>(QuantityInSlot(mode_, slot))) =
         form_.txtSolveFor(slot).Text();
@@ -49,7 +48,7 @@ ModeChange::SiteTexts ModeChange::TextsOfOldMode() {
   return texts;
 }
 
-void ModeChange::FillSlots(std::int16_t mode, const SiteTexts& texts) {
+void ModeChange::FillSlots(SolveFor mode, const SiteTexts& texts) {
   for (int slot = 1; slot <= kSolveForSlots; ++slot) {
     const SiteQuantity quantity = QuantityInSlot(mode, slot);
     const bool isGiven = IsTypedMode(mode) && slot < kSolveForSlots;
@@ -58,14 +57,14 @@ void ModeChange::FillSlots(std::int16_t mode, const SiteTexts& texts) {
   }
 }
 
-void ModeChange::SetLocks(std::int16_t mode) {
+void ModeChange::SetLocks(SolveFor mode) {
   SetLocked(form_.txtSolveFor(1), !IsTypedMode(mode));
   SetLocked(form_.txtSolveFor(2), !IsTypedMode(mode));
   SetLocked(form_.txtSolveFor(3), true);
-  const bool normalizedAreResults = mode != SolveFor::kInteractive;
-  SetLocked(form_.txtR, normalizedAreResults);
-  SetLocked(form_.txtE, normalizedAreResults);
-  SetLocked(form_.txtV, normalizedAreResults);
+  const bool normalizedAreResults = mode != SolveFor::Interactive;
+  for (const FieldDesign& field : Fields()) {
+    if (field.kind == FieldKind::Normalized) SetLocked(form_.Box(field.id), normalizedAreResults);
+  }
 }
 
 }  // namespace orvik

@@ -3,21 +3,24 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 
-#include "chart/ctrlStormwaterReuse.h"
+#include "design/SolveFor.h"
 #include "project/InteractiveSynchronisation.h"
-#include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
 
 namespace orvik {
 
 class ModeChange {
  public:
-  ModeChange(ProjectForm& form, ctrlStormwaterReuse& chart, SolveForWorkflow& workflow,
-             InteractiveSynchronisation& interactive)
-      : form_(form), chart_(chart), workflow_(workflow), interactive_(interactive) {}
+  // All outlive this.
+  ModeChange(ProjectForm& form, ctrlStormwaterReuse& chart, FormBinding& binding,
+             SolveForWorkflow& workflow, InteractiveSynchronisation& interactive)
+      : form_(form),
+        chart_(chart),
+        binding_(binding),
+        workflow_(workflow),
+        interactive_(interactive) {}
 
   // cmbSolveFor shows another mode than before. Recalculates where all data are there. Throws
   // NumericError.
@@ -27,15 +30,15 @@ class ModeChange {
   using SiteTexts = std::array<std::string, kSiteQuantities>;  // by SiteQuantity
 
   SiteTexts TextsOfOldMode();
-  void FillSlots(std::int16_t mode, const SiteTexts& texts);
-  void SetLocks(std::int16_t mode);
-  void EmptySolution();
+  void FillSlots(SolveFor mode, const SiteTexts& texts);
+  void SetLocks(SolveFor mode);
 
   ProjectForm& form_;
   ctrlStormwaterReuse& chart_;
+  FormBinding& binding_;
   SolveForWorkflow& workflow_;
   InteractiveSynchronisation& interactive_;
-  std::int16_t mode_ = -1;  // the mode that the slots are filled for; -1 none
+  SolveFor mode_ = SolveFor::None;  // the mode that the slots are filled for
 };
 
 }  // namespace orvik

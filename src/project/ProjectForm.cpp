@@ -1,35 +1,40 @@
 #include "project/ProjectForm.h"
 
+#include <utility>
+
 namespace orvik {
+namespace {
+
+template <std::size_t... I>
+std::array<ctrlMyTextBox, kFields> MakeBoxes(Toolkit& toolkit, std::index_sequence<I...>) {
+  return {ctrlMyTextBox(toolkit, Fields()[I].control)...};
+}
+
+std::unique_ptr<ComboBox> MakeList(Toolkit& toolkit, ListField list) {
+  return toolkit.MakeComboBox(DesignOf(list).control);
+}
+
+std::unique_ptr<Label> MakeSlotLabel(Toolkit& toolkit, int slot) {
+  return toolkit.MakeLabel(DesignOf(SlotField(slot)).label);
+}
+
+}  // namespace
 
 ProjectForm::ProjectForm(Toolkit& toolkit, Desktop& desktop)
     : window(toolkit.MakeWindow("Form1")),
       picProject(toolkit.MakePanel("picProject")),
       picData(toolkit.MakePanel("picData")),
-      txtProjectName(toolkit, "txtProjectName"),
-      txtDescription(toolkit, "txtDescription"),
-      txtProjectNumber(toolkit, "txtProjectNumber"),
-      txtEngineer(toolkit, "txtEngineer"),
-      txtSuervisingEngineer(toolkit, "txtSuervisingEngineer"),
-      txtDate(toolkit, "txtDate"),
-      txtBasinArea(toolkit, "txtBasinArea"),
-      txtRunoffCoefficient(toolkit, "txtRunoffCoefficient"),
-      txtEquivalentImperviousArea(toolkit, "txtEquivalentImperviousArea"),
-      txtIrrigationArea(toolkit, "txtIrrigationArea"),
-      cmbClimateStation(toolkit.MakeComboBox("cmbClimateStation")),
-      cmbSolveFor(toolkit.MakeComboBox("cmbSolveFor")),
-      txtR(toolkit, "txtR"),
-      txtE(toolkit, "txtE"),
-      txtV(toolkit, "txtV"),
+      cmbClimateStation(MakeList(toolkit, ListField::ClimateStation)),
+      cmbSolveFor(MakeList(toolkit, ListField::SolveForMode)),
       txtErrMsg(toolkit, desktop, "txtErrMsg"),
-      solveForTexts_{ctrlMyTextBox(toolkit, "txtSolveFor(1)"),
-                     ctrlMyTextBox(toolkit, "txtSolveFor(2)"),
-                     ctrlMyTextBox(toolkit, "txtSolveFor(3)")},
-      solveForLabels_{toolkit.MakeLabel("lblSolveFor(1)"), toolkit.MakeLabel("lblSolveFor(2)"),
-                      toolkit.MakeLabel("lblSolveFor(3)")} {
+      boxes_(MakeBoxes(toolkit, std::make_index_sequence<kFields>())),
+      slotLabels_{MakeSlotLabel(toolkit, 1), MakeSlotLabel(toolkit, 2), MakeSlotLabel(toolkit, 3)} {
   picProject->Visible(false);
-  txtEquivalentImperviousArea.Locked(true);
-  txtEquivalentImperviousArea.BackColor(kButtonFace);
+  for (const FieldDesign& field : Fields()) {
+    if (field.kind != FieldKind::Result) continue;
+    Box(field.id).Locked(true);
+    Box(field.id).BackColor(kButtonFace);
+  }
 }
 
 }  // namespace orvik

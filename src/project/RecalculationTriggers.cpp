@@ -1,7 +1,10 @@
 #include "project/RecalculationTriggers.h"
 
 #include "base/NumberText.h"
+#include "chart/ctrlStormwaterReuse.h"
+#include "design/OutcomeMessage.h"
 #include "project/FaultsOnBar.h"
+#include "project/ProjectForm.h"
 
 namespace orvik {
 namespace {
@@ -22,24 +25,24 @@ void OnEnter(ctrlMyTextBox& field, Work work) {
 }  // namespace
 
 RecalculationTriggers::RecalculationTriggers(ProjectForm& form, ctrlStormwaterReuse& chart,
+                                             Desktop& desktop, FormBinding& binding,
                                              SolveForWorkflow& workflow,
                                              InteractiveSynchronisation& interactive)
     : form_(form),
       chart_(chart),
+      desktop_(desktop),
+      binding_(binding),
       workflow_(workflow),
       interactive_(interactive),
-      modeChange_(form, chart, workflow, interactive),
-      entries_{{{form.txtBasinArea, &RecalculationTriggers::txtBasinArea_Process_CR},
-                {form.txtRunoffCoefficient, &RecalculationTriggers::txtBasinArea_Process_CR},
-                {form.txtIrrigationArea, &RecalculationTriggers::txtIrrigation_Process_CR},
-                {form.txtSolveFor(1), &RecalculationTriggers::txtSolveFor_Process_CR},
-                {form.txtSolveFor(2), &RecalculationTriggers::txtSolveFor_Process_CR},
-                {form.txtSolveFor(3), &RecalculationTriggers::txtSolveFor_Process_CR}}} {
+      modeChange_(form, chart, binding, workflow, interactive),
+      entries_(EntriesOf(form)) {
   for (Entry& entry : entries_) Watch(entry);
   // The normalized numbers can be typed in the interactive mode: Enter places the hotspot by them.
-  for (ctrlMyTextBox* field : {&form_.txtR, &form_.txtE, &form_.txtV}) {
-    OnEnter(*field, [this, field] {
-      if (field->Locked()) return;
+  for (const FieldDesign& design : Fields()) {
+    if (design.kind != FieldKind::Normalized) continue;
+    ctrlMyTextBox& field = form_.Box(design.id);
+    OnEnter(field, [this, &field] {
+      if (field.Locked()) return;
       ShowFaultsOnBar(form_.txtErrMsg, [this] { PlacePoint(); });
     });
   }
@@ -52,12 +55,20 @@ RecalculationTriggers::RecalculationTriggers(ProjectForm& form, ctrlStormwaterRe
   workflow_.OnRecalculated = [this] { ForgetChanges(); };
 }
 
+std::vector<RecalculationTriggers::Entry> RecalculationTriggers::EntriesOf(ProjectForm& form) {
+  std::vector<Entry> entries;
+  for (const FieldDesign& field : Fields()) {
+    if (field.kind != FieldKind::Number && field.kind != FieldKind::Slot) continue;
+    const bool definesEIA = field.id == Field::BasinArea || field.id == Field::RunoffCoefficient;
+    entries.push_back({form.Box(field.id), definesEIA});
+  }
+  return entries;
+}
+
 void RecalculationTriggers::Watch(Entry& entry) {
-  const bool definesEIA =
-      &entry.field == &form_.txtBasinArea || &entry.field == &form_.txtRunoffCoefficient;
-  entry.field.OnChange = [this, &entry, definesEIA] {
+  entry.field.OnChange = [this, &entry] {
     entry.changed = !entry.field.Locked();  // a locked field shows results; nobody typed there
-    if (definesEIA) workflow_.UpdateEquivalentImperviousArea();
+    if (entry.definesEIA) workflow_.UpdateEquivalentImperviousArea();
   };
   OnEnter(entry.field, [this, &entry] { Process(entry); });
   entry.field.OnLeave = [this, &entry] {
@@ -75,7 +86,7 @@ void RecalculationTriggers::ProcessChanges() {
 // process it again.
 void RecalculationTriggers::Process(Entry& entry) {
   entry.changed = false;
-  (this->*entry.process)();
+  Process_CR();
 }
 
 void RecalculationTriggers::Process_CR() {
@@ -99,13 +110,12 @@ void RecalculationTriggers::PlacePoint() {
 // the site values go.
 void RecalculationTriggers::ResetSolution() {
   form_.txtErrMsg.Clear();
-  form_.txtSolveFor(3).Text("");
-  if (form_.cmbSolveFor->ListIndex() == SolveFor::kInteractive) {
-    form_.txtSolveFor(1).Text("");
-    form_.txtSolveFor(2).Text("");
+  binding_.Empty({Field::SolveFor3});
+  if (form_.Mode() == SolveFor::Interactive) {
+    binding_.Empty({Field::SolveFor1, Field::SolveFor2});
   } else {
     chart_.HideHotSpot();
-    EmptyNormalized();
+    binding_.Empty({Field::R, Field::E, Field::V});
   }
   ForgetChanges();
 }
@@ -113,12 +123,11 @@ void RecalculationTriggers::ResetSolution() {
 // In the interactive mode the design point keeps its R and V on the curves of the other station,
 // and gets its efficiency from them.
 void RecalculationTriggers::ChangeStation() {
-  const bool keepsPoint = form_.cmbSolveFor->ListIndex() == SolveFor::kInteractive &&
-                          chart_.HotSpotVisibile() != kFalse16;
+  const bool keepsPoint = form_.Mode() == SolveFor::Interactive && chart_.Point().isShown;
   const bool showsNumbers = keepsPoint && interactive_.HotspotShowsNumbers();
-  const double R = chart_.HotspotR();
-  const double V = chart_.HotspotV();
-  chart_.SetCurveData(static_cast<std::int16_t>(form_.cmbClimateStation->ListIndex() + 1));
+  const double R = chart_.Point().R;
+  const double V = chart_.Point().V;
+  LoadCurves();
   if (!chart_.IsLoaded()) {
     chart_.HideHotSpot();
   } else if (keepsPoint) {
@@ -126,14 +135,17 @@ void RecalculationTriggers::ChangeStation() {
     chart_.SetHotspotUsing_RV(ToShortestText(R), ToShortestText(V), E);
   }
   if (showsNumbers && !workflow_.IsDataDefined()) return interactive_.AnswerChange();
-  if (showsNumbers) EmptyNormalized();  // the recalculation fills them from the hotspot
+  // The recalculation fills them from the hotspot.
+  if (showsNumbers) binding_.Empty({Field::R, Field::E, Field::V});
   Process_CR();
 }
 
-void RecalculationTriggers::EmptyNormalized() {
-  form_.txtR.Text("");
-  form_.txtE.Text("");
-  form_.txtV.Text("");
+void RecalculationTriggers::LoadCurves() {
+  const auto station = static_cast<std::int16_t>(form_.cmbClimateStation->ListIndex() + 1);
+  const LoadOutcome outcome = chart_.SetCurveData(station);
+  const Message message = MessageOf(outcome, chart_.CurveFolder(), station);
+  if (message.id == MessageId::None) return;
+  desktop_.ShowMessage(Sentence(message), "Error", MessageIcon::Exclamation);
 }
 
 void RecalculationTriggers::ChangeMode() {

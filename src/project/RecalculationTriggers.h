@@ -2,12 +2,12 @@
 // another mode.
 #pragma once
 
-#include <array>
+#include <vector>
 
-#include "chart/ctrlStormwaterReuse.h"
+#include "controls/ctrlMyTextBox.h"
+#include "platform/Desktop.h"
 #include "project/InteractiveSynchronisation.h"
 #include "project/ModeChange.h"
-#include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
 
 namespace orvik {
@@ -15,17 +15,19 @@ namespace orvik {
 // Takes over the events of the form's fields and lists.
 class RecalculationTriggers {
  public:
-  RecalculationTriggers(ProjectForm& form, ctrlStormwaterReuse& chart, SolveForWorkflow& workflow,
+  // All outlive this. `desktop` shows why a station's curves could not be loaded.
+  RecalculationTriggers(ProjectForm& form, ctrlStormwaterReuse& chart, Desktop& desktop,
+                        FormBinding& binding, SolveForWorkflow& workflow,
                         InteractiveSynchronisation& interactive);
   RecalculationTriggers(const RecalculationTriggers&) = delete;
   RecalculationTriggers& operator=(const RecalculationTriggers&) = delete;
   ~RecalculationTriggers() = default;
 
-  // What Enter does in the fields: recalculates where all data are there; otherwise takes the shown
-  // solution away, which is no longer that of the fields.
-  void txtBasinArea_Process_CR() { Process_CR(); }  // serves the runoff coefficient too
-  void txtIrrigation_Process_CR() { Process_CR(); }
-  void txtSolveFor_Process_CR() { Process_CR(); }
+  // What Enter does in the fields of the basin, the irrigation area and the solve-for slots
+  // (txtBasinArea_Process_CR, txtIrrigation_Process_CR and txtSolveFor_Process_CR in one):
+  // recalculates where all data are there; otherwise takes the shown solution away, which is no
+  // longer that of the fields.
+  void Process_CR();
 
   // What stands in the fields was not typed there: leaving them calls for nothing.
   void ForgetChanges();
@@ -37,25 +39,27 @@ class RecalculationTriggers {
   // A field whose change calls for a recalculation.
   struct Entry {
     ctrlMyTextBox& field;
-    void (RecalculationTriggers::*process)();
+    bool definesEIA;
     bool changed = false;  // since the last recalculation
   };
 
+  static std::vector<Entry> EntriesOf(ProjectForm& form);
   void Watch(Entry& entry);
   void Process(Entry& entry);
-  void Process_CR();
   void PlacePoint();
   void ChangeStation();
+  void LoadCurves();
   void ChangeMode();
   void ResetSolution();
-  void EmptyNormalized();
 
   ProjectForm& form_;
   ctrlStormwaterReuse& chart_;
+  Desktop& desktop_;
+  FormBinding& binding_;
   SolveForWorkflow& workflow_;
   InteractiveSynchronisation& interactive_;
   ModeChange modeChange_;
-  std::array<Entry, 6> entries_;
+  std::vector<Entry> entries_;  // never grows: the fields' events refer to them
 };
 
 }  // namespace orvik

@@ -36,12 +36,11 @@ Spoken SpokenChart(const ctrlStormwaterReuse& chart) {
   return {"Design chart of " + chart.StationName(), PointSentence(chart)};
 }
 
-void CopyChart(ctrlStormwaterReuse& chart, Desktop& desktop) {
+void CopyChart(const ctrlStormwaterReuse& chart, Desktop& desktop) {
   if (!chart.IsLoaded()) return;
   const bool isCopied = desktop.CopyToClipboard({ChartPointText(chart), chart.ControlSize(),
                                                  [&](Surface& surface) { chart.Paint(surface); }});
   if (!isCopied) desktop.Beep();
-  chart.Refresh();  // painting counts as removing a highlight, which the screen still shows
 }
 
 }  // namespace orvik

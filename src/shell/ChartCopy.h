@@ -18,6 +18,6 @@ Spoken SpokenChart(const ctrlStormwaterReuse& chart);
 
 // Puts the chart on the clipboard as picture and text. Nothing while no curves are loaded; a
 // beep where the clipboard cannot be had.
-void CopyChart(ctrlStormwaterReuse& chart, Desktop& desktop);
+void CopyChart(const ctrlStormwaterReuse& chart, Desktop& desktop);
 
 }  // namespace orvik

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "project/SolveForMode.h"
+#include "design/SolveFor.h"
 #include "shell/MainWindowTable.h"
 
 namespace orvik {
@@ -120,8 +120,8 @@ class Layout {
   // --- Project page ---
 
   int RowHeight(const FieldRow& row) const {
-    return row.field == "txtDescription" ? kDescriptionLines * m_.lineHeight + S(kFieldPadding)
-                                         : FieldHeight();
+    return row.kind == FieldKind::Wrapped ? kDescriptionLines * m_.lineHeight + S(kFieldPadding)
+                                          : FieldHeight();
   }
 
   int ProjectHeight() const {
@@ -141,7 +141,7 @@ class Layout {
     int top = S(kMargin) + S(kRowGapMost);
     for (const FieldRow& row : ProjectRows()) {
       PlaceText(row.label.name, margin, margin + labelWidth, top);
-      if (row.field == "txtDate") {
+      if (row.kind == FieldKind::Date) {
         LayOutDate(left, top);
       } else {
         Place(row.field, {left, top, right, top + RowHeight(row)});

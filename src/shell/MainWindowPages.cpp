@@ -82,7 +82,7 @@ void MainWindowPages::MarkPage(std::int16_t page) {
 }
 
 void MainWindowPages::cmdToday_Click() {
-  form_.txtDate.Text(MonthDayYear(desktop_.Today()));
+  form_.Box(Field::Date).Text(MonthDayYear(desktop_.Today()));
 }
 
 }  // namespace orvik

@@ -1,59 +1,68 @@
 #include "shell/MainWindowTable.h"
 
+#include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace orvik {
 namespace {
 
-constexpr std::array kProjectRows = {
-    FieldRow{{"lblProject", "Project &name"}, "txtProjectName", {}},
-    FieldRow{{"lblDescription", "Descr&iption"}, "txtDescription", {}},
-    FieldRow{{"lblProjectNumber", "Project n&umber"}, "txtProjectNumber", {}},
-    FieldRow{{"lblEngineer", "&Engineer"}, "txtEngineer", {}},
-    FieldRow{{"lblSupervisingEngineer", "Super&vising engineer"}, "txtSuervisingEngineer", {}},
-    FieldRow{{"lblDate", "D&ate"}, "txtDate", {}},
+FieldRow RowOf(Field id) {
+  const FieldDesign& field = DesignOf(id);
+  FieldRow row{{field.label, field.caption}, field.control, {}, field.kind};
+  if (!field.unit.empty()) row.unit = {field.unitLabel, field.unit};
+  return row;
+}
+
+FieldRow RowOf(ListField id) {
+  const ListDesign& list = DesignOf(id);
+  return {{list.label, list.caption}, list.control, {}};
+}
+
+std::vector<FieldRow> MakeProjectRows() {
+  std::vector<FieldRow> rows;
+  for (const FieldDesign& field : Fields()) {
+    if (field.page == FieldPage::Project) rows.push_back(RowOf(field.id));
+  }
+  return rows;
+}
+
+// A list, where the part begins with one, and the fields of some kinds below it.
+std::vector<FieldRow> MakeDataRows(std::optional<ListField> list,
+                                   std::initializer_list<FieldKind> kinds) {
+  std::vector<FieldRow> rows;
+  if (list) rows.push_back(RowOf(*list));
+  for (const FieldDesign& field : Fields()) {
+    if (std::ranges::find(kinds, field.kind) != kinds.end()) rows.push_back(RowOf(field.id));
+  }
+  return rows;
+}
+
+struct Rows {
+  std::vector<FieldRow> project = MakeProjectRows();
+  std::vector<FieldRow> site =
+      MakeDataRows(ListField::ClimateStation, {FieldKind::Number, FieldKind::Result});
+  // The captions of the three slots name their units and change with the mode.
+  std::vector<FieldRow> solve = MakeDataRows(ListField::SolveForMode, {FieldKind::Slot});
+  std::vector<FieldRow> normalized = MakeDataRows(std::nullopt, {FieldKind::Normalized});
+  std::array<FieldGroup, 3> groups{
+      FieldGroup{{"lblSiteHeading", "Basin and site"}, site},
+      FieldGroup{{"lblSolveForHeading", "Design"}, solve},
+      FieldGroup{{"lblNormalizedHeading", "Normalized on the EIA"}, normalized},
+  };
 };
 
-constexpr std::array kSiteRows = {
-    FieldRow{{"lblClimateStation", "Climate st&ation"}, "cmbClimateStation", {}},
-    FieldRow{{"lblBasinArea", "&Basin area"}, "txtBasinArea", {"lblBasinAreaUnit", "acres"}},
-    FieldRow{{"lblRunoffCoefficient", "Runoff c&oefficient"},
-             "txtRunoffCoefficient",
-             {"lblRunoffCoefficientUnit", "0 to 1"}},
-    FieldRow{{"lblEquivalentImperviousArea", "E&quivalent impervious area"},
-             "txtEquivalentImperviousArea",
-             {"lblEquivalentImperviousAreaUnit", "acres (EIA)"}},
-    FieldRow{{"lblIrrigationArea", "Irri&gation area"},
-             "txtIrrigationArea",
-             {"lblIrrigationAreaUnit", "acres"}},
-};
-
-// The captions of the three slots name their units and change with the mode.
-constexpr std::array kSolveRows = {
-    FieldRow{{"lblSolveForMode", "So&lve for"}, "cmbSolveFor", {}},
-    FieldRow{{"lblSolveFor(1)", {}}, "txtSolveFor(1)", {}},
-    FieldRow{{"lblSolveFor(2)", {}}, "txtSolveFor(2)", {}},
-    FieldRow{{"lblSolveFor(3)", {}}, "txtSolveFor(3)", {}},
-};
-
-constexpr std::array kNormalizedRows = {
-    FieldRow{{"lblR", "Reuse ra&te R"}, "txtR", {"lblRUnit", "in/day"}},
-    FieldRow{{"lblE", "&Efficiency E"}, "txtE", {"lblEUnit", "%"}},
-    FieldRow{{"lblV", "Storage &volume V"}, "txtV", {"lblVUnit", "in"}},
-};
-
-constexpr std::array kDataGroups = {
-    FieldGroup{{"lblSiteHeading", "Basin and site"}, kSiteRows},
-    FieldGroup{{"lblSolveForHeading", "Design"}, kSolveRows},
-    FieldGroup{{"lblNormalizedHeading", "Normalized on the EIA"}, kNormalizedRows},
-};
+const Rows& AllRows() {
+  static const Rows rows;
+  return rows;
+}
 
 // It names the bar to a screen reader, which would take the last text before it otherwise.
 constexpr FieldRow kMessageRow{{"lblErrMsg", "Message"}, "txtErrMsg", {}};
 
 void AddRow(std::vector<WidgetDesign>& widgets, std::string_view page, const FieldRow& row) {
   widgets.push_back({row.label.name, page});
-  const bool isWrapped = row.field == "txtDescription";
+  const bool isWrapped = row.kind == FieldKind::Wrapped;
   widgets.push_back({row.field, page, isWrapped ? WidgetStyle::Wrapped : WidgetStyle::Plain});
   if (!row.unit.name.empty()) widgets.push_back({row.unit.name, page});
 }
@@ -91,10 +100,10 @@ constexpr std::array kMenus = {
 std::vector<WidgetDesign> MakeWidgets() {
   std::vector<WidgetDesign> widgets(kToolbar.begin(), kToolbar.end());
   widgets.push_back({"picProject", ""});
-  for (const FieldRow& row : kProjectRows) AddRow(widgets, "picProject", row);
+  for (const FieldRow& row : ProjectRows()) AddRow(widgets, "picProject", row);
   widgets.push_back({"cmdToday", "picProject"});
   widgets.push_back({"picData", ""});
-  for (const FieldGroup& group : kDataGroups) {
+  for (const FieldGroup& group : DataGroups()) {
     widgets.push_back({group.heading.name, "picData", WidgetStyle::Heading});
     for (const FieldRow& row : group.rows) AddRow(widgets, "picData", row);
   }
@@ -110,8 +119,8 @@ std::vector<LabelDesign> MakeLabels() {
   const auto add = [&](const LabelDesign& label) {
     if (!label.caption.empty()) labels.push_back(label);
   };
-  for (const FieldRow& row : kProjectRows) add(row.label);
-  for (const FieldGroup& group : kDataGroups) {
+  for (const FieldRow& row : ProjectRows()) add(row.label);
+  for (const FieldGroup& group : DataGroups()) {
     add(group.heading);
     for (const FieldRow& row : group.rows) {
       add(row.label);
@@ -125,11 +134,11 @@ std::vector<LabelDesign> MakeLabels() {
 }  // namespace
 
 std::span<const FieldRow> ProjectRows() {
-  return kProjectRows;
+  return AllRows().project;
 }
 
 std::span<const FieldGroup> DataGroups() {
-  return kDataGroups;
+  return AllRows().groups;
 }
 
 const FieldRow& MessageRow() {

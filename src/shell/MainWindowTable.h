@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "design/Fields.h"
 #include "platform/FormDesign.h"
 
 namespace orvik {
@@ -21,6 +22,7 @@ struct FieldRow {
   LabelDesign label;
   std::string_view field;
   LabelDesign unit;
+  FieldKind kind = FieldKind::Text;  // of a list or the message bar: no matter
 };
 
 // The project page, from top to bottom.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Paths.h"
+#include "design/Messages.h"
 #include "shell/MainWindowTable.h"
 
 namespace orvik {
@@ -48,10 +49,10 @@ void MessageHelp::cmdErrorHelp_Click() {
     case PageOpening::Opened:
       return;
     case PageOpening::NoProgram:
-      return desktop_.ShowMessage("Could not find default browser.", "Error",
+      return desktop_.ShowMessage(Sentence({MessageId::NoBrowser}), "Error",
                                   MessageIcon::Exclamation);
     case PageOpening::Failed:
-      return desktop_.ShowMessage("File could not be opened.", "URL Failed",
+      return desktop_.ShowMessage(Sentence({MessageId::PageNotOpened}), "URL Failed",
                                   MessageIcon::Exclamation);
   }
 }

@@ -4,7 +4,7 @@
 #include <StReuse.h>
 
 #include "entry/com/DispatchObject.h"
-#include "files/clsIOStream.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik::com {
 

@@ -1,0 +1,43 @@
+#include "design/Messages.h"
+
+#include <array>
+
+namespace orvik {
+namespace {
+
+struct Row {
+  std::int16_t topic;
+  std::string_view sentence;
+};
+
+constexpr std::array kRows{
+    Row{0, {}},  // None
+#define ORVIK_MESSAGE(id, topic, sentence) Row{topic, sentence},
+#include "design/Messages.def"
+#undef ORVIK_MESSAGE
+};
+
+constexpr std::string_view kPlace = "{}";
+
+const Row& RowOf(MessageId id) {
+  return kRows.at(static_cast<std::size_t>(id));
+}
+
+}  // namespace
+
+std::string Sentence(const Message& message) {
+  std::string sentence(RowOf(message.id).sentence);
+  const std::size_t place = sentence.find(kPlace);
+  if (place != std::string::npos) sentence.replace(place, kPlace.size(), message.value);
+  return sentence;
+}
+
+std::string_view SentencePattern(MessageId id) {
+  return RowOf(id).sentence;
+}
+
+std::int16_t HelpTopic(MessageId id) {
+  return RowOf(id).topic;
+}
+
+}  // namespace orvik

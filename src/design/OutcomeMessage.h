@@ -1,0 +1,20 @@
+// How an outcome of the solver is told to the user.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "design/Messages.h"
+#include "engine/CurveLoading.h"
+#include "engine/Outcome.h"
+
+namespace orvik {
+
+// `efficiency` is the E that was asked for, as the user wrote it.
+Message MessageOf(const Outcome& outcome, std::string_view efficiency = {});
+
+// Why the curves of a station (1...25) could not be loaded from the folder; MessageId::None where
+// they were, and for a file that is damaged: the window is silent there.
+Message MessageOf(LoadOutcome outcome, std::string_view folder, std::int16_t station);
+
+}  // namespace orvik

@@ -1,0 +1,47 @@
+// A project as a value: what stands in its fields, as texts, and where its design point lies.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "design/DesignPoint.h"
+#include "design/Fields.h"
+#include "design/SolveFor.h"
+
+namespace orvik {
+
+// The list index of a project without a climate station. Others count from 0 in the order of the
+// table of stations.
+inline constexpr std::int16_t kNoStation = -1;
+
+struct Project {
+  std::array<std::string, kFields> texts;  // by Field
+  std::int16_t station = kNoStation;
+  SolveFor mode = SolveFor::Interactive;
+  bool takesPointByHand = true;  // the chart lets the user place the point
+  DesignPoint point;
+
+  const std::string& Text(Field field) const { return texts[static_cast<std::size_t>(field)]; }
+  std::string& Text(Field field) { return texts[static_cast<std::size_t>(field)]; }
+
+  // What the field shows, without the blanks around it.
+  std::string Trimmed(Field field) const;
+
+  // Where nothing else is said, the mode tells whether the user places the point.
+  void Mode(SolveFor chosen) {
+    mode = chosen;
+    takesPointByHand = chosen == SolveFor::Interactive;
+  }
+
+  // The text of a quantity of the site, without the blanks around it; empty without a mode.
+  std::string SiteText(SiteQuantity quantity) const;
+
+  // The station's name; empty where none is chosen.
+  std::string StationName() const;
+
+  // The item of the list of modes; empty where none is chosen.
+  std::string ModeName() const;
+};
+
+}  // namespace orvik

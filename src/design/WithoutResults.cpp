@@ -1,0 +1,14 @@
+#include "design/WithoutResults.h"
+
+namespace orvik {
+
+std::string WhyWithoutResults(const Project& project, const std::string& shown) {
+  if (!shown.empty()) return shown;
+  if (project.mode == SolveFor::None) return Sentence({MessageId::NoModeChosen});
+  if (project.mode == SolveFor::Interactive && !project.point.isShown) {
+    return Sentence({MessageId::NoPointPlaced});
+  }
+  return {};
+}
+
+}  // namespace orvik

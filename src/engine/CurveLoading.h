@@ -1,0 +1,36 @@
+// Loads a station's design curves from the folder of curve files.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "engine/CurveSet.h"
+
+namespace orvik {
+
+enum class LoadOutcome : std::uint8_t {
+  Loaded,
+  FolderMissing,
+  FileMissing,
+  Cleared,     // no station was asked for
+  Unreadable,  // the file cannot be opened, or cannot be used
+};
+
+struct LoadedCurves {
+  LoadOutcome outcome = LoadOutcome::Unreadable;
+  std::shared_ptr<const CurveSet> curves;  // null unless Loaded
+};
+
+// The folder of curve files below a data folder that ends with a path separator; so does the
+// result.
+std::string CurveFolderBelow(const std::string& dataFolder);
+
+// The station's curve file in a folder that ends with a path separator.
+std::string CurveFilePath(const std::string& folder, std::int16_t station);
+
+// Reads the curve file of a station (1...25; SubscriptError otherwise) in a folder that ends with a
+// path separator.
+LoadedCurves LoadStationCurves(const std::string& folder, std::int16_t station);
+
+}  // namespace orvik

@@ -1,0 +1,158 @@
+#include "files/ProjectText.h"
+
+#include <string_view>
+#include <utility>
+
+#include "base/NumberText.h"
+#include "base/Text.h"
+
+namespace orvik {
+namespace {
+
+constexpr std::string_view kMagic = "KAV3.3.01";
+constexpr std::string_view kTitle = "ORVIK Stormwater Harvesting Module";
+constexpr std::size_t kMagicPrefix = 7;    // "KAV3.3.": the rest is the file's version
+constexpr std::size_t kVersionDigits = 2;  // at the end of the line
+constexpr double kFileVersion = 1;
+
+// --- Writing ---
+
+bool WriteLine(clsIOStream& stream, std::string_view value) {
+  return stream.WriteString(Trim(FoldLineEnds(value)));
+}
+
+// The fields of one kind of line, in the table's order.
+template <typename Selects>
+bool WriteFields(clsIOStream& stream, const Project& project, Selects selects) {
+  for (const FieldDesign& field : Fields()) {
+    if (selects(field) && !WriteLine(stream, project.Text(field.id))) return false;
+  }
+  return true;
+}
+
+bool IsDescription(const FieldDesign& field) {
+  return field.IsDescription();
+}
+
+bool IsSiteNumber(const FieldDesign& field) {
+  return field.kind == FieldKind::Number;
+}
+
+bool WriteHotspot(clsIOStream& stream, const DesignPoint& point) {
+  if (!point.isShown) return WriteLine(stream, "0");
+  return WriteLine(stream, "1") && WriteLine(stream, ToShortestText(SingleR(point))) &&
+         WriteLine(stream, ToShortestText(SingleV(point)));
+}
+
+// --- Reading ---
+
+// A file never reports a failed read; so the end is asked for first.
+bool ReadLine(clsIOStream& stream, std::string& line) {
+  return !stream.EndOfFile() && stream.ScanString(line);
+}
+
+bool SkipLine(clsIOStream& stream) {
+  std::string ignored;
+  return ReadLine(stream, ignored);
+}
+
+bool ReadWholeNumber(clsIOStream& stream, std::optional<std::int16_t>& number) {
+  std::string line;
+  if (ReadLine(stream, line)) number = ParseWholeNumber(line);
+  return number.has_value();
+}
+
+class Reader {
+ public:
+  explicit Reader(clsIOStream& stream) : stream_(stream) {}
+
+  ProjectReading Read() {
+    reading_.isWhole =
+        ReadMagic() && SkipLine(stream_) && ReadFields(IsDescription) && ReadSite() && ReadDesign();
+    return std::move(reading_);
+  }
+
+ private:
+  bool ReadMagic() {
+    std::string line;
+    if (!ReadLine(stream_, line)) return false;
+    const std::string_view magic = Trim(line);
+    if (!magic.starts_with(kMagic.substr(0, kMagicPrefix))) {
+      return Refuse(MessageId::NotAProjectFile);
+    }
+    const std::string_view version = magic.substr(magic.size() - kVersionDigits);
+    if (!IsNumericText(version) || ParseNumber(version) != kFileVersion) {
+      return Refuse(MessageId::InvalidFileVersion);
+    }
+    return true;
+  }
+
+  bool Refuse(MessageId message) {
+    reading_.refusal = {message};
+    return false;
+  }
+
+  bool ReadField(Field field) {
+    std::string line;
+    if (!ReadLine(stream_, line)) return false;
+    reading_.texts[static_cast<std::size_t>(field)] = std::move(line);
+    return true;
+  }
+
+  template <typename Selects>
+  bool ReadFields(Selects selects) {
+    for (const FieldDesign& field : Fields()) {
+      if (selects(field) && !ReadField(field.id)) return false;
+    }
+    return true;
+  }
+
+  // The station's name is there for people who read the file.
+  bool ReadSite() {
+    return ReadWholeNumber(stream_, reading_.station) && SkipLine(stream_) &&
+           ReadWholeNumber(stream_, reading_.mode) && ReadFields(IsSiteNumber);
+  }
+
+  bool ReadDesign() {
+    const SolveFor mode = reading_.Mode();
+    if (mode == SolveFor::Interactive) return ReadHotspot();
+    if (!IsTypedMode(mode)) return true;
+    return ReadField(Field::SolveFor1) && ReadField(Field::SolveFor2);
+  }
+
+  bool ReadHotspot() {
+    std::optional<std::int16_t> isShown;
+    if (!ReadWholeNumber(stream_, isShown)) return false;
+    if (*isShown == 0) return true;
+    StoredPoint point;
+    if (!ReadLine(stream_, point.R) || !ReadLine(stream_, point.V)) return false;
+    reading_.point = std::move(point);
+    return true;
+  }
+
+  clsIOStream& stream_;
+  ProjectReading reading_;
+};
+
+}  // namespace
+
+bool WriteProject(clsIOStream& stream, const Project& project) {
+  if (!WriteLine(stream, kMagic) || !WriteLine(stream, kTitle) ||
+      !WriteFields(stream, project, IsDescription) ||
+      !WriteLine(stream, std::to_string(project.station)) ||
+      !WriteLine(stream, project.StationName()) ||
+      !WriteLine(stream, std::to_string(IndexOf(project.mode))) ||
+      !WriteFields(stream, project, IsSiteNumber)) {
+    return false;
+  }
+  if (project.mode == SolveFor::Interactive) return WriteHotspot(stream, project.point);
+  if (!IsTypedMode(project.mode)) return true;
+  return WriteLine(stream, project.Text(Field::SolveFor1)) &&
+         WriteLine(stream, project.Text(Field::SolveFor2));
+}
+
+ProjectReading ReadProject(clsIOStream& stream) {
+  return Reader(stream).Read();
+}
+
+}  // namespace orvik

@@ -1,0 +1,52 @@
+// The project as text, one value per line.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "design/Project.h"
+#include "stream/clsIOStream.h"
+
+namespace orvik {
+
+// Line 1 "KAV3.3.01"; 2 the module's title; 3 to 8 the fields of description; 9 and 10 the climate
+// station's list index (0-based, -1 none) and name; 11 the solve-for index; 12 to 14 basin area,
+// runoff coefficient and irrigation area. Then, in the interactive mode: 1 or 0 for a hotspot and,
+// where there is one, its R and V; in the typed modes: the two given values. Nothing that can be
+// computed is stored.
+
+// Writes the project to a stream that is open for output. Blanks around a value are left out, and a
+// line end inside one becomes a blank, since a value is a line. False at the first failed write.
+bool WriteProject(clsIOStream& stream, const Project& project);
+
+// A hotspot as it is stored: the texts of its R and V.
+struct StoredPoint {
+  std::string R;
+  std::string V;
+};
+
+// What could be read of a project, in the order of its lines; what comes behind the first fault has
+// no value.
+struct ProjectReading {
+  std::array<std::optional<std::string>, kFields> texts;  // by Field
+  std::optional<std::int16_t> station;                    // the list index, any number
+  std::optional<std::int16_t> mode;                       // the list index, any number
+  std::optional<StoredPoint> point;
+  Message refusal;  // why the first line is not that of a project file of this version
+  bool isWhole = false;
+
+  const std::optional<std::string>& Text(Field field) const {
+    return texts[static_cast<std::size_t>(field)];
+  }
+
+  // An index outside its list chooses nothing.
+  SolveFor Mode() const { return SolveForOfIndex(mode.value_or(-1)); }
+};
+
+// Reads a project from a stream that is open for input. A fault is: another first line (with a
+// refusal), a text that ends early, an index that is not a whole number of 16 bits.
+ProjectReading ReadProject(clsIOStream& stream);
+
+}  // namespace orvik

@@ -1,0 +1,39 @@
+#include "project/FormBinding.h"
+
+#include "chart/ctrlStormwaterReuse.h"
+#include "project/ProjectForm.h"
+
+namespace orvik {
+
+Project FormBinding::Snapshot() const {
+  Project project;
+  for (const FieldDesign& field : Fields()) project.Text(field.id) = form_.Box(field.id).Text();
+  project.station = form_.cmbClimateStation->ListIndex();
+  project.mode = form_.Mode();
+  project.takesPointByHand = chart_.InteractiveMode() != kFalse16;
+  project.point = chart_.Point();
+  return project;
+}
+
+void FormBinding::Show(const Result& result) {
+  for (const FieldDesign& field : Fields()) {
+    const auto& text = result.texts[static_cast<std::size_t>(field.id)];
+    if (text) form_.Box(field.id).Text(*text);
+  }
+  chart_.Point(result.point);
+  form_.txtErrMsg.Clear();
+  for (const Message& message : result.messages) ShowOnBar(form_.txtErrMsg, message);
+}
+
+void FormBinding::Empty(std::initializer_list<Field> fields) {
+  for (const Field field : fields) form_.Box(field).Text("");
+}
+
+void ShowOnBar(ctrlErrorMessageBar& bar, const Message& message) {
+  const Boolean16 beepOn = bar.BeepOn();
+  if (message.id == MessageId::MissingData) bar.BeepOn(kFalse16);
+  bar.SetErrMsg(Sentence(message), HelpTopic(message.id));
+  bar.BeepOn(beepOn);
+}
+
+}  // namespace orvik
