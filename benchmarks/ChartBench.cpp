@@ -29,7 +29,7 @@ struct Chart {
   Chart() { control.SetCurveData(kTampa); }
 
   HeadlessDesktop desktop;
-  ctrlStormwaterReuse control{desktop, ORVIK_DATA};
+  ctrlStormwaterReuse control{ORVIK_DATA};
 };
 
 void EmptyCopy(benchmark::State& state) {

@@ -102,7 +102,7 @@ void Run() {
       ::CreateWindowExW(0, L"STATIC", L"Benchmark", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 1100,
                         800, nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr);
   HeadlessDesktop desktop;
-  ctrlStormwaterReuse chart(desktop, ORVIK_DATA);
+  ctrlStormwaterReuse chart(ORVIK_DATA);
   chart.SetCurveData(kTampa);
   chart.InteractiveMode(kTrue16);
   OneWindow toolkit(parent);

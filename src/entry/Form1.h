@@ -9,6 +9,7 @@
 #include "chart/HostedChart.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "controls/HostedButton.h"
+#include "design/HostResults.h"
 #include "files/FileCommands.h"
 #include "files/ProjectFile.h"
 #include "platform/Desktop.h"
@@ -64,8 +65,10 @@ class Form1 {
   // What the document with the report is called.
   std::string ReportTitle() const;
 
-  // The project as the fields show it; the results for a host are made of it.
-  Project Snapshot() const { return binding_.Snapshot(); }
+  // The results for the host, as text; see design/HostResults.
+  std::string ReuseRate() const { return ReuseRateResult(binding_.Snapshot()); }
+  std::string Efficiency() const { return EfficiencyResult(binding_.Snapshot()); }
+  std::string StorageVolume() const { return StorageVolumeResult(binding_.Snapshot()); }
 
   ProjectForm& Fields() { return form_; }
   ctrlStormwaterReuse& Chart() { return ctrlStormwaterReuse1_; }

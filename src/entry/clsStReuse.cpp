@@ -3,7 +3,6 @@
 #include <stdexcept>
 
 #include "base/Paths.h"
-#include "design/HostResults.h"
 
 namespace orvik {
 namespace {
@@ -46,9 +45,8 @@ std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& Para
     throw std::runtime_error("The project cannot be written as text.");
   }
   ParamString3 = project;
-  const Project shown = window.Snapshot();
-  ParamString2 = ReuseRateResult(shown) + kLineEnd + EfficiencyResult(shown) + kLineEnd +
-                 StorageVolumeResult(shown);
+  ParamString2 =
+      window.ReuseRate() + kLineEnd + window.Efficiency() + kLineEnd + window.StorageVolume();
   return kSaved;
 }
 

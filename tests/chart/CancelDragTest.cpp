@@ -35,7 +35,7 @@ TEST_F(CancelDrag, PutsThePointBackAndRaisesChangeThenMouseReleased) {
               ElementsAre("release", "invalidate", "invalidate", "Change", "MouseReleased"));
   EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
   ExpectPixel(480, 434);
-  EXPECT_EQ(chart_.HotspotV(), 3.5);
+  EXPECT_EQ(chart_.Point().V, 3.5);
   float again = 0;
   EXPECT_TRUE(chart_.GetE(again));
   EXPECT_EQ(again, E);
@@ -45,14 +45,14 @@ TEST_F(CancelDrag, PutsThePointBackAndRaisesChangeThenMouseReleased) {
 TEST_F(CancelDrag, KeepsASolutionExactly) {
   std::string R;
   ASSERT_TRUE(chart_.SetHotspotUsing_EV("61.5", "3.1415926", R));
-  const double solved = chart_.HotspotR();
-  const auto curve = chart_.HighlightCurve();
+  const double solved = chart_.Point().R;
+  const auto curve = chart_.Point().curve;
   DragAndCancel();
-  EXPECT_EQ(chart_.HotspotV(), 3.1415926);
-  EXPECT_EQ(chart_.HotspotR(), solved);
-  EXPECT_EQ(chart_.HotspotE(), 61.5);
-  ASSERT_TRUE(chart_.HighlightCurve());
-  EXPECT_EQ(chart_.HighlightCurve()->R, curve->R);
+  EXPECT_EQ(chart_.Point().V, 3.1415926);
+  EXPECT_EQ(chart_.Point().R, solved);
+  EXPECT_EQ(chart_.Point().E, 61.5);
+  ASSERT_TRUE(chart_.Point().curve);
+  EXPECT_EQ(chart_.Point().curve->R, curve->R);
 }
 
 TEST_F(CancelDrag, HidesAPointThatWasNotThere) {
@@ -90,8 +90,8 @@ TEST_F(CancelDrag, FollowsANewSize) {
   chart_.MouseDown(kLeft, 600, 450);
   chart_.Resize(400, 900);  // the frame is 360 wide, from 20 on
   chart_.KeyDown(kEscape);
-  EXPECT_EQ(chart_.HotspotV(), 3.5);
-  EXPECT_EQ(chart_.HotspotX(), 20 + 180);
+  EXPECT_EQ(chart_.Point().V, 3.5);
+  EXPECT_EQ(chart_.Point().pixel.X, 20 + 180);
 }
 
 // The point of other curves is nothing to go back to.

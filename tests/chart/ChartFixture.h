@@ -5,7 +5,6 @@
 
 #include "base/Paths.h"
 #include "chart/ctrlStormwaterReuse.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "support/CurveFileText.h"
 #include "support/TempFolder.h"
 
@@ -22,8 +21,7 @@ class ChartFixture : public testing::Test {
   }
 
   TempFolder folder_;
-  HeadlessDesktop desktop_;
-  ctrlStormwaterReuse chart_{desktop_, folder_.Path()};
+  ctrlStormwaterReuse chart_{folder_.Path()};
 };
 
 }  // namespace orvik::test

@@ -215,7 +215,7 @@ TEST_F(ChartPainting, ChangesNothingOfTheChart) {
   ASSERT_TRUE(chart_.SetHotspotUsing_RV("0.12", "3", E));
   const Log first = Paint();
   EXPECT_EQ(Paint(), first);
-  EXPECT_EQ(chart_.HotspotR(), 0.12);
+  EXPECT_EQ(chart_.Point().R, 0.12);
   EXPECT_EQ(chart_.ErrMsg(), "Success");
 }
 

@@ -75,7 +75,7 @@ class ChartRoom : public testing::Test {
   }
 
   HeadlessDesktop desktop_;
-  ctrlStormwaterReuse chart_{desktop_, ORVIK_DATA};
+  ctrlStormwaterReuse chart_{ORVIK_DATA};
   std::size_t written_ = 0;
 };
 

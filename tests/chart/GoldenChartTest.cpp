@@ -43,7 +43,7 @@ Picture ReadPng(const std::string& path) {
 
 Picture PaintChart(const GoldenChart& golden) {
   HeadlessDesktop desktop;
-  ctrlStormwaterReuse chart(desktop, ORVIK_DATA);
+  ctrlStormwaterReuse chart(ORVIK_DATA);
   chart.SetCurveData(golden.station);
   chart.Resize(golden.size.width, golden.size.height);
   std::string E;

@@ -99,8 +99,7 @@ TEST_F(HotspotDrawing, PaintingDrawsTheVisibleHotspot) {
 }
 
 TEST_F(HotspotDrawing, TwoDrawingsLeaveThePictureUnchanged) {
-  Hotspot hotspot;
-  hotspot.PlaceAt(3.5, 0.11, chart_.Geometry());
+  const FramePixel hotspot = PixelOfMark(3.5, 0.11, chart_.Geometry());
   PixelSurface screen;
   screen.Line({100, 440}, {300, 440}, {0x123456, 1, DrawMode::ExclusiveOr});  // to draw upon
   const auto before = screen.pixels;
@@ -115,7 +114,7 @@ TEST_F(HotspotDrawing, TwoDrawingsLeaveThePictureUnchanged) {
 TEST_F(HotspotDrawing, EachPixelOfTheMarkIsFlippedOnce) {
   PressAndRelease(480, 434);
   PixelSurface screen;
-  chart_.Paint(screen);
+  chart_.PaintScreen(screen);
   EXPECT_EQ(screen.pixels.size(), 4U * 14 + 365 + 151);
   for (const auto& [at, colour] : screen.pixels) EXPECT_EQ(colour, kMarkColour);
 }
@@ -183,13 +182,22 @@ TEST_F(HotspotDrawing, HidingTheHotspotRemovesTheHighlightFirst) {
   EXPECT_EQ(host_.Take(), Join({shown, MarkAt(480, 434)}));
 }
 
-TEST_F(HotspotDrawing, PaintingForgetsTheHighlight) {
+TEST_F(HotspotDrawing, PaintingTheScreenForgetsTheHighlight) {
   PressAndRelease(480, 434);
   chart_.KeyDown(kSpace);
+  chart_.PaintScreen(host_.screen);
   host_.Take();
-  EXPECT_EQ(PaintedMarks(), MarkAt(480, 434)) << "no highlight";
   chart_.KeyUp(kSpace);
   EXPECT_THAT(host_.Take(), IsEmpty());
+}
+
+TEST_F(HotspotDrawing, APictureShowsNoHighlightAndLeavesTheScreens) {
+  PressAndRelease(480, 434);
+  chart_.KeyDown(kSpace);
+  const Log shown = host_.Take();
+  EXPECT_EQ(PaintedMarks(), MarkAt(480, 434));
+  chart_.KeyUp(kSpace);
+  EXPECT_EQ(host_.Take(), shown) << "drawn again, it is gone";
 }
 
 TEST_F(HotspotDrawing, LosingTheFocusRemovesTheHighlight) {
@@ -271,7 +279,7 @@ class PixelHost final : public Host {
   void ReleaseMouse() override {}
   Surface* DrawNow() override { return &screen; }
   void PaintIfAsked() {
-    if (isDirty_) chart_.Paint(screen);
+    if (isDirty_) chart_.PaintScreen(screen);
     isDirty_ = false;
   }
 

@@ -29,8 +29,8 @@ TEST_F(HotspotInput, APressPlacesTheHotspotAndRaisesChangeThenMousePressed) {
   EXPECT_EQ(chart_.HotSpotVisibile(), kTrue16);
   EXPECT_EQ(chart_.MouseCaptured(), kTrue16);
   ExpectPixel(480, 434);
-  EXPECT_DOUBLE_EQ(chart_.HotspotV(), 3.5);              // 7 * 372 / 744
-  EXPECT_DOUBLE_EQ(chart_.HotspotR(), 0.4 * 158 / 558);  // 592 - 434 rows up
+  EXPECT_DOUBLE_EQ(chart_.Point().V, 3.5);              // 7 * 372 / 744
+  EXPECT_DOUBLE_EQ(chart_.Point().R, 0.4 * 158 / 558);  // 592 - 434 rows up
 }
 
 TEST_F(HotspotInput, EIsEvaluatedBeforeChangeIsRaised) {
@@ -171,8 +171,8 @@ TEST_F(HotspotInput, ArrowKeysMoveByOnePixelAndKeepTheOtherCoordinateExactly) {
   for (const Case& c : {Case{kArrowRight, 1, 0}, Case{kArrowLeft, -1, 0}, Case{kArrowUp, 0, -1},
                         Case{kArrowDown, 0, 1}}) {
     ASSERT_TRUE(chart_.SetHotspotUsing_RV("0.1234567", "3.1415926", ignored));
-    const int X = chart_.HotspotX();  // 108 + 744 * 3.1415926 / 7 = 441.9
-    const int Y = chart_.HotspotY();  // 592 - 558 * 0.1234567 / 0.4 = 419.8
+    const int X = chart_.Point().pixel.X;  // 108 + 744 * 3.1415926 / 7 = 441.9
+    const int Y = chart_.Point().pixel.Y;  // 592 - 558 * 0.1234567 / 0.4 = 419.8
     ASSERT_EQ(X, 442);
     ASSERT_EQ(Y, 420);
     host_.Take();
@@ -180,8 +180,8 @@ TEST_F(HotspotInput, ArrowKeysMoveByOnePixelAndKeepTheOtherCoordinateExactly) {
     ExpectPixel(X + c.dX, Y + c.dY);
     const double V = c.dX == 0 ? 3.1415926 : 7.0 * (X + c.dX - 108) / 744;
     const double R = c.dY == 0 ? 0.1234567 : 0.4 * (592 - Y - c.dY) / 558;
-    EXPECT_DOUBLE_EQ(chart_.HotspotV(), V) << c.key;
-    EXPECT_DOUBLE_EQ(chart_.HotspotR(), R) << c.key;
+    EXPECT_DOUBLE_EQ(chart_.Point().V, V) << c.key;
+    EXPECT_DOUBLE_EQ(chart_.Point().R, R) << c.key;
     float E = 0;
     EXPECT_TRUE(chart_.GetE(E));
     EXPECT_NEAR(E, 50 + 400 * (R + 0.05 * std::log(V) - 0.15), 1e-2) << c.key;
@@ -229,12 +229,12 @@ TEST_F(HotspotInput, OtherKeysDoNothing) {
 
 TEST_F(HotspotInput, ResizingKeepsThePlotPosition) {
   PressAndRelease(480, 434);
-  const double V = chart_.HotspotV();
-  const double R = chart_.HotspotR();
+  const double V = chart_.Point().V;
+  const double R = chart_.Point().R;
   chart_.Resize(400, 900);  // usable 360 x 860: the width is the limit, the frame is 360 x 270
-  EXPECT_EQ(chart_.HotspotV(), V);
-  EXPECT_EQ(chart_.HotspotR(), R);
-  EXPECT_EQ(chart_.HotspotX(), 20 + 180);  // V = 3.5 of 7
+  EXPECT_EQ(chart_.Point().V, V);
+  EXPECT_EQ(chart_.Point().R, R);
+  EXPECT_EQ(chart_.Point().pixel.X, 20 + 180);  // V = 3.5 of 7
   EXPECT_THAT(host_.Take(), ElementsAre("invalidate"));
   chart_.Resize(960, 640);
   ExpectPixel(480, 434);
@@ -285,7 +285,7 @@ TEST_F(HotspotInput, NewCurvesLeaveEUndefinedUntilThePointIsLocatedOnThem) {
   float value = 0;
   EXPECT_TRUE(chart_.GetR(value));
   EXPECT_FALSE(chart_.GetE(value));
-  EXPECT_FALSE(chart_.HighlightCurve());
+  EXPECT_FALSE(chart_.Point().curve);
 }
 
 TEST_F(HotspotInput, PlacingFromTwoValuesAsksForPainting) {
@@ -330,7 +330,7 @@ TEST_F(HotspotInput, NoControlIsTooSmallForTheMouse) {
       EXPECT_NO_THROW(chart_.KeyDown(kArrowDown)) << size << " " << at;
       EXPECT_NO_THROW(chart_.KeyDown(kArrowRight)) << size << " " << at;
     }
-    EXPECT_TRUE(std::isfinite(chart_.HotspotV()) && std::isfinite(chart_.HotspotR())) << size;
+    EXPECT_TRUE(std::isfinite(chart_.Point().V) && std::isfinite(chart_.Point().R)) << size;
   }
 }
 

@@ -43,8 +43,8 @@ class InteractiveFixture : public ChartFixture {
   }
 
   void ExpectPixel(int X, int Y) {
-    EXPECT_EQ(chart_.HotspotX(), X);
-    EXPECT_EQ(chart_.HotspotY(), Y);
+    EXPECT_EQ(chart_.Point().pixel.X, X);
+    EXPECT_EQ(chart_.Point().pixel.Y, Y);
   }
 
   RecordingHost host_;

@@ -53,6 +53,10 @@ class PrintDesignChart : public ChartFixture {
     return Print(100, 200, 900, 800);
   }
 
+  clsPlotMetrics MetricsIn(const clsRectangle_Integer& target) const {
+    return PrintMetrics({chart_.Curves(), chart_.StationName(), chart_.Point()}, target);
+  }
+
   // Place of the first call that begins so; -1 for none.
   static int Place(const Log& calls, std::string_view beginning) {
     const auto found =
@@ -63,7 +67,7 @@ class PrintDesignChart : public ChartFixture {
 
 TEST_F(PrintDesignChart, TheRecordHoldsTheRectangleInItsOwnOrder) {
   Load(TwoShortCurves());
-  const clsPlotMetrics metrics = chart_.PrintMetrics(100, 200, 900, 800);
+  const clsPlotMetrics metrics = MetricsIn({100, 900, 200, 800});
   EXPECT_EQ(metrics.Target.Left, 100);
   EXPECT_EQ(metrics.Target.Right, 900);
   EXPECT_EQ(metrics.Target.Top, 200);
@@ -79,7 +83,7 @@ TEST_F(PrintDesignChart, TheRecordHoldsTheRectangleInItsOwnOrder) {
 // = 200 + 20 + 560 x 0.0102 / 0.431 = 233.25, bottom = 752.97.
 TEST_F(PrintDesignChart, TheFrameIsLimitedByTheHeight) {
   Load(TwoShortCurves());
-  EXPECT_EQ(chart_.PrintMetrics(100, 200, 900, 800).Frame,
+  EXPECT_EQ(MetricsIn({100, 900, 200, 800}).Frame,
             (clsRectangle_Integer{154, 846, 233, 753}));
 }
 
@@ -87,7 +91,7 @@ TEST_F(PrintDesignChart, TheFrameIsLimitedByTheHeight) {
 // 14.04, and 560 - 290.925 = 269.075 is left, half of it above: top = 200 + 20 + 134.5375 + 6.885.
 TEST_F(PrintDesignChart, TheFrameIsLimitedByTheWidth) {
   Load(TwoShortCurves());
-  EXPECT_EQ(chart_.PrintMetrics(100, 200, 500, 800).Frame,
+  EXPECT_EQ(MetricsIn({100, 500, 200, 800}).Frame,
             (clsRectangle_Integer{120, 480, 361, 631}));
 }
 
@@ -172,7 +176,7 @@ TEST_F(PrintDesignChart, TextBelowSixPixelsIsNotPrinted) {
 TEST_F(PrintDesignChart, TextOfSixPixelsIsPrinted) {
   Load(TwoShortCurves());
   for (std::int16_t bottom = 500; bottom < 560; ++bottom) {
-    const clsRectangle_Integer frame = chart_.PrintMetrics(100, 200, 900, bottom).Frame;
+    const clsRectangle_Integer frame = MetricsIn({100, 900, 200, bottom}).Frame;
     const Log calls = Print(100, 200, 900, bottom);
     const bool has = std::ranges::any_of(
         calls, [](const auto& c) { return c.find("\"3.5\"") != std::string::npos; });
@@ -248,14 +252,14 @@ TEST_F(PrintingAShownChart, DisturbsNeitherScreenNorHotspotNorHighlight) {
   PressAndRelease(480, 400);  // R = 0.138, V = 3.5: E = 70
   chart_.KeyDown(kSpace);
   host_.Take();
-  const auto x = chart_.HotspotX();
-  const auto v = chart_.HotspotV();
+  const auto x = chart_.Point().pixel.X;
+  const auto v = chart_.Point().V;
   RecordingPrinter printer;
   chart_.PrintDesignChart(printer, 100, 200, 900, 800);
   EXPECT_FALSE(printer.Calls().empty());
   EXPECT_THAT(host_.Take(), testing::IsEmpty());
-  EXPECT_EQ(chart_.HotspotX(), x);
-  EXPECT_EQ(chart_.HotspotV(), v);
+  EXPECT_EQ(chart_.Point().pixel.X, x);
+  EXPECT_EQ(chart_.Point().V, v);
   chart_.KeyUp(kSpace);
   EXPECT_FALSE(host_.Take().empty()) << "the highlight was still there to be taken away";
 }

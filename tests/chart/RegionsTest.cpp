@@ -1,4 +1,4 @@
-// The regions between the curves are kept from one question to the next; no answer may show it.
+// The regions between the curves are made once for a layout; no answer may show it.
 #include "ChartFixture.h"
 
 namespace orvik {
@@ -22,8 +22,7 @@ class Regions : public ChartFixture {
   }
 
   std::vector<std::string> FreshAnswers(int width, int height) {
-    HeadlessDesktop desktop;
-    ctrlStormwaterReuse fresh(desktop, folder_.Path());
+    ctrlStormwaterReuse fresh(folder_.Path());
     fresh.SetCurveData(kTampa);
     fresh.Resize(width, height);
     return Answers(fresh);

@@ -10,8 +10,6 @@ using test::CurveFileText;
 using test::kTampa;
 using test::LogarithmicCurves;
 
-using Messages = std::vector<HeadlessDesktop::Message>;
-
 class SetCurveData : public test::ChartFixture {};
 
 TEST_F(SetCurveData, NothingIsLoadedAtFirst) {
@@ -35,7 +33,6 @@ TEST_F(SetCurveData, LoadsTheStationsFile) {
   EXPECT_EQ(chart_.MinY(), 0);
   EXPECT_EQ(chart_.MaxY(), 0.4);
   EXPECT_EQ(chart_.Layout().Frame, (clsRectangle_Integer{108, 852, 34, 592}));
-  EXPECT_TRUE(desktop_.Messages().empty());
 }
 
 TEST_F(SetCurveData, StationFourReadsTheFileOfItsOwnSpelling) {
@@ -45,32 +42,27 @@ TEST_F(SetCurveData, StationFourReadsTheFileOfItsOwnSpelling) {
 }
 
 TEST_F(SetCurveData, AMissingFolderKeepsIndexAndName) {
-  chart_.SetCurveData(kTampa);
+  EXPECT_EQ(chart_.SetCurveData(kTampa), LoadOutcome::FolderMissing);
   EXPECT_FALSE(chart_.IsLoaded());
   EXPECT_EQ(chart_.StationIndex(), kTampa);
   EXPECT_EQ(chart_.StationName(), "Tampa");
-  const std::string folder = folder_.Path() + "KAV Data" + kPathSeparator;
-  EXPECT_EQ(desktop_.Messages(),
-            (Messages{{"Can't find data path:\r\n" + folder, "Error", MessageIcon::Exclamation}}));
 }
 
 TEST_F(SetCurveData, AMissingFileForgetsTheStation) {
   folder_.Write("KAV Data/Miami.crv", LogarithmicCurves().Text());
-  chart_.SetCurveData(kTampa);
+  EXPECT_EQ(chart_.SetCurveData(kTampa), LoadOutcome::FileMissing);
   EXPECT_FALSE(chart_.IsLoaded());
   EXPECT_EQ(chart_.StationIndex(), 0);
   EXPECT_EQ(chart_.StationName(), "");
-  EXPECT_EQ(desktop_.Messages(),
-            (Messages{{"Can't find data for Tampa", "Error", MessageIcon::Exclamation}}));
 }
 
-TEST_F(SetCurveData, ADamagedFileForgetsTheStationWithoutAMessage) {
+TEST_F(SetCurveData, ADamagedFileForgetsTheStation) {
   CurveFileText file = LogarithmicCurves();
   file.labels[1] = "no comma";
   Load(file);
   EXPECT_FALSE(chart_.IsLoaded());
   EXPECT_EQ(chart_.StationIndex(), 0);
-  EXPECT_TRUE(desktop_.Messages().empty());
+  EXPECT_EQ(chart_.SetCurveData(kTampa), LoadOutcome::Unreadable);
 }
 
 TEST_F(SetCurveData, AFailedReloadLeavesNoCurvesInUse) {
@@ -123,11 +115,11 @@ TEST_F(SetCurveData, ResizeLaysOutAgainAndKeepsTheHotspotsPlace) {
   Load(LogarithmicCurves());
   std::string result;
   ASSERT_TRUE(chart_.SetHotspotUsing_RV("0.12", "3", result));
-  EXPECT_EQ(chart_.HotspotX(), 427);  // 108 + 744 x 3 / 7 = 426.86
+  EXPECT_EQ(chart_.Point().pixel.X, 427);  // 108 + 744 x 3 / 7 = 426.86
   chart_.Resize(340, 640);
   EXPECT_EQ(chart_.Layout().Frame, (clsRectangle_Integer{20, 320, 205, 430}));
-  EXPECT_EQ(chart_.HotspotX(), 149);  // 20 + 300 x 3 / 7 = 148.57
-  EXPECT_EQ(chart_.HotspotY(), 362);  // 430 - 225 x 0.3 = 362.5: to the even neighbour
+  EXPECT_EQ(chart_.Point().pixel.X, 149);  // 20 + 300 x 3 / 7 = 148.57
+  EXPECT_EQ(chart_.Point().pixel.Y, 362);  // 430 - 225 x 0.3 = 362.5: to the even neighbour
   float V = 0;
   ASSERT_TRUE(chart_.GetV(V));
   EXPECT_EQ(V, 3.0F);

@@ -91,9 +91,9 @@ TEST_F(SetHotspot, WritesTheResultInSinglePrecision) {
 
 TEST_F(SetHotspot, AStoredEUsesItsCurveUnchanged) {
   ASSERT_TRUE(Ask(Pair::EV, "70", "2"));
-  ASSERT_TRUE(chart_.HighlightCurve());
-  EXPECT_EQ(chart_.HighlightCurve()->A, 0.20);
-  EXPECT_EQ(chart_.HighlightCurve()->VStart, 1.5);
+  ASSERT_TRUE(chart_.Point().curve);
+  EXPECT_EQ(chart_.Point().curve->A, 0.20);
+  EXPECT_EQ(chart_.Point().curve->VStart, 1.5);
 }
 
 TEST_F(SetHotspot, APointOnACurveGivesTheCurvesE) {
@@ -185,7 +185,7 @@ TEST_F(SetHotspot, APointOutsideEveryRegionStaysShown) {
     float value = 0;
     EXPECT_FALSE(chart_.GetE(value));
     EXPECT_TRUE(chart_.GetR(value));
-    EXPECT_FALSE(chart_.HighlightCurve());
+    EXPECT_FALSE(chart_.Point().curve);
   }
 }
 
@@ -290,8 +290,8 @@ TEST_F(SetHotspot, ASingleCurveHasNoRegion) {
 TEST_F(SetHotspot, AFailureKeepsTheLastSolvedPointButNotAsAnAnswer) {
   ASSERT_TRUE(Ask(Pair::EV, "60", "3"));
   EXPECT_FALSE(Ask(Pair::EV, "99", "3"));
-  EXPECT_EQ(chart_.HotspotE(), 60);
-  EXPECT_EQ(chart_.HotspotV(), 3);
+  EXPECT_EQ(chart_.Point().E, 60);
+  EXPECT_EQ(chart_.Point().V, 3);
   float value = 1;
   EXPECT_FALSE(chart_.GetE(value));  // the hotspot is hidden
   EXPECT_EQ(value, 0);
@@ -308,8 +308,8 @@ TEST_F(SetHotspot, GivesTheHotspotsValues) {
   EXPECT_NEAR(R, 0.1200694, 1e-7);
   EXPECT_EQ(V, 3.0F);
   EXPECT_EQ(E, 60.0F);
-  EXPECT_EQ(chart_.HotspotX(), 427);  // 108 + 744 x 3 / 7
-  EXPECT_EQ(chart_.HotspotY(), 425);  // 592 - 558 x 0.1200694 / 0.4 = 424.5
+  EXPECT_EQ(chart_.Point().pixel.X, 427);  // 108 + 744 x 3 / 7
+  EXPECT_EQ(chart_.Point().pixel.Y, 425);  // 592 - 558 x 0.1200694 / 0.4 = 424.5
 }
 
 TEST_F(SetHotspot, CurvesThatMeetAreANumericErrorNotAnAnswer) {

@@ -42,7 +42,7 @@ TEST(SolvedPoints, AgreeWithASimulationBetweenTheCurvesToo) {
   for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
     const std::string name(ClimateStationName(i));
     HeadlessDesktop desktop;
-    ctrlStormwaterReuse chart(desktop, ORVIK_DATA_DIR);
+    ctrlStormwaterReuse chart(ORVIK_DATA_DIR);
     chart.SetCurveData(i);
     ASSERT_TRUE(chart.IsLoaded()) << name;
     const PondDays days = BuildPondDays(

@@ -32,7 +32,8 @@ TEST(ExtractCurve, TakesAStoredCurveUnchanged) {
   ASSERT_TRUE(curve);
   EXPECT_EQ(curve->E, 70.0F);
   EXPECT_EQ(curve->A, set.Curves[1].A);
-  EXPECT_EQ(curve->R, set.Curves[1].R);
+  EXPECT_EQ(curve->VStart, set.Curves[1].VStart);
+  EXPECT_EQ(curve->VEnd, set.Curves[1].VEnd);
 }
 
 TEST(ExtractCurve, ComparesInSinglePrecision) {
@@ -42,8 +43,9 @@ TEST(ExtractCurve, ComparesInSinglePrecision) {
 }
 
 TEST(ExtractCurve, InterpolatesEveryParameterInE) {
-  const auto curve = ExtractCurve(ThreeCurves(), 55);  // a quarter of the way from 50 to 70
+  auto curve = ExtractCurve(ThreeCurves(), 55);  // a quarter of the way from 50 to 70
   ASSERT_TRUE(curve);
+  SampleCurve(*curve);
   EXPECT_EQ(curve->E, 55.0F);
   EXPECT_DOUBLE_EQ(curve->A, 0.1625);
   EXPECT_DOUBLE_EQ(curve->B, -0.05);

@@ -62,7 +62,7 @@ class SolvingByBoost : public testing::TestWithParam<int> {
   double HighestE() const { return chart_.Curves().Curves.back().E; }
 
   HeadlessDesktop desktop_;
-  ctrlStormwaterReuse chart_{desktop_, ORVIK_DATA_DIR};
+  ctrlStormwaterReuse chart_{ORVIK_DATA_DIR};
   std::string text_;
 };
 
@@ -75,7 +75,7 @@ TEST_P(SolvingByBoost, RateAgreesToSinglePrecision) {
     for (double V = line.VStart + 1e-6; V <= line.VEnd; V += 0.0731) {
       ASSERT_TRUE(chart_.SetHotspotUsing_EV(ConvertToString(E), ConvertToString(V), text_))
           << E << " " << V;
-      EXPECT_NEAR(chart_.HotspotR(), Rate(line, V), 1e-12) << E << " " << V;
+      EXPECT_NEAR(chart_.Point().R, Rate(line, V), 1e-12) << E << " " << V;
       // Half a unit of the seventh digit (of a rate from 0.1 to 1) and of single precision.
       EXPECT_NEAR(ParseNumber(text_), Rate(line, V), 5e-8 + kSingle * Rate(line, V))
           << E << " " << V;
@@ -94,7 +94,7 @@ TEST_P(SolvingByBoost, VolumeAgreesToTheSearchsTolerances) {
       ASSERT_TRUE(chart_.SetHotspotUsing_ER(ConvertToString(E), ConvertToString(R), text_))
           << E << " " << R;
       const double V = Root([&](double v) { return Rate(line, v) - R; }, line.VStart, line.VEnd);
-      const double found = chart_.HotspotV();
+      const double found = chart_.Point().V;
       EXPECT_TRUE(std::fabs(found - V) < 5.01e-6 || std::fabs(Rate(line, found) - R) < 1.0001e-5)
           << E << " " << R << ": " << found << " and " << V;
       EXPECT_NEAR(ParseNumber(text_), found, 7 * kSingle * 10);
@@ -135,7 +135,7 @@ TEST_P(SolvingByBoost, EfficiencyAgreesToTheRatesTolerance) {
           continue;
         }
         const double perRate = (curves[i + 1].E - curves[i].E) / (high - low);
-        const double difference = std::fabs(chart_.HotspotE() - E);
+        const double difference = std::fabs(chart_.Point().E - E);
         if (difference > 1.001e-5 * perRate) ++nextDoor;
         EXPECT_LT(difference, 0.1) << R << " " << V;
         ++solved;

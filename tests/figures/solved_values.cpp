@@ -32,11 +32,11 @@ void PrintStation(orvik::ctrlStormwaterReuse& chart, const std::string& station)
       const std::string V2 = ConvertToString(0.71 + j * 0.5517);
       std::string text;
       bool solved = chart.SetHotspotUsing_RV(R, V, text);
-      Print(station + " R=" + R + " V=" + V, solved, text, chart.HotspotE(), chart);
+      Print(station + " R=" + R + " V=" + V, solved, text, chart.Point().E, chart);
       solved = chart.SetHotspotUsing_ER(E, R, text);
-      Print(station + " E=" + E + " R=" + R, solved, text, chart.HotspotV(), chart);
+      Print(station + " E=" + E + " R=" + R, solved, text, chart.Point().V, chart);
       solved = chart.SetHotspotUsing_EV(E, V2, text);
-      Print(station + " E=" + E + " V=" + V2, solved, text, chart.HotspotR(), chart);
+      Print(station + " E=" + E + " V=" + V2, solved, text, chart.Point().R, chart);
     }
   }
 }
@@ -46,7 +46,7 @@ void PrintStation(orvik::ctrlStormwaterReuse& chart, const std::string& station)
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
   orvik::HeadlessDesktop desktop;
-  orvik::ctrlStormwaterReuse chart(desktop, argv[1]);
+  orvik::ctrlStormwaterReuse chart(argv[1]);
   for (std::int16_t i = 1; i <= orvik::NumRainfallStations(); ++i) {
     chart.SetCurveData(i);
     if (chart.IsLoaded()) PrintStation(chart, std::string(orvik::ClimateStationName(i)));

@@ -68,7 +68,7 @@ TEST_F(ProjectFileTest, WithoutAModeTheTailIsMissing) {
 }
 
 TEST_F(ProjectFileTest, ALineEndInsideAValueBecomesABlank) {
-  form_->Fields().txtDescription.Text("first\r\nsecond\rthird\nfourth");
+  form_->Fields().Box(Field::Description).Text("first\r\nsecond\rthird\nfourth");
   const auto lines = Lines(Saved());
   EXPECT_EQ(lines.size(), 15U);
   EXPECT_EQ(lines[3], "first second third fourth");

@@ -96,9 +96,9 @@ class RandomProject {
 class RandomRoundTrip : public RoundTrip, public testing::WithParamInterface<int> {};
 
 TEST_P(RandomRoundTrip, GivesTheSameFields) {
-  const std::int16_t mode = static_cast<std::int16_t>(GetParam());
+  const SolveFor mode = SolveForOfIndex(GetParam());
   for (unsigned seed = 0; seed < 60; ++seed) {
-    SCOPED_TRACE("mode " + std::to_string(mode) + ", seed " + std::to_string(seed));
+    SCOPED_TRACE("mode " + std::to_string(IndexOf(mode)) + ", seed " + std::to_string(seed));
     RandomProject project(seed);
     for (const char* field : kDescriptions) Type(field, project.Words(project.Below(30)));
     Choose("cmbClimateStation", project.Below(4) == 0 ? "Orlando" : "Tampa");
@@ -106,7 +106,7 @@ TEST_P(RandomRoundTrip, GivesTheSameFields) {
     Type("txtBasinArea", project.Number(5, 20));
     Type("txtRunoffCoefficient", project.Number(0.3, 0.9));
     Type("txtIrrigationArea", project.Number(2, 20));
-    if (mode == SolveFor::kInteractive) {
+    if (mode == SolveFor::Interactive) {
       if (project.Below(4) != 0) {
         std::string E;
         form_->Chart().SetHotspotUsing_RV(project.GoodNumber(0, 0.4), project.GoodNumber(0.5, 7),
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(Modes, RandomRoundTrip, testing::Values(0, 1, 2, 3));
 TEST_F(RoundTrip, ADescriptionOfTenThousandCharacters) {
   SolveForEfficiency();
   RandomProject project(1);
-  form_->Fields().txtDescription.Text("x" + project.Words(9998) + "x");
+  form_->Fields().Box(Field::Description).Text("x" + project.Words(9998) + "x");
   ExpectSameAfterSavingAndReading();
 }
 

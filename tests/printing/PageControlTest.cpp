@@ -26,7 +26,7 @@ class PageControl : public testing::Test {
  protected:
   PageControl() {
     desktop_.Now({{2026, 4, 7}, 9, 5, 3});
-    pages_ = std::make_unique<clsPageControl>(desktop_);
+    pages_ = std::make_unique<clsPageControl>(desktop_.Now());
   }
 
   // As a document begins.
@@ -102,7 +102,7 @@ TEST_F(PageControl, TheHeaderTellsModuleDateTimeAndPage) {
 TEST_F(PageControl, TheHeaderEndsAboveTheBodyOnPapersWithAndWithoutMargins) {
   for (const int unprintable : {0, 50, 75, 150, 300}) {
     RecordingPrinter printer({300, {2550, 3300}, unprintable});
-    clsPageControl pages(desktop_);
+    clsPageControl pages(desktop_.Now());
     pages.ReadyFonts(printer);
     pages.GetPrintableMargins(printer);
     pages.EstimateFreeMargins(printer);
@@ -196,7 +196,7 @@ TEST_F(PageControl, ALineAboveTheBoundaryStaysAndOneThatTouchesItGoes) {
   } rows[] = {{std::nextafter(onBoundary, 0.0F), 0}, {onBoundary, 1}, {onBoundary + 1, 1}};
   for (const auto& row : rows) {
     RecordingPrinter printer;
-    clsPageControl pages(desktop_);
+    clsPageControl pages(desktop_.Now());
     pages.ReadyFonts(printer);
     pages.GetPrintableMargins(printer);
     pages.EstimateFreeMargins(printer);

@@ -267,7 +267,7 @@ TEST_F(Report, LongWordsAndForeignLettersStayInTheirColumn) {
   Type("txtEngineer",
        "\u0141\u00F3d\u017A \u6C34\u5229 \u0412\u043E\u0434\u0430 Ing. Mu\u00F1oz de "
        "la Pe\u00F1a y \u00C1lvarez-Buylla, P.E., D.WRE, CFM, LEED AP");
-  form_->Fields().txtDescription.Text("tabs\tand\rline\nends");
+  form_->Fields().Box(Field::Description).Text("tabs\tand\rline\nends");
   RecordingPrinter printer;
   const auto pages = Print(printer);
   ExpectTidy(pages, printer.PrintableArea());
@@ -332,18 +332,20 @@ TEST_F(Report, ChangesNeitherTheFieldsNorTheChart) {
   RecordingSurface screenBefore;
   RecordingSurface screenAfter;
   form_->Chart().Paint(screenBefore);
-  const auto box = std::pair(form_->Chart().HotspotX(), form_->Chart().HotspotY());
+  const auto box = std::pair(form_->Chart().Point().pixel.X, form_->Chart().Point().pixel.Y);
   Print();
   form_->Chart().Paint(screenAfter);
   ASSERT_TRUE(form_->Files().SaveText(after));
   EXPECT_EQ(before, after);
   EXPECT_EQ(screenBefore.Calls(), screenAfter.Calls());
-  EXPECT_EQ(std::pair(form_->Chart().HotspotX(), form_->Chart().HotspotY()), box);
+  EXPECT_EQ(std::pair(form_->Chart().Point().pixel.X, form_->Chart().Point().pixel.Y), box);
 }
 
 TEST_F(Report, ASecondDocumentBeginsWithoutABlankSheet) {
-  SolveForEfficiency();
-  ProjectReport report(form_->Fields(), form_->Chart(), desktop_);
+  Project project;
+  project.Text(Field::ProjectName) = "Pond";
+  const std::string noMessage;
+  ProjectReport report(project, noMessage, nullptr, desktop_.Now());
   RecordingPrinter first;
   RecordingPrinter second;
   report.PrintDoc(first);

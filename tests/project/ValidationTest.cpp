@@ -219,7 +219,7 @@ TEST_F(Validation, TheEiaIsMultipliedInSinglePrecision) {
 }
 
 TEST_F(Validation, TheEiaCannotBeTyped) {
-  EXPECT_TRUE(form_->Fields().txtEquivalentImperviousArea.Locked());
+  EXPECT_TRUE(form_->Fields().Box(Field::EquivalentImperviousArea).Locked());
 }
 
 // --- The quiet test ---

@@ -4,7 +4,6 @@
 #include <map>
 #include <string>
 
-#include "project/FieldCaptions.h"
 #include "shell/MainWindowLayout.h"
 #include "shell/MainWindowTable.h"
 #include "support/EvenLetters.h"
@@ -128,30 +127,6 @@ TEST(MainWindowLayout, ASmallerWindowIsLaidOutAsTheSmallestThatFits) {
 }
 
 // Whoever reads a printed report finds each line of it on the screen.
-TEST(MainWindowLayout, FieldsHaveTheCaptionsThatTheReportPrints) {
-  std::map<std::string_view, std::string> shown;
-  for (const LabelDesign& label : MainWindowLabels()) {
-    std::string caption(label.caption);
-    std::erase(caption, '&');
-    shown[label.name] = caption;
-  }
-  const std::pair<std::string_view, std::string_view> printed[] = {
-      {"lblProject", FieldCaption::kProject},
-      {"lblDescription", FieldCaption::kDescription},
-      {"lblProjectNumber", FieldCaption::kProjectNumber},
-      {"lblEngineer", FieldCaption::kEngineer},
-      {"lblSupervisingEngineer", FieldCaption::kSupervisingEngineer},
-      {"lblDate", FieldCaption::kDate},
-      {"lblBasinArea", FieldCaption::kBasinArea},
-      {"lblRunoffCoefficient", FieldCaption::kRunoffCoefficient},
-      {"lblEquivalentImperviousArea", FieldCaption::kEquivalentImperviousArea},
-      {"lblIrrigationArea", FieldCaption::kIrrigationArea},
-      {"lblClimateStation", FieldCaption::kClimateStation},
-      {"lblSolveForMode", FieldCaption::kSolveFor},
-  };
-  for (const auto& [label, caption] : printed) EXPECT_EQ(shown[label], caption) << label;
-}
-
 TEST(MainWindowLayout, CaptionsAreNotCutOff) {
   for (const Screen& screen : Screens()) {
     const auto places = Places(screen);

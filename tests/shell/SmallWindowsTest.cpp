@@ -95,7 +95,7 @@ TEST_F(SmallWindowsTest, AMissingOrDamagedPictureLeavesTheViewerEmptyWithoutAMes
 TEST(SmallWindowsChart, IsRedrawnOnceTheMapIsClosed) {
   HeadlessToolkit toolkit;
   HeadlessDesktop desktop;
-  ctrlStormwaterReuse chart(desktop, "");
+  ctrlStormwaterReuse chart("");
   test::RecordingHost host;
   chart.AttachHost(&host);
   SmallWindows windows(toolkit, desktop, chart, "");

@@ -75,7 +75,7 @@ class ChartWindow : public testing::Test {
   HeadlessDesktop desktop_;
   ParentWindow parent_;
   HostToolkit toolkit_{parent_.Handle()};
-  ctrlStormwaterReuse chart_{desktop_, folder_.Path()};
+  ctrlStormwaterReuse chart_{folder_.Path()};
   HostedChart hosted_{toolkit_, "ctrlStormwaterReuse1", chart_};
   int changes_ = 0;
   int presses_ = 0;
@@ -270,7 +270,7 @@ TEST_F(ChartWindow, ResizingKeepsThePointInPlotCoordinates) {
   Release(480, 434);
   hosted_.Place().Move(0, 0, 400, 600);
   ExpectHotspotAt(480, 434);
-  EXPECT_EQ(chart_.HotspotX(), 20 + 180);  // the frame is 360 wide here, and V = 3.5 of 7
+  EXPECT_EQ(chart_.Point().pixel.X, 20 + 180);  // the frame is 360 wide here, and V = 3.5 of 7
   HandleMessages();
   const Picture shown = Shown();
   EXPECT_EQ(shown.size, (Size{400, 600}));

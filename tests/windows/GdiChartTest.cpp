@@ -44,7 +44,7 @@ class GoldenOnGdi : public testing::TestWithParam<GoldenChart> {
 
 Picture PaintChart(const GoldenChart& golden) {
   HeadlessDesktop desktop;
-  ctrlStormwaterReuse chart(desktop, ORVIK_DATA);
+  ctrlStormwaterReuse chart(ORVIK_DATA);
   chart.SetCurveData(golden.station);
   chart.Resize(golden.size.width, golden.size.height);
   std::string E;
@@ -103,7 +103,7 @@ class MarksOnGdi : public testing::Test {
   HeadlessDesktop desktop_;
   MemoryScreen screen_{kSize};
   ScreenHost host_{screen_.Dc()};
-  ctrlStormwaterReuse chart_{desktop_, ORVIK_DATA};
+  ctrlStormwaterReuse chart_{ORVIK_DATA};
 };
 
 TEST_F(MarksOnGdi, TheHotspotComesAndGoesWithoutATrace) {

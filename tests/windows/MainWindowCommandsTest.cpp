@@ -179,7 +179,7 @@ TEST(MainWindowLeaving, ExitButtonsAndReturnMenuLeave) {
 TEST(MainWindowLeaving, MenuAndMnemonicSolveForWhatWasTypedLast) {
   for (const bool byMenu : {true, false}) {
     std::string V;
-    FormOnScreen form(2, {{}, [&](Form1& left) { V = left.Fields().txtV.Text(); }});
+    FormOnScreen form(2, {{}, [&](Form1& left) { V = left.Fields().Box(Field::V).Text(); }});
     form.Choose("cmbClimateStation", "Tampa");
     form.Choose("cmbSolveFor", "Efficiency");
     form.Type("txtBasinArea", "10");
@@ -240,7 +240,7 @@ TEST(MainWindowHost, ACallWhileTheWindowIsOpenIsRefused) {
   Form1* opened = nullptr;
   FormOnScreen form(2, {[&](Form1& made) {
                           opened = &made;
-                          made.Fields().txtBasinArea.OnChange = [&] {
+                          made.Fields().Box(Field::BasinArea).OnChange = [&] {
                             try {
                               opened->ShowModally();
                             } catch (const std::logic_error&) {

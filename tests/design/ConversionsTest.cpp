@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/RuntimeErrors.h"
-#include "project/Conversions.h"
+#include "design/Conversions.h"
 
 namespace orvik {
 namespace {
@@ -23,7 +23,7 @@ TEST(Conversions, GallonsPerDayBeyondSinglePrecisionAreAFault) {
 
 TEST(Conversions, NormalizedStorageIsAFootDepthOnTheEia) {
   std::string site;
-  std::string message;
+  Message message;
   EXPECT_TRUE(NormalizedStorageToSiteStorage("12", "5", site, message));
   EXPECT_EQ(site, "5");
   EXPECT_TRUE(NormalizedStorageToSiteStorage(" 3 ", " 5 ", site, message));
@@ -32,10 +32,10 @@ TEST(Conversions, NormalizedStorageIsAFootDepthOnTheEia) {
 
 TEST(Conversions, NormalizedReuseIsSpreadOverTheIrrigationAreaForAWeek) {
   std::string site;
-  std::string message = "old";
+  Message message{MessageId::MissingData};
   EXPECT_TRUE(NormalizedReuseToSiteReuse("0.125", "5", "5", site, message));
   EXPECT_EQ(site, "0.875");
-  EXPECT_EQ(message, "");
+  EXPECT_EQ(message, Message{});
   EXPECT_TRUE(NormalizedReuseToSiteReuse("0.125", "5", "10", site, message));
   EXPECT_EQ(site, "0.4375");
 }
@@ -44,7 +44,7 @@ TEST(Conversions, NormalizedReuseIsSpreadOverTheIrrigationAreaForAWeek) {
 // step outside of this code, each step rounded to single precision.
 TEST(Conversions, TheOrderOfOperationsIsPartOfTheResult) {
   std::string site;
-  std::string message;
+  Message message;
   // V x EIA / 12 and double precision give 7.9765 and 9.33875.
   EXPECT_TRUE(NormalizedStorageToSiteStorage("2.58", "37.1", site, message));
   EXPECT_EQ(site, "7.976499");
@@ -62,14 +62,14 @@ TEST(Conversions, TheOrderOfOperationsIsPartOfTheResult) {
 
 TEST(Conversions, NoSignIsRefused) {
   std::string site;
-  std::string message;
+  Message message;
   EXPECT_TRUE(NormalizedReuseToSiteReuse("-0.125", "5", "5", site, message));
   EXPECT_EQ(site, "-.875");
 }
 
 TEST(Conversions, AnIrrigationAreaOfZeroIsADivisionByZero) {
   std::string site;
-  std::string message;
+  Message message;
   EXPECT_THROW(NormalizedReuseToSiteReuse("1", "5", "0", site, message), DivisionByZeroError);
 }
 
@@ -88,10 +88,10 @@ TEST(Conversions, EveryMissingOrBadTextHasItsSentence) {
       {"", "", "The normalized storage volume has not been defined."},
   };
   std::string site;
-  std::string message;
+  Message message;
   for (const auto& bad : storage) {
     EXPECT_FALSE(NormalizedStorageToSiteStorage(bad.V, bad.EIA, site, message)) << bad.message;
-    EXPECT_EQ(message, bad.message);
+    EXPECT_EQ(Sentence(message), bad.message);
   }
   const struct {
     const char* R;
@@ -110,7 +110,7 @@ TEST(Conversions, EveryMissingOrBadTextHasItsSentence) {
   for (const auto& bad : reuse) {
     EXPECT_FALSE(NormalizedReuseToSiteReuse(bad.R, bad.EIA, bad.area, site, message))
         << bad.message;
-    EXPECT_EQ(message, bad.message);
+    EXPECT_EQ(Sentence(message), bad.message);
   }
 }
 
