@@ -1,15 +1,22 @@
 #include "files/SafeReplace.h"
 
+#include <array>
+#include <charconv>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <optional>
+#include <random>
 
+#include "base/NewFile.h"
 #include "base/Paths.h"
 
 namespace orvik {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr int kMostNamesTried = 100;  // a disk on which every name is taken is out of order
 
 // Where a link leads; a path that is not a link, or leads nowhere, as it is.
 fs::path LinkTarget(const fs::path& path) {
@@ -28,19 +35,25 @@ bool IsReadOnly(const fs::path& path) {
   return !std::ofstream(path, std::ios::binary | std::ios::app);  // opening alone changes nothing
 }
 
-// A name in the same folder that no file has; short, whatever the length of the file's own.
-fs::path FreeNameBeside(const fs::path& path) {
-  std::error_code error;
-  for (int i = 1;; ++i) {
-    fs::path beside = path.parent_path() / ("~saving" + std::to_string(i) + ".kav");
-    if (!fs::exists(beside, error)) return beside;
-  }
+// Random, so that two windows which save into one folder take two names; short, whatever the length
+// of the file's own.
+fs::path RandomNameBeside(const fs::path& path) {
+  std::random_device random;
+  const std::uint64_t number = std::uint64_t{random()} << 32U | random();
+  std::array<char, 16> digits{};
+  char* end = std::to_chars(digits.begin(), digits.end(), number, 16).ptr;
+  return path.parent_path() / ("~kav-" + std::string(digits.begin(), end) + ".tmp");
 }
 
-bool Holds(const fs::path& path, const std::string& expected) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  return file && bytes == expected;
+// The new file, beside the target; nothing where it cannot be written.
+std::optional<fs::path> WriteBeside(const fs::path& target, std::string_view bytes) {
+  for (int i = 0; i < kMostNamesTried; ++i) {
+    const fs::path beside = RandomNameBeside(target);
+    const NewFileOutcome outcome = WriteNewFile(beside, bytes);
+    if (outcome == NewFileOutcome::Written) return beside;
+    if (outcome == NewFileOutcome::Failed) break;
+  }
+  return std::nullopt;
 }
 
 bool TakePlaceOf(const fs::path& beside, const fs::path& target) {
@@ -53,16 +66,14 @@ bool TakePlaceOf(const fs::path& beside, const fs::path& target) {
 
 }  // namespace
 
-bool ReplaceFile(const std::string& path, const std::string& expected,
-                 const std::function<bool(const std::string& besides)>& write) {
+bool ReplaceFile(const std::string& path, std::string_view bytes) {
   const fs::path target = LinkTarget(PathFromUtf8(path));
   if (IsReadOnly(target)) return false;
-  const fs::path beside = FreeNameBeside(target);
-  if (write(PathToUtf8(beside)) && Holds(beside, expected) && TakePlaceOf(beside, target)) {
-    return true;
-  }
+  const auto beside = WriteBeside(target, bytes);
+  if (!beside) return false;
+  if (TakePlaceOf(*beside, target)) return true;
   std::error_code ignored;
-  fs::remove(beside, ignored);
+  fs::remove(*beside, ignored);
   return false;
 }
 
