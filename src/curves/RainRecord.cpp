@@ -1,11 +1,10 @@
 #include "curves/RainRecord.h"
 
 #include <algorithm>
-#include <fstream>
 #include <initializer_list>
-#include <iterator>
 #include <optional>
 
+#include "base/FileBytes.h"
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/TextEncoding.h"
@@ -213,13 +212,10 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
 }
 
 RainRecord ReadRainRecord(const std::string& path, RainUnit unit, const RainColumns& columns) {
-  std::ifstream file(PathFromUtf8(path), std::ios::binary);
-  if (!file || !FileExists(path)) {
-    throw FileError("The rainfall file " + path + " cannot be read.");
-  }
-  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const auto bytes = FileExists(path) ? ReadFileBytes(path) : std::nullopt;
+  if (!bytes) throw FileError("The rainfall file " + path + " cannot be read.");
   try {
-    return ParseRainRecord(DecodeFileText(bytes), unit, columns);
+    return ParseRainRecord(DecodeFileText(*bytes), unit, columns);
   } catch (const FileError& error) {
     throw FileError("The rainfall file " + path + " cannot be used.\n" + error.what());
   }
