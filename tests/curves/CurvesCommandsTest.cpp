@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/Paths.h"
+#include "curves/CurveMaker.h"
 #include "engine/ClimateStations.h"
 #include "support/KavRun.h"
 #include "support/TempFolder.h"
@@ -262,6 +263,26 @@ TEST(CurvesMakeAll, TablesNameTheMethodAndWhatTheRecordsLack) {
   EXPECT_EQ(station["findings"]["gapDays"], 367);
   EXPECT_EQ(station["findings"]["duplicates"], 1);
   EXPECT_EQ(station["findings"]["negatives"], 1);
+}
+
+TEST(CurvesMakeAll, MakesTheShippedCurvesAgainByteForByte) {
+  const test::TempFolder folder;
+  const std::string data(ORVIK_DATA_DIR);
+  const KavRun made = RunCommand(
+      {"curves", "make-all", "--rain-dir", data + "Rain", "-o", folder.Path(), "--json"});
+  ASSERT_EQ(made.exitCode, 0) << made.err;
+  const auto stations = nlohmann::json::parse(made.out)["stations"];
+  ASSERT_EQ(stations.size(), static_cast<std::size_t>(NumRainfallStations()));
+  for (const auto& station : stations) {
+    const auto name = station["station"].get<std::string>();
+    const std::string file = name + ".crv";
+    EXPECT_EQ(test::ReadBytes(folder / file), test::ReadBytes(data + "KAV Data/" + file)) << name;
+    for (const auto& curve : station["curves"]) {
+      EXPECT_LE(curve["maxError"], kMostError) << name;
+      EXPECT_LE(curve["meanError"], kMostMeanError) << name;
+    }
+  }
+  EXPECT_EQ(test::ReadBytes(folder / "SOURCES.md"), test::ReadBytes(data + "KAV Data/SOURCES.md"));
 }
 
 TEST(CurvesMakeAll, WantsItsFoldersNamed) {
