@@ -7,10 +7,10 @@
 #include "base/Paths.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/OutputFile.h"
 #include "curves/CurveFileWriter.h"
 #include "curves/CurveMaker.h"
 #include "curves/FixedText.h"
-#include "curves/OutputFile.h"
 #include "curves/RainDate.h"
 #include "curves/StationSources.h"
 

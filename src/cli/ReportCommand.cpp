@@ -4,9 +4,9 @@
 
 #include "cli/Command.h"
 #include "cli/DateOption.h"
+#include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
 #include "curves/FileError.h"
-#include "curves/OutputFile.h"
 #include "platform/cairo/CairoPrinter.h"
 #include "platform/cairo/PictureFile.h"
 #include "platform/headless/HeadlessDesktop.h"

@@ -1,7 +1,7 @@
 #include "files/FileCommands.h"
 
 #include "base/Paths.h"
-#include "files/SafeReplace.h"
+#include "base/SafeFile.h"
 
 namespace orvik {
 namespace {
@@ -95,7 +95,7 @@ bool FileCommands::SaveText(std::string& text) const {
 bool FileCommands::SaveFile(const std::string& path) {
   if (path.empty()) return false;
   std::string text;
-  const bool isSaved = SaveText(text) && ReplaceFile(path, text);
+  const bool isSaved = SaveText(text) && !WriteFileSafely(path, text);
   currentFolder_ = FolderOf(path);
   if (isSaved) currentPath_ = path;
   return isSaved;

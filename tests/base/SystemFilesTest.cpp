@@ -4,19 +4,21 @@
 #include <thread>
 #ifndef _WIN32
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <csignal>
 #endif
 
-#include "base/NewFile.h"
 #include "base/Paths.h"
+#include "base/SystemFiles.h"
 #include "support/TempFolder.h"
 
 namespace orvik {
 namespace {
 
 NewFileOutcome Write(const std::string& path, std::string_view bytes) {
-  return WriteNewFile(PathFromUtf8(path), bytes);
+  return WriteNewFile(PathFromUtf8(path), bytes, {});
 }
 
 TEST(WriteNewFile, HoldsTheBytesAsTheyAre) {
@@ -92,6 +94,32 @@ TEST(WriteNewFile, LeavesNothingWhereTheDiskIsFull) {
   EXPECT_FALSE(FileExists(folder / "a"));
 }
 #endif
+
+#ifndef _WIN32
+// A private project stays private while it is written, and its owner's where the superuser saves.
+TEST(WriteNewFile, TakesAfterTheFileBefore) {
+  const test::TempFolder folder;
+  const std::string old = folder.Write("old", "old");
+  ASSERT_EQ(chmod(old.c_str(), 0600), 0);
+  const uid_t owner = geteuid() == 0 ? 12345 : geteuid();
+  ASSERT_EQ(chown(old.c_str(), owner, getegid()), 0);
+  EXPECT_EQ(WriteNewFile(PathFromUtf8(folder / "new"), "new", PathFromUtf8(old)),
+            NewFileOutcome::Written);
+  struct stat status {};
+  ASSERT_EQ(stat((folder / "new").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0600U);
+  EXPECT_EQ(status.st_uid, owner);
+}
+#endif
+
+TEST(RenameOver, ARefusalLeavesBothFiles) {
+  const test::TempFolder folder;
+  const std::string file = folder.Write("file", "mine");
+  folder.Write("folder/inside", "x");
+  EXPECT_FALSE(RenameOver(PathFromUtf8(file), PathFromUtf8(folder / "folder")));
+  EXPECT_EQ(test::ReadBytes(file), "mine");
+  EXPECT_EQ(test::ReadBytes(folder / "folder/inside"), "x");
+}
 
 }  // namespace
 }  // namespace orvik
