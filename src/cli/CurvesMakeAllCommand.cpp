@@ -113,7 +113,7 @@ void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
                     {"findings", FindingsJson(station)},
                     {"holdOffDays", station.Options.HoldOffDays},
                     {"abstractionIn", station.Options.AbstractionIn},
-                    {"curves", CurvesJson(station.Made.Set, station.Made.Errors)}});
+                    {"curves", CurvesJson(station.Made.Set, AllJudged(station.Made.Errors))}});
   }
   out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
 }

@@ -40,7 +40,7 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
       << years.MissingDays << " missing days taken as dry), mean "
       << FixedText(years.MeanAnnualIn, 1) << " inches a year, wettest day "
       << FixedText(years.WettestDayIn, 2) << " inches on " << IsoDate(years.WettestDay) << "\n\n";
-  PrintCurvesTable(out, made.Set, made.Errors);
+  PrintCurvesTable(out, made.Set, AllJudged(made.Errors));
 }
 
 void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRecord& record,
@@ -57,7 +57,7 @@ void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRe
                                       {"wettestDay", IsoDate(years.WettestDay)},
                                       {"holdOffDays", pond.HoldOffDays},
                                       {"abstractionIn", pond.AbstractionIn},
-                                      {"curves", CurvesJson(made.Set, made.Errors)}};
+                                      {"curves", CurvesJson(made.Set, AllJudged(made.Errors))}};
   out << object.dump(2) << '\n';
 }
 

@@ -307,6 +307,28 @@ TEST(CurvesCheck, WithRainfallShowsTheErrorsAndWhatTheRunoffForbids) {
   EXPECT_THAT(result.err, HasSubstr("Curve 1 (E = 50%) asks for"));
 }
 
+// A curve that ends where it begins has no volumes to simulate at: an error of 0.00 would praise
+// it.
+TEST(CurvesCheck, ShowsNoErrorForACurveThatItDidNotJudge) {
+  std::string text = test::ReadBytes(kTampa);
+  const auto end = text.find("\r\n0.65\r\n7\r\n");  // of the curve for 50%
+  ASSERT_NE(end, std::string::npos);
+  text.replace(end, 11, "\r\n0.65\r\n0.65\r\n");
+  const test::TempFolder folder;
+  const std::vector<std::string> arguments{
+      "curves", "check", folder.Write("a.crv", text), "--rain", kSample, "--unit", "in", "--json"};
+  const KavRun json = RunCommand(arguments);
+  EXPECT_EQ(json.exitCode, 1);
+  const auto curves = nlohmann::json::parse(json.out)["curves"];
+  for (const char* error : {"maxError", "meanError"}) {
+    EXPECT_TRUE(curves[0].contains(error) && curves[0][error].is_null()) << error;
+    EXPECT_GT(curves[1][error], 0) << error;
+  }
+  const KavRun shown = RunCommand({arguments.begin(), arguments.end() - 1});
+  EXPECT_THAT(shown.out, testing::ContainsRegex("\n50 +0\\.65 +0\\.65[ 0-9.]+ - +-\n"));
+  EXPECT_THAT(shown.out, testing::Not(HasSubstr("0.00")));
+}
+
 TEST(CurvesCheck, NamesTheFaultsOfAFile) {
   std::string text = test::ReadBytes(kTampa);
   const auto E = text.find("\r\n55\r\n");
