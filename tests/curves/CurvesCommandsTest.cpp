@@ -265,6 +265,26 @@ TEST(CurvesMakeAll, TablesNameTheMethodAndWhatTheRecordsLack) {
   EXPECT_EQ(station["findings"]["negatives"], 1);
 }
 
+// Of the options that help, a refusal names those which the command has.
+TEST(CurvesMakeAll, ARefusalNamesTheStationAndItsOwnOptions) {
+  const test::TempFolder folder;
+  const auto refusalOf = [&](const std::string& apalachicola) {
+    folder.Write("rain/Apalachicola.csv", apalachicola);
+    const KavRun result =
+        RunCommand({"curves", "make-all", "--rain-dir", folder / "rain", "-o", folder / "out"});
+    EXPECT_EQ(result.exitCode, 1);
+    return result.err;
+  };
+  EXPECT_THAT(
+      refusalOf(RainEveryFourthDay("2")),
+      testing::MatchesRegex("Apalachicola: No curve for E = .* Choose a larger --r-max.*\n"));
+  // 895 days of 20 inches in ten years.
+  EXPECT_EQ(
+      refusalOf(RainEveryFourthDay("20")),
+      "Apalachicola: Read as \"in\", the mean annual rainfall is 1790 inches; 5 to 200 inches "
+      "are expected.\n");
+}
+
 TEST(CurvesMakeAll, MakesTheShippedCurvesAgainByteForByte) {
   const test::TempFolder folder;
   const std::string data(ORVIK_DATA_DIR);
