@@ -86,12 +86,12 @@ CommandRun AddCurvesCheckCommand(CLI::App& curves) {
   AddRainOptions(*command, request->rain, false);
   AddPondOptions(*command, request->pond);
   command->footer(
-      "Checked: axis intervals, finite numbers, rising E, curves that fall everywhere, lie within "
-      "the axes\n"
-      "and keep a visible gap from each other; with --rain also that each R is above E x mean "
-      "runoff, and\n"
-      "the simulated error of each curve is shown.\n\n"
-      "Example:\n  kav curves check \"KAV Data/Gainesville.crv\" --rain Gainesville.csv --unit in");
+      R"(Checked: axis intervals, finite numbers, rising E, curves that fall everywhere, lie within the axes
+and keep a visible gap from each other; with --rain also that each R is above E x mean runoff, and
+the simulated error of each curve is shown.
+
+Example:
+  kav curves check "KAV Data/Gainesville.crv" --rain Gainesville.csv --unit in)");
   return [request](Console& console, const CommonOptions& options) {
     return RunWithMessages(console, [&] { return Check(console, options.json, *request); });
   };

@@ -115,9 +115,10 @@ CommandRun AddCurvesMakeCommand(CLI::App& curves) {
       ->check(ValidateNotBlank);
   AddPondOptions(*command, request->pond);
   AddAxesOptions(*command, request->axes);
-  command->footer(std::string(kBalanceDefinition) +
-                  "\n\nExample:\n  kav curves make --rain samples/synthetic-rain.csv --unit in "
-                  "--name Sampleville -o Sampleville.crv");
+  command->footer(std::string(kBalanceDefinition) + R"(
+
+Example:
+  kav curves make --rain samples/synthetic-rain.csv --unit in --name Sampleville -o Sampleville.crv)");
   return [request](Console& console, const CommonOptions& options) {
     return RunWithMessages(console, [&] { return Make(console, options.json, *request); });
   };
