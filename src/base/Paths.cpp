@@ -1,14 +1,10 @@
 #include "base/Paths.h"
 
 namespace orvik {
-namespace {
 
-// The system would cut a name at a NUL and answer for another one.
 bool IsWholeName(std::string_view path) {
   return path.find('\0') == std::string_view::npos;
 }
-
-}  // namespace
 
 std::filesystem::path PathFromUtf8(std::string_view text) {
   return {std::u8string(text.begin(), text.end())};

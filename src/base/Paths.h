@@ -13,6 +13,9 @@ inline constexpr char kPathSeparator = std::filesystem::path::preferred_separato
 std::filesystem::path PathFromUtf8(std::string_view text);
 std::string PathToUtf8(const std::filesystem::path& path);
 
+// False for a path with a NUL inside: the system would cut it there and answer for another file.
+bool IsWholeName(std::string_view path);
+
 // `folder` with a separator at its end; the empty text stays empty.
 std::string WithEndingSeparator(std::string folder);
 

@@ -5,10 +5,10 @@
 #include "base/RuntimeErrors.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
+#include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
 #include "cli/StationQuestion.h"
 #include "curves/FileError.h"
-#include "curves/OutputFile.h"
 #include "platform/cairo/PictureFile.h"
 
 namespace orvik {
@@ -147,10 +147,12 @@ CommandRun AddChartCommand(CLI::App& app) {
       ->type_name("WxH")
       ->check(ValidateSize);
   command->footer(
-      "A project's chart marks its design point; a station's does with two of --rate, --volume and "
-      "--efficiency.\nOn a PDF's page, 96 pixels are an inch.\n\nExamples:\n"
-      "  kav chart samples/efficiency.kav -o chart.png\n"
-      "  kav chart --station Tampa --rate 0.15 --volume 3 -o tampa.pdf --size 1200x800");
+      R"(A project's chart marks its design point; a station's does with two of --rate, --volume and --efficiency.
+On a PDF's page, 96 pixels are an inch.
+
+Examples:
+  kav chart samples/efficiency.kav -o chart.png
+  kav chart --station Tampa --rate 0.15 --volume 3 -o tampa.pdf --size 1200x800)");
   return [request](Console& console, const CommonOptions& options) {
     return RunChart(console, options, *request);
   };

@@ -44,13 +44,14 @@ std::optional<PondDays> ReadDays(Console& console, const CurvesCheckRequest& req
   return BuildPondDays(years, ToPondOptions(request.pond));
 }
 
-// How far a simulation along each curve is from its E; empty without rainfall.
-std::vector<CurveError> JudgeAll(const CurveSet& set, const std::optional<PondDays>& days) {
-  std::vector<CurveError> errors;
+// How far a simulation along each curve is from its E, where there is something to simulate along;
+// empty without rainfall.
+CurveErrors JudgeAll(const CurveSet& set, const std::optional<PondDays>& days) {
+  CurveErrors errors;
   if (!days) return errors;
   for (const EfficiencyCurve& curve : set.Curves) {
     const bool hasRange = curve.VEnd > curve.VStart;
-    errors.push_back(hasRange ? JudgeCurve(*days, curve) : CurveError{});
+    errors.push_back(hasRange ? std::optional(JudgeCurve(*days, curve)) : std::nullopt);
   }
   return errors;
 }
@@ -60,7 +61,7 @@ ExitCode Check(Console& console, bool json, const CurvesCheckRequest& request) {
   const std::optional<PondDays> days = ReadDays(console, request);
   const auto meanRunoff = days ? std::optional(days->MeanRunoff()) : std::nullopt;
   const std::vector<std::string> faults = CheckCurves(set, meanRunoff);
-  const std::vector<CurveError> errors = JudgeAll(set, days);
+  const CurveErrors errors = JudgeAll(set, days);
   if (json) {
     const nlohmann::ordered_json object{{"file", request.file},
                                         {"title", set.Title},
@@ -85,12 +86,12 @@ CommandRun AddCurvesCheckCommand(CLI::App& curves) {
   AddRainOptions(*command, request->rain, false);
   AddPondOptions(*command, request->pond);
   command->footer(
-      "Checked: axis intervals, finite numbers, rising E, curves that fall everywhere, lie within "
-      "the axes\n"
-      "and keep a visible gap from each other; with --rain also that each R is above E x mean "
-      "runoff, and\n"
-      "the simulated error of each curve is shown.\n\n"
-      "Example:\n  kav curves check \"KAV Data/Gainesville.crv\" --rain Gainesville.csv --unit in");
+      R"(Checked: axis intervals, finite numbers, rising E, curves that fall everywhere, lie within the axes
+and keep a visible gap from each other; with --rain also that each R is above E x mean runoff, and
+the simulated error of each curve is shown.
+
+Example:
+  kav curves check "KAV Data/Gainesville.crv" --rain Gainesville.csv --unit in)");
   return [request](Console& console, const CommonOptions& options) {
     return RunWithMessages(console, [&] { return Check(console, options.json, *request); });
   };

@@ -11,12 +11,11 @@ namespace orvik {
 CommandRun AddCurvesCommand(CLI::App& app) {
   auto* curves = app.add_subcommand("curves", "Make and check design curves");
   curves->require_subcommand(1);
-  curves->footer(
-      "Examples:\n"
-      "  kav curves make --rain samples/synthetic-rain.csv --unit in --name Sampleville -o "
-      "Sampleville.crv\n"
-      "  kav curves check Sampleville.crv\n\n"
-      "kav curves make --help explains the method.");
+  curves->footer(R"(Examples:
+  kav curves make --rain samples/synthetic-rain.csv --unit in --name Sampleville -o Sampleville.crv
+  kav curves check Sampleville.crv
+
+kav curves make --help explains the method.)");
   auto runs = std::make_shared<std::vector<std::pair<CLI::App*, CommandRun>>>();
   const auto add = [&](CommandRun (*addCommand)(CLI::App&)) {
     CommandRun run = addCommand(*curves);

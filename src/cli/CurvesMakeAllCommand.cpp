@@ -7,15 +7,17 @@
 #include "base/Paths.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/OutputFile.h"
 #include "curves/CurveFileWriter.h"
 #include "curves/FixedText.h"
-#include "curves/OutputFile.h"
 #include "curves/RainDate.h"
 #include "curves/StationCurves.h"
 #include "engine/ClimateStations.h"
 
 namespace orvik {
 namespace {
+
+constexpr std::string_view kMadeBy = "`kav curves make-all --rain-dir DIR -o DIR`";
 
 struct CurvesMakeAllRequest {
   std::string rainFolder;
@@ -40,6 +42,21 @@ void ShowProgress(Console& console, int station) {
               << ClimateStationName(static_cast<std::int16_t>(station)) << std::flush;
 }
 
+// The refusal of a station names it. All records are in inches here: no unit can be chosen.
+StationCurves MakeStation(const std::string& rainFolder, std::int16_t station,
+                          const PondOptions& pond, const ChartAxes& axes) {
+  const auto named = [&](const std::string& sentence) {
+    return Refusal(std::string(ClimateStationName(station)) + ": " + sentence);
+  };
+  try {
+    return MakeStationCurves(rainFolder, station, pond, axes);
+  } catch (const ImplausibleRain& refusal) {
+    throw named(refusal.what());
+  } catch (const Refusal&) {
+    throw named(SentenceOfRefusal());
+  }
+}
+
 std::vector<StationCurves> MakeAll(Console& console, const CurvesMakeAllRequest& request) {
   const PondOptions pond = ToPondOptions(request.pond);
   const ChartAxes axes = ToChartAxes(request.axes);
@@ -47,7 +64,7 @@ std::vector<StationCurves> MakeAll(Console& console, const CurvesMakeAllRequest&
   try {
     for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
       ShowProgress(console, i);
-      stations.push_back(MakeStationCurves(WithEndingSeparator(request.rainFolder), i, pond, axes));
+      stations.push_back(MakeStation(WithEndingSeparator(request.rainFolder), i, pond, axes));
     }
   } catch (...) {
     ShowProgress(console, NumRainfallStations() + 1);
@@ -63,7 +80,7 @@ void WriteAll(const std::string& folder, const std::vector<StationCurves>& stati
   for (const StationCurves& station : stations) {
     WriteOutputFile(prefix + NameOf(station) + ".crv", CurveFileText(station.Made.Set));
   }
-  WriteOutputFile(prefix + "SOURCES.md", SourcesTable(stations));
+  WriteOutputFile(prefix + "SOURCES.md", SourcesTable(stations, kMadeBy));
 }
 
 // The worst of a station's curves.
@@ -113,7 +130,7 @@ void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
                     {"findings", FindingsJson(station)},
                     {"holdOffDays", station.Options.HoldOffDays},
                     {"abstractionIn", station.Options.AbstractionIn},
-                    {"curves", CurvesJson(station.Made.Set, station.Made.Errors)}});
+                    {"curves", CurvesJson(station.Made.Set, AllJudged(station.Made.Errors))}});
   }
   out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
 }
@@ -136,9 +153,12 @@ CommandRun AddCurvesMakeAllCommand(CLI::App& curves) {
       ->check(ValidateNotBlank);
   AddPondOptions(*command, request->pond);
   AddAxesOptions(*command, request->axes);
-  command->footer(std::string(kBalanceDefinition) +
-                  "\n\nNothing is written unless all stations could be made.\n\n"
-                  "Example:\n  kav curves make-all --rain-dir rain -o \"KAV Data\"");
+  command->footer(std::string(kBalanceDefinition) + R"(
+
+Nothing is written unless all stations could be made.
+
+Example:
+  kav curves make-all --rain-dir rain -o "KAV Data")");
   return [request](Console& console, const CommonOptions& options) {
     return RunWithMessages(console, [&] {
       const auto stations = MakeAll(console, *request);

@@ -7,10 +7,10 @@
 #include "base/Paths.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/OutputFile.h"
 #include "curves/CurveFileWriter.h"
 #include "curves/CurveMaker.h"
 #include "curves/FixedText.h"
-#include "curves/OutputFile.h"
 #include "curves/RainDate.h"
 #include "curves/StationSources.h"
 
@@ -40,7 +40,7 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
       << years.MissingDays << " missing days taken as dry), mean "
       << FixedText(years.MeanAnnualIn, 1) << " inches a year, wettest day "
       << FixedText(years.WettestDayIn, 2) << " inches on " << IsoDate(years.WettestDay) << "\n\n";
-  PrintCurvesTable(out, made.Set, made.Errors);
+  PrintCurvesTable(out, made.Set, AllJudged(made.Errors));
 }
 
 void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRecord& record,
@@ -57,7 +57,7 @@ void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRe
                                       {"wettestDay", IsoDate(years.WettestDay)},
                                       {"holdOffDays", pond.HoldOffDays},
                                       {"abstractionIn", pond.AbstractionIn},
-                                      {"curves", CurvesJson(made.Set, made.Errors)}};
+                                      {"curves", CurvesJson(made.Set, AllJudged(made.Errors))}};
   out << object.dump(2) << '\n';
 }
 
@@ -115,9 +115,10 @@ CommandRun AddCurvesMakeCommand(CLI::App& curves) {
       ->check(ValidateNotBlank);
   AddPondOptions(*command, request->pond);
   AddAxesOptions(*command, request->axes);
-  command->footer(std::string(kBalanceDefinition) +
-                  "\n\nExample:\n  kav curves make --rain samples/synthetic-rain.csv --unit in "
-                  "--name Sampleville -o Sampleville.crv");
+  command->footer(std::string(kBalanceDefinition) + R"(
+
+Example:
+  kav curves make --rain samples/synthetic-rain.csv --unit in --name Sampleville -o Sampleville.crv)");
   return [request](Console& console, const CommonOptions& options) {
     return RunWithMessages(console, [&] { return Make(console, options.json, *request); });
   };

@@ -4,29 +4,32 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "curves/CurveMaker.h"
 #include "curves/FileError.h"
 #include "curves/RainUnit.h"
+#include "curves/RainYears.h"
 #include "curves/Refusal.h"
 
 namespace orvik {
 
 const std::string_view kBalanceDefinition =
-    "Method: a daily water balance per unit of equivalent impervious area (EIA). Runoff of a day = "
-    "its\n"
-    "rainfall depth on the EIA; rain on the pond and its evaporation cancel over a year, "
-    "groundwater\n"
-    "exchange is zero. Each day the storage takes the runoff, what exceeds V spills, then up to R "
-    "is "
-    "used.\n"
-    "E = used / runoff over the record, in percent. The storage starts empty; the first usable "
-    "year "
-    "is run\n"
-    "once as a warm-up that is not counted, then the whole record is counted. R is the average "
-    "rate "
-    "per day,\n"
-    "available every day.";
+    R"(Method: a daily water balance per unit of equivalent impervious area (EIA). Runoff of a day = its
+rainfall depth on the EIA; rain on the pond and its evaporation cancel over a year, groundwater
+exchange is zero. Each day the storage takes the runoff, what exceeds V spills, then up to R is used.
+E = used / runoff over the record, in percent. The storage starts empty; the first usable year is run
+once as a warm-up that is not counted, then the whole record is counted. R is the average rate per day,
+available every day.)";
 
 namespace {
+
+constexpr int kMostHoldOff = 365;  // days; a year of them leaves none for use
+
+// What axes may be asked for. A curve covers an inch of V and begins above 0; R of a few hundredths
+// is drizzle. The other ends are far beyond any pond.
+constexpr double kLeastVMax = 2;
+constexpr double kMostVMax = 100;
+constexpr double kLeastRMax = 0.05;
+constexpr double kMostRMax = 10;
 
 std::string ValidatePositive(const std::string& text) {
   std::string fault = ValidateNumber(text);
@@ -36,7 +39,8 @@ std::string ValidatePositive(const std::string& text) {
 
 std::string ValidateHoldOff(const std::string& text) {
   const auto days = ParseWholeNumber(text);
-  return days && *days >= 0 && *days <= 365 ? "" : "\"" + text + "\" is not a number of days";
+  return days && *days >= 0 && *days <= kMostHoldOff ? ""
+                                                     : "\"" + text + "\" is not a number of days";
 }
 
 std::string ValidateAbstraction(const std::string& text) {
@@ -52,6 +56,28 @@ std::string ValidateUnit(const std::string& text) {
     names += (names.empty() ? "" : ", ") + std::string(RainUnitName(unit));
   }
   return "\"" + text + "\" is not a unit of rainfall; the units are " + names;
+}
+
+void RequireEnd(const char* option, double most, double least, double largest, const char* unit) {
+  if (most >= least && most <= largest) return;
+  throw UsageError(std::string(option) + " must be " + ConvertToString(least) + " to " +
+                   ConvertToString(largest) + " " + unit + ".");
+}
+
+// " Choose a larger --r-max."
+std::string Advice(const AxesTooSmall& refusal) {
+  const bool isRateAlone = refusal.Remedy() == AxisRemedy::LargerRMax;
+  return std::string(" Choose a larger --r-max") + (isRateAlone ? "." : " or --v-max.");
+}
+
+std::string Advice(const ImplausibleRain& refusal) {
+  std::string units;
+  for (const auto& [unit, annualIn] : refusal.Units()) {
+    units += (units.empty() ? "--unit " : ", --unit ") + std::string(RainUnitName(unit)) + " (" +
+             RoundedDepth(annualIn) + " inches a year)";
+  }
+  if (units.empty()) return " No other unit makes sense of it either.";
+  return " A unit that would make sense: " + units + ".";
 }
 
 // The axis from 0 to `most` with the step that was asked for, or a round one.
@@ -89,13 +115,18 @@ void AddPondOptions(CLI::App& command, PondArguments& arguments) {
 }
 
 void AddAxesOptions(CLI::App& command, AxesArguments& arguments) {
-  const auto add = [&](const char* name, std::string& target, const char* what) {
-    command.add_option(name, target, what)->type_name("NUMBER")->check(ValidatePositive);
+  const auto add = [&](const char* name, std::string& target, const std::string& what,
+                       double ifNotGiven) {
+    command.add_option(name, target, what + " (" + ConvertToString(ifNotGiven) + ")")
+        ->type_name("NUMBER")
+        ->check(ValidatePositive);
   };
-  add("--v-max", arguments.VMax, "End of the V axis and of all curves, inches on the EIA (7)");
-  add("--v-interval", arguments.VInterval, "Step of the V axis (1)");
-  add("--r-max", arguments.RMax, "End of the R axis, inches per day on the EIA (0.4)");
-  add("--r-interval", arguments.RInterval, "Step of the R axis (0.05)");
+  const ChartAxes axes;
+  add("--v-max", arguments.VMax, "End of the V axis and of all curves, inches on the EIA",
+      axes.VMax);
+  add("--v-interval", arguments.VInterval, "Step of the V axis", axes.VInterval);
+  add("--r-max", arguments.RMax, "End of the R axis, inches per day on the EIA", axes.RMax);
+  add("--r-interval", arguments.RInterval, "Step of the R axis", axes.RInterval);
 }
 
 void AddRainOptions(CLI::App& command, RainArguments& arguments, bool required) {
@@ -131,10 +162,8 @@ ChartAxes ToChartAxes(const AxesArguments& arguments) {
   ChartAxes axes;
   SetAxis(arguments.VMax, arguments.VInterval, "v", axes.VMax, axes.VInterval);
   SetAxis(arguments.RMax, arguments.RInterval, "r", axes.RMax, axes.RInterval);
-  if (axes.VMax < 2 || axes.VMax > 100) throw UsageError("--v-max must be 2 to 100 inches.");
-  if (axes.RMax < 0.05 || axes.RMax > 10) {
-    throw UsageError("--r-max must be 0.05 to 10 inches per day.");
-  }
+  RequireEnd("--v-max", axes.VMax, kLeastVMax, kMostVMax, "inches");
+  RequireEnd("--r-max", axes.RMax, kLeastRMax, kMostRMax, "inches per day");
   return axes;
 }
 
@@ -149,14 +178,26 @@ void WarnOfSuspectedCode(Console& console, const RainYears& years, const std::st
   PrintMessage(console, (name.empty() ? "" : name + ": ") + warning);
 }
 
+std::string SentenceOfRefusal() {
+  try {
+    throw;
+  } catch (const AxesTooSmall& refusal) {
+    return refusal.what() + Advice(refusal);
+  } catch (const ImplausibleRain& refusal) {
+    return refusal.what() + Advice(refusal);
+  } catch (const Refusal& refusal) {
+    return refusal.what();
+  }
+}
+
 ExitCode RunWithMessages(Console& console, const std::function<ExitCode()>& work) {
   try {
     return work();
   } catch (const UsageError& error) {
     PrintMessage(console, error.what());
     return ExitCode::WrongUsage;
-  } catch (const Refusal& refusal) {
-    PrintMessage(console, refusal.what());
+  } catch (const Refusal&) {
+    PrintMessage(console, SentenceOfRefusal());
     return ExitCode::CalculationSaysNo;
   } catch (const FileError& error) {
     PrintMessage(console, error.what());

@@ -60,6 +60,9 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// The sentence of the Refusal that is being handled, with the options that help.
+std::string SentenceOfRefusal();
+
 // Runs the command's work; its refusals become a message and an exit code.
 ExitCode RunWithMessages(Console& console, const std::function<ExitCode()>& work);
 

@@ -6,9 +6,23 @@
 #include "curves/FixedText.h"
 
 namespace orvik {
+namespace {
 
-void PrintCurvesTable(std::ostream& out, const CurveSet& set,
-                      const std::vector<CurveError>& errors) {
+std::string ErrorText(const std::optional<CurveError>& error, double CurveError::*part) {
+  return error ? FixedText(*error.*part, 2) : "-";
+}
+
+nlohmann::ordered_json ErrorJson(const std::optional<CurveError>& error, double CurveError::*part) {
+  return error ? nlohmann::ordered_json(*error.*part) : nullptr;
+}
+
+}  // namespace
+
+CurveErrors AllJudged(const std::vector<CurveError>& errors) {
+  return {errors.begin(), errors.end()};
+}
+
+void PrintCurvesTable(std::ostream& out, const CurveSet& set, const CurveErrors& errors) {
   out << "E       VStart     VEnd   R at VStart   R at VEnd"
       << (errors.empty() ? "" : "   largest error   mean error") << '\n'
       << "%           in       in        in/day      in/day"
@@ -20,21 +34,21 @@ void PrintCurvesTable(std::ostream& out, const CurveSet& set,
         << FixedText(CurveR(curve.VStart, curve), 4) << std::setw(12)
         << FixedText(CurveR(curve.VEnd, curve), 4);
     if (!errors.empty()) {
-      out << std::setw(16) << FixedText(errors[i].Max, 2) << std::setw(13)
-          << FixedText(errors[i].Mean, 2);
+      out << std::setw(16) << ErrorText(errors[i], &CurveError::Max) << std::setw(13)
+          << ErrorText(errors[i], &CurveError::Mean);
     }
     out << '\n';
   }
 }
 
-nlohmann::ordered_json CurvesJson(const CurveSet& set, const std::vector<CurveError>& errors) {
+nlohmann::ordered_json CurvesJson(const CurveSet& set, const CurveErrors& errors) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (std::size_t i = 0; i < set.Curves.size(); ++i) {
     const EfficiencyCurve& curve = set.Curves[i];
     nlohmann::ordered_json row{{"E", curve.E}, {"VStart", curve.VStart}, {"VEnd", curve.VEnd}};
     if (!errors.empty()) {
-      row["maxError"] = errors[i].Max;
-      row["meanError"] = errors[i].Mean;
+      row["maxError"] = ErrorJson(errors[i], &CurveError::Max);
+      row["meanError"] = ErrorJson(errors[i], &CurveError::Mean);
     }
     list.push_back(row);
   }

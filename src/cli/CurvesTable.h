@@ -2,6 +2,7 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <ostream>
 #include <vector>
 
@@ -10,11 +11,17 @@
 
 namespace orvik {
 
-// One line for each curve; the columns of errors only where `errors` is not empty (then it has one
-// element for each curve).
-void PrintCurvesTable(std::ostream& out, const CurveSet& set,
-                      const std::vector<CurveError>& errors);
+// One element for each curve, nothing for one that was not judged; or empty where none was.
+using CurveErrors = std::vector<std::optional<CurveError>>;
 
-nlohmann::ordered_json CurvesJson(const CurveSet& set, const std::vector<CurveError>& errors);
+CurveErrors AllJudged(const std::vector<CurveError>& errors);
+
+// One line for each curve; the columns of errors only where `errors` is not empty. "-" is the error
+// of a curve that was not judged.
+void PrintCurvesTable(std::ostream& out, const CurveSet& set, const CurveErrors& errors);
+
+// One object for each curve; "maxError" and "meanError" only where `errors` is not empty, null for
+// a curve that was not judged.
+nlohmann::ordered_json CurvesJson(const CurveSet& set, const CurveErrors& errors);
 
 }  // namespace orvik

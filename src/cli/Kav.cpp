@@ -44,11 +44,11 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
       ->type_name("DIR");
   app.add_flag("--json", options.json, "Print one JSON object instead of text");
   app.require_subcommand(1);
-  app.footer(
-      "Example:\n  kav solve --station Gainesville --rate 0.15 --volume 3\n\n"
-      "Exit codes: 0 done; 1 the calculation says no, its message is on standard error; 2 wrong "
-      "usage;\n"
-      "3 a file cannot be read or written.");
+  app.footer(R"(Example:
+  kav solve --station Gainesville --rate 0.15 --volume 3
+
+Exit codes: 0 done; 1 the calculation says no, its message is on standard error; 2 wrong usage;
+3 a file cannot be read or written.)");
   app.fallthrough();                       // the common options may stand behind the command
   app.allow_windows_style_options(false);  // "/folder/file" is a path on every system
 

@@ -4,9 +4,9 @@
 
 #include "cli/Command.h"
 #include "cli/DateOption.h"
+#include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
 #include "curves/FileError.h"
-#include "curves/OutputFile.h"
 #include "platform/cairo/CairoPrinter.h"
 #include "platform/cairo/PictureFile.h"
 #include "printing/ProjectReport.h"
@@ -79,9 +79,10 @@ CommandRun AddReportCommand(CLI::App& app) {
       ->type_name("PAPER")
       ->transform(CLI::IsMember({"letter", "a4"}, CLI::ignore_case));
   command->footer(
-      "The report is written for a project without a result too: it tells why, and the exit code "
-      "is "
-      "1.\n\nExample:\n  kav report samples/efficiency.kav -o report.pdf --paper a4");
+      R"(The report is written for a project without a result too: it tells why, and the exit code is 1.
+
+Example:
+  kav report samples/efficiency.kav -o report.pdf --paper a4)");
   return [request](Console& console, const CommonOptions& options) {
     return RunReport(console, options, *request);
   };

@@ -12,6 +12,8 @@ constexpr std::size_t N = BoundedLeastSquares::kUnknowns;
 using Matrix = std::array<Vector, N>;  // rows
 
 constexpr double kTolerance = 1e-10;  // a requirement broken by less counts as met
+constexpr double kSingular = 1e-14;   // share of a diagonal element that rounding alone can leave
+constexpr double kNoShare = 1e-12;    // a normal that takes part by less holds nothing back
 constexpr double kDependent = 1e-18;  // squared length of what a dependent direction leaves
 constexpr int kMostSteps = 1000;      // a dozen are usual
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -31,7 +33,7 @@ std::optional<Matrix> Cholesky(const Matrix& matrix) {
       for (std::size_t k = 0; k < j; ++k) sum -= C[i][k] * C[j][k];
       if (i != j) {
         C[i][j] = sum / C[j][j];
-      } else if (sum > 1e-14 * matrix[i][i]) {
+      } else if (sum > kSingular * matrix[i][i]) {
         C[i][i] = std::sqrt(sum);
       } else {
         return std::nullopt;
@@ -153,7 +155,7 @@ class NearestPoint {
     double part = kInfinity;
     std::size_t dropped = 0;
     for (std::size_t i = 0; i < split.r.size(); ++i) {
-      if (split.r[i] <= 1e-12 || active_.forces[i] / split.r[i] >= part) continue;
+      if (split.r[i] <= kNoShare || active_.forces[i] / split.r[i] >= part) continue;
       part = active_.forces[i] / split.r[i];
       dropped = i;
     }

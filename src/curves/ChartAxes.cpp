@@ -6,20 +6,36 @@
 #include "curves/FixedText.h"
 
 namespace orvik {
+namespace {
+
+constexpr double kWholeSlack = 1e-6;  // a count of steps that is off by less is a whole number
+constexpr double kHalfPart = 0.5;
+
+// Parts of an axis: few enough that their numbers stand apart; more only where the usual ones do
+// not come out even.
+constexpr double kFewestParts = 5;
+constexpr double kUsualParts = 10;
+constexpr double kMostParts = 20;
+
+// Powers of ten of the steps that are tried: 5000 down to 0.0001.
+constexpr int kMostPower = 3;
+constexpr int kLeastPower = -4;
+
+}  // namespace
 
 bool DividesRange(double range, double interval) {
   if (!(interval > 0)) return false;
   const double steps = range / interval;
-  return steps > 0.5 && std::fabs(steps - std::round(steps)) < 1e-6;
+  return steps > kHalfPart && std::fabs(steps - std::round(steps)) < kWholeSlack;
 }
 
 std::optional<double> RoundInterval(double range) {
-  for (const double mostParts : {10.0, 20.0}) {
-    for (int power = 3; power >= -4; --power) {
+  for (const double mostParts : {kUsualParts, kMostParts}) {
+    for (int power = kMostPower; power >= kLeastPower; --power) {
       for (const double first : {5.0, 2.0, 1.0}) {
-        const double interval = ParseNumber(FixedText(first * std::pow(10.0, power), 4));
+        const double interval = ParseNumber(FixedText(first * std::pow(10.0, power), -kLeastPower));
         const double parts = range / interval;
-        if (parts < 4.5 || parts > mostParts + 0.5) continue;
+        if (parts < kFewestParts - kHalfPart || parts > mostParts + kHalfPart) continue;
         if (DividesRange(range, interval)) return interval;
       }
     }

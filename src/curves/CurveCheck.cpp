@@ -14,8 +14,8 @@ namespace {
 
 // A chart 640 pixels high has some 560 rows: a gap of this share of the range is two of them.
 constexpr double kGapShare = 1.0 / 250;
-constexpr int kPoints = 400;  // volumes at which curves are compared
-constexpr double kSlack = 1e-9;
+constexpr int kPoints = 400;     // volumes at which curves are compared
+constexpr double kSlack = 1e-9;  // inches, and inches per day: what rounding adds to a sample
 
 std::string At(double V) {
   return " at V = " + FixedText(V, 2) + " in";

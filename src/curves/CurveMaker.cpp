@@ -11,7 +11,6 @@
 #include "curves/CurveLabels.h"
 #include "curves/EfficiencyTable.h"
 #include "curves/FixedText.h"
-#include "curves/Refusal.h"
 
 namespace orvik {
 namespace {
@@ -21,6 +20,7 @@ constexpr int kLastE = 95;
 constexpr int kStepE = 5;
 
 constexpr double kStepVStart = 0.05;  // inches
+constexpr double kStepSlack = 1e-9;   // of a step: 0.15 / 0.05 is a hair less than 3
 constexpr double kShortestRange = 1;  // inches that a curve covers at least
 constexpr std::size_t kVolumes = 48;  // of the table
 constexpr std::size_t kRates = 60;
@@ -29,8 +29,36 @@ constexpr std::size_t kFittedVolumes = 32;
 // The fit sees the error at some volumes only and in a straight line between three rates, so the
 // bound that it gets is tried a little above and below what is accepted.
 constexpr double kBounds[] = {1.04, 0.98, 0.92};
-constexpr double kAcceptedError = 0.985 * kMostError;
-constexpr double kAcceptedMeanError = 0.985 * kMostMeanError;
+
+// A curve is judged in steps of the volume; between two of them it may be a little worse, and keeps
+// the promised limits there too.
+constexpr double kAcceptedShare = 0.985;
+constexpr double kAcceptedError = kAcceptedShare * kMostError;
+constexpr double kAcceptedMeanError = kAcceptedShare * kMostMeanError;
+
+// The table's rates. No pond reaches E at a rate below E percent of the mean runoff: the table
+// begins at nine tenths of that, for an E below the lowest curve's. It ends beyond the axis, where
+// it still shows by how much a curve misses the chart.
+constexpr double kLeastRatePerPoint = 0.009;  // of the mean runoff, for each percent of E
+constexpr double kMostRateShare = 1.5;        // of the R axis
+
+// What the rounding of the written coefficients can add to R: half a millionth for each of
+// 1 + L + L^2 + L^3, which is 14 at V = 7.
+constexpr double kRoundingR = 1e-5;
+
+// R at the end of a curve lies above E x mean runoff by this factor, so that rounding leaves it
+// there.
+constexpr double kAboveRunoff = 1.001;
+
+// Of the distance that the mean runoff would set between two curves.
+constexpr double kGapShare = 0.5;
+
+// A curve that needs less than this share of the R axis has room: then it is the accuracy that
+// fails.
+constexpr double kRoomyShare = 0.9;
+
+constexpr int kRateDecimals = 3;             // of the rates in sentences
+constexpr double kHalfLastDecimal = 0.0005;  // of these
 
 EfficiencyCurve AsWritten(EfficiencyCurve curve, int E) {
   curve.E = static_cast<float>(E);
@@ -41,12 +69,15 @@ EfficiencyCurve AsWritten(EfficiencyCurve curve, int E) {
   return curve;
 }
 
-// Rates that the fit can want: from below what E = 49% needs at any volume to half as much again as
-// the chart shows.
+// Rates that the fit can want; over a factor of two at least, where the axis ends below them.
 std::vector<double> TableRates(const PondDays& days, const ChartAxes& axes) {
-  const double most = 1.5 * axes.RMax;
-  const double least = 0.009 * (kFirstE - kStepE) * days.MeanRunoff();
+  const double most = kMostRateShare * axes.RMax;
+  const double least = kLeastRatePerPoint * (kFirstE - kStepE) * days.MeanRunoff();
   return GeometricSteps(std::min(least, most / 2), most, kRates);
+}
+
+std::string RateText(double R) {
+  return FixedText(R, kRateDecimals);
 }
 
 // Makes one curve after the other, from the lowest efficiency to the highest.
@@ -70,7 +101,7 @@ class Maker {
   }
 
  private:
-  static int StepOf(double V) { return static_cast<int>(std::floor(V / kStepVStart + 1e-9)); }
+  static int StepOf(double V) { return static_cast<int>(std::floor(V / kStepVStart + kStepSlack)); }
   // The volume of a step, as its decimal text reads back.
   static double VolumeOf(int step) { return std::round(step * kStepVStart * 100) / 100; }
 
@@ -141,10 +172,10 @@ class Maker {
     return FitCurve(used, {.MostError = bound,
                            .VStart = V,
                            .VEnd = axes_.VMax,
-                           .MostR = axes_.RMax - 1e-5,  // what rounding can add
-                           .LeastR = asymptote * E * 1.001,
+                           .MostR = axes_.RMax - kRoundingR,
+                           .LeastR = asymptote * E * kAboveRunoff,
                            .lower = lower,
-                           .Gap = 0.5 * kStepE * asymptote});
+                           .Gap = kGapShare * kStepE * asymptote});
   }
 
   // The first start volume at which there is a curve within the widest bound. One that starts later
@@ -169,21 +200,22 @@ class Maker {
                                " in and R = " + ConvertToString(axes_.RMax) + " in/day";
     const std::string text = "No curve for E = " + std::to_string(E) + "% fits within " + limits;
     const auto needed = table_.RateAt(table_.V().size() - 1, E);
-    if (needed && *needed < 0.9 * axes_.RMax) {
-      throw Refusal(text + " with the accuracy that is asked. Choose a larger --r-max or --v-max.");
+    if (needed && *needed < kRoomyShare * axes_.RMax) {
+      throw AxesTooSmall(text + " with the accuracy that is asked.", AxisRemedy::LargerRMaxOrVMax);
     }
     if (!needed) {
-      throw Refusal(text + ": at the largest volume even R = " + FixedText(table_.MostR(), 3) +
-                    " in/day is too little. Choose a larger --r-max or --v-max.");
+      throw AxesTooSmall(text + ": at the largest volume even R = " + RateText(table_.MostR()) +
+                             " in/day is too little.",
+                         AxisRemedy::LargerRMaxOrVMax);
     }
     const std::string rate =
-        ": at the largest volume it needs R = " + FixedText(*needed, 3) + " in/day";
+        ": at the largest volume it needs R = " + RateText(*needed) + " in/day";
     // As printed: a rate that rounds to the end of the axis does not lie above it.
-    if (*needed < axes_.RMax + 0.0005) {
-      throw Refusal(text + rate +
-                    ", which leaves too little of the V axis. Choose a larger --r-max or --v-max.");
+    if (*needed < axes_.RMax + kHalfLastDecimal) {
+      throw AxesTooSmall(text + rate + ", which leaves too little of the V axis.",
+                         AxisRemedy::LargerRMaxOrVMax);
     }
-    throw Refusal(text + rate + ". Choose a larger --r-max.");
+    throw AxesTooSmall(text + rate + ".", AxisRemedy::LargerRMax);
   }
 
   const PondDays& days_;

@@ -7,6 +7,7 @@
 #include "curves/ChartAxes.h"
 #include "curves/CurveJudge.h"
 #include "curves/PondDays.h"
+#include "curves/Refusal.h"
 #include "engine/CurveSet.h"
 
 namespace orvik {
@@ -15,6 +16,21 @@ namespace orvik {
 inline constexpr double kMostError = 1.0;
 inline constexpr double kMostMeanError = 0.6;
 
+// What would give a curve its room.
+enum class AxisRemedy { LargerRMax, LargerRMaxOrVMax };
+
+// The axes have no room for one of the curves.
+class AxesTooSmall : public Refusal {
+ public:
+  AxesTooSmall(const std::string& sentence, AxisRemedy remedy)
+      : Refusal(sentence), remedy_(remedy) {}
+
+  AxisRemedy Remedy() const { return remedy_; }
+
+ private:
+  AxisRemedy remedy_;
+};
+
 struct MadeCurves {
   CurveSet Set;                    // as a curve file holds it, curves sampled
   std::vector<CurveError> Errors;  // one for each curve
@@ -22,8 +38,8 @@ struct MadeCurves {
 
 // Curves for E = 50, 55 ... 95 percent, each from the smallest volume (in steps of 0.05 inch) at
 // which it keeps the two limits of error, stays within the axes, falls, and keeps its distance from
-// the curve below. The whole set passes CheckCurves. Throws
-// Refusal, naming the efficiency, where there is no such curve.
+// the curve below. The whole set passes CheckCurves. Throws AxesTooSmall, naming the efficiency,
+// where there is no such curve, and Refusal where the set does not pass.
 MadeCurves MakeCurves(const PondDays& days, const ChartAxes& axes, const std::string& title);
 
 }  // namespace orvik

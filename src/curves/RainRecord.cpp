@@ -1,11 +1,10 @@
 #include "curves/RainRecord.h"
 
 #include <algorithm>
-#include <fstream>
 #include <initializer_list>
-#include <iterator>
 #include <optional>
 
+#include "base/FileBytes.h"
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/TextEncoding.h"
@@ -79,11 +78,25 @@ ColumnPlaces FindColumns(const std::vector<std::string>& header, const RainColum
       FindColumn(header, "station")};
 }
 
+bool IsDigits(std::string_view text) {
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// What follows the sentence that refuses a depth where it looks like "12,7"; empty elsewhere.
+std::string DecimalCommaHint(std::string_view depth) {
+  const auto comma = std::min(depth.find(','), depth.size());
+  const std::string whole(depth.substr(0, comma));
+  const std::string fraction(depth.substr(std::min(comma + 1, depth.size())));
+  if (!IsDigits(whole) || !IsDigits(fraction)) return {};
+  return "; if " + whole + "," + fraction +
+         " is one number, write it with a decimal point: " + whole + "." + fraction;
+}
+
 // Collects the rows of a file and the sentences about those that cannot be read.
 class RowReader {
  public:
-  RowReader(const ColumnPlaces& places, RainFindings& findings)
-      : places_(places), findings_(findings) {}
+  RowReader(const ColumnPlaces& places, std::size_t columns, RainFindings& findings)
+      : places_(places), columns_(columns), findings_(findings) {}
 
   void Read(std::string_view line, int lineNumber) {
     if (line.find_first_not_of(" \t,") == std::string_view::npos) return;
@@ -93,6 +106,9 @@ class RowReader {
     if (places_.date >= fields_.size() || places_.depth >= fields_.size()) {
       return Refuse(lineNumber, "there are fewer fields than columns");
     }
+    if (fields_.size() > columns_) {
+      return Refuse(lineNumber, "there are more fields than columns" + SplitNumberHint());
+    }
     const auto date = ParseRainDate(fields_[places_.date]);
     if (!date) return Refuse(lineNumber, "\"" + fields_[places_.date] + "\" is not a date");
     if (!KeepStation()) {
@@ -101,7 +117,8 @@ class RowReader {
     }
     Row row{*date, std::nullopt, lineNumber};
     if (!ReadDepth(fields_[places_.depth], row)) {
-      return Refuse(lineNumber, "\"" + fields_[places_.depth] + "\" is not a rainfall depth");
+      return Refuse(lineNumber, "\"" + fields_[places_.depth] + "\" is not a rainfall depth" +
+                                    DecimalCommaHint(fields_[places_.depth]));
     }
     rows_.push_back(row);
   }
@@ -122,6 +139,12 @@ class RowReader {
     if (++errorCount_ > kMostErrorsShown) return;
     errors_ +=
         (errors_.empty() ? "Line " : "\nLine ") + std::to_string(lineNumber) + ": " + why + ".";
+  }
+
+  // A depth with a decimal comma that nothing quotes is two fields: "12,7" reads as 12.
+  std::string SplitNumberHint() const {
+    if (places_.depth + 1 >= fields_.size()) return {};
+    return DecimalCommaHint(fields_[places_.depth] + "," + fields_[places_.depth + 1]);
   }
 
   // False for a row of another station than that of the rows above.
@@ -149,6 +172,7 @@ class RowReader {
   }
 
   ColumnPlaces places_;
+  std::size_t columns_;  // that the header names
   RainFindings& findings_;
   std::vector<std::string> fields_;
   std::vector<Row> rows_;
@@ -205,7 +229,7 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
   }
   RainRecord record;
   record.Unit = unit;
-  RowReader reader(FindColumns(header, columns), record.Findings);
+  RowReader reader(FindColumns(header, columns), header.size(), record.Findings);
   while (const auto line = lines.Next()) reader.Read(*line, lines.LineNumber());
   std::vector<Row> rows = reader.Finish();
   AppendDays(rows, record);
@@ -213,13 +237,10 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
 }
 
 RainRecord ReadRainRecord(const std::string& path, RainUnit unit, const RainColumns& columns) {
-  std::ifstream file(PathFromUtf8(path), std::ios::binary);
-  if (!file || !FileExists(path)) {
-    throw FileError("The rainfall file " + path + " cannot be read.");
-  }
-  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const auto bytes = FileExists(path) ? ReadFileBytes(path) : std::nullopt;
+  if (!bytes) throw FileError("The rainfall file " + path + " cannot be read.");
   try {
-    return ParseRainRecord(DecodeFileText(bytes), unit, columns);
+    return ParseRainRecord(DecodeFileText(*bytes), unit, columns);
   } catch (const FileError& error) {
     throw FileError("The rainfall file " + path + " cannot be used.\n" + error.what());
   }

@@ -9,7 +9,6 @@
 #include "base/NumberText.h"
 #include "curves/FixedText.h"
 #include "curves/RainDate.h"
-#include "curves/Refusal.h"
 
 namespace orvik {
 namespace {
@@ -59,43 +58,40 @@ void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
   years.MissingDays += missing;
 }
 
-std::string Rounded(double value) {
-  const double unit = value < 100 ? 10 : 1;
-  return ConvertToString(std::round(value * unit) / unit);
-}
-
 bool IsPlausible(double meanAnnualIn) {
   return meanAnnualIn >= kLeastAnnualIn && meanAnnualIn <= kMostAnnualIn;
 }
 
-// The units that would make sense, each with the depth that it gives.
-std::string SuggestUnits(double meanAnnualIn, RainUnit unit) {
-  std::string text;
+std::vector<MeanInUnit> PlausibleUnits(double meanAnnualIn, RainUnit unit) {
+  std::vector<MeanInUnit> units;
   for (const RainUnit other : kRainUnits) {
     const double mean = meanAnnualIn * UnitsPerInch(unit) / UnitsPerInch(other);
-    if (!IsPlausible(mean)) continue;
-    text += (text.empty() ? "" : ", ") + std::string("--unit ") + std::string(RainUnitName(other)) +
-            " (" + Rounded(mean) + " inches a year)";
+    if (IsPlausible(mean)) units.push_back({other, mean});
   }
-  if (text.empty()) return "No other unit makes sense of it either.";
-  return "A unit that would make sense: " + text + ".";
+  return units;
 }
 
 void RefuseImplausible(const RainYears& years, RainUnit unit) {
   if (!IsPlausible(years.MeanAnnualIn)) {
-    throw Refusal("Read as \"" + std::string(RainUnitName(unit)) +
-                  "\", the mean annual rainfall is " + Rounded(years.MeanAnnualIn) +
-                  " inches; 5 to 200 inches are expected. " +
-                  SuggestUnits(years.MeanAnnualIn, unit));
+    throw ImplausibleRain(
+        "Read as \"" + std::string(RainUnitName(unit)) + "\", the mean annual rainfall is " +
+            RoundedDepth(years.MeanAnnualIn) + " inches; " + ConvertToString(kLeastAnnualIn) +
+            " to " + ConvertToString(kMostAnnualIn) + " inches are expected.",
+        PlausibleUnits(years.MeanAnnualIn, unit));
   }
   if (years.WettestDayIn > kWettestDayIn) {
-    throw Refusal("The wettest day of the record has " + Rounded(years.WettestDayIn) +
+    throw Refusal("The wettest day of the record has " + RoundedDepth(years.WettestDayIn) +
                   " inches, more than was ever measured anywhere. If this is a code for a "
                   "missing value, leave the depth empty.");
   }
 }
 
 }  // namespace
+
+std::string RoundedDepth(double inches) {
+  const double unit = inches < 100 ? 10 : 1;
+  return ConvertToString(std::round(inches * unit) / unit);
+}
 
 RainYears SelectRainYears(const RainRecord& record) {
   RainYears years;
@@ -109,9 +105,10 @@ RainYears SelectRainYears(const RainRecord& record) {
   }
   const auto count = static_cast<int>(years.Years.size());
   if (count < kFewestYears) {
-    throw Refusal("The record has " + std::to_string(count) +
-                  " usable years; at least 5 are needed. A calendar year that misses more than "
-                  "10 days is not usable.");
+    throw Refusal("The record has " + std::to_string(count) + " usable years; at least " +
+                  std::to_string(kFewestYears) +
+                  " are needed. A calendar year that misses more than " +
+                  std::to_string(kMostMissingDays) + " days is not usable.");
   }
   years.MeanAnnualIn = std::accumulate(years.Daily.begin(), years.Daily.end(), 0.0) / count;
   RefuseImplausible(years, record.Unit);

@@ -4,9 +4,11 @@
 #include <chrono>
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "curves/RainRecord.h"
+#include "curves/Refusal.h"
 
 namespace orvik {
 
@@ -17,6 +19,28 @@ inline constexpr int kFewestYears = 5;
 // The mean annual depth of a usable record, inches.
 inline constexpr double kLeastAnnualIn = 5;
 inline constexpr double kMostAnnualIn = 200;
+
+// A unit, and the mean annual depth of a record that is read in it.
+struct MeanInUnit {
+  RainUnit Unit;
+  double AnnualIn;  // inches
+};
+
+// The mean annual depth of the record is that of no climate: its unit is another one.
+class ImplausibleRain : public Refusal {
+ public:
+  ImplausibleRain(const std::string& sentence, std::vector<MeanInUnit> units)
+      : Refusal(sentence), units_(std::move(units)) {}
+
+  // The units that would make sense; empty where none does.
+  const std::vector<MeanInUnit>& Units() const { return units_; }
+
+ private:
+  std::vector<MeanInUnit> units_;
+};
+
+// "58.7", from 100 inches on "110": as many digits as a sentence about the climate wants.
+std::string RoundedDepth(double inches);
 
 // Calendar years that are nearly complete, one after the other without the years between them.
 struct RainYears {
@@ -31,12 +55,13 @@ struct RainYears {
   std::chrono::sys_days WettestDay;  // the first of them
 };
 
-// Throws Refusal for fewer than 5 usable years, a mean annual depth outside 5 to 200 inches
-// (the sentence says which unit would make sense), and a day that is wetter than any ever measured.
+// Throws ImplausibleRain for a mean annual depth outside these limits, and Refusal for fewer usable
+// years than are needed and a day that is wetter than any ever measured.
 RainYears SelectRainYears(const RainRecord& record);
 
-// A sentence for the user where the largest depth looks like a code for a missing value (more than
-// 15 inches on two or more days alike), else empty. Such codes pass as rain: 999.9 mm is 39 inches.
+// A sentence for the user where the largest depth looks like a code for a missing value (a depth of
+// a heavy storm on two or more days alike), else empty. Such codes pass as rain: 999.9 mm is 39
+// inches.
 std::string DescribeSuspectedCode(const RainYears& years);
 
 }  // namespace orvik

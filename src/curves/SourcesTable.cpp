@@ -10,60 +10,59 @@
 namespace orvik {
 namespace {
 
-constexpr std::string_view kIntroduction =
-    "# Sources of the design curves\n"
-    "\n"
-    "These curves are computed by ORVIK from public daily rainfall: records of NOAA's cooperative "
-    "observers and, for\n"
-    "Gainesville after 1983, NOAA's daily summaries (United States government, public domain). "
-    "Where your authority has\n"
-    "adopted curves, put those into this folder and use them. Method and assumptions: the help's "
-    "page\n"
-    "\"How the design curves are made\".\n"
-    "\n"
-    "This file and the curve files are written by `kav curves make-all --rain-dir DIR -o DIR`.\n"
-    "\n"
-    "## Rainfall records\n"
-    "\n"
-    "A usable year misses at most 10 days; mean and wettest day are those of the usable years. "
-    "Where a neighbour is named, its record stands in for a "
-    "station without a long\n"
-    "record of its own.\n"
-    "\n"
-    "| no. | station | record of | NOAA number | period | usable years | mean in/year | wettest "
-    "day "
-    "in |\n"
-    "| --: | --- | --- | --- | --- | --: | --: | --: |\n";
+std::string Introduction(std::string_view madeBy) {
+  return R"(# Sources of the design curves
 
-constexpr std::string_view kFindingsIntroduction =
-    "\n"
-    "## What the records lack\n"
-    "\n"
-    "Years left out miss more than 10 days; days missing in the usable years count as dry. The "
-    "other numbers are those of the\n"
-    "whole record: rows without a depth, gaps between rows and the days in them, rows whose date "
-    "stood before (the first value\n"
-    "counts), those of them with another depth, and negative depths, which are taken as missing.\n"
-    "\n"
-    "| station | years left out | missing days | rows without depth | gaps | days in gaps | "
-    "duplicates | conflicts | negatives |\n"
-    "| --- | --: | --: | --: | --: | --: | --: | --: | --: |\n";
+These curves are computed by ORVIK from public daily rainfall: records of NOAA's cooperative observers and, for
+Gainesville after 1983, NOAA's daily summaries (United States government, public domain). Where your authority has
+adopted curves, put those into this folder and use them. Method and assumptions: the help's page
+"How the design curves are made".
 
-constexpr std::string_view kErrorsIntroduction =
-    "\n"
-    "## Fit errors\n"
-    "\n"
-    "Largest / mean deviation of the efficiency simulated along a curve from the curve's E, in "
-    "percentage points. The limits\n"
-    "are 1.0 and 0.6.\n"
-    "\n";
+This file and the curve files are written by )" +
+         std::string(madeBy) + R"(.
 
-constexpr std::string_view kStartsIntroduction =
-    "\n"
-    "## Where the curves begin\n"
-    "\n"
-    "VStart, inches on the equivalent impervious area. All curves end at V maximum.\n"
-    "\n";
+## Rainfall records
+
+A usable year misses at most )" +
+         std::to_string(kMostMissingDays) +
+         R"( days; mean and wettest day are those of the usable years. Where a neighbour is named, its record stands in for a station without a long
+record of its own.
+
+| no. | station | record of | NOAA number | period | usable years | mean in/year | wettest day in |
+| --: | --- | --- | --- | --- | --: | --: | --: |
+)";
+}
+
+std::string FindingsIntroduction() {
+  return R"(
+## What the records lack
+
+Years left out miss more than )" +
+         std::to_string(kMostMissingDays) +
+         R"( days; days missing in the usable years count as dry. The other numbers are those of the
+whole record: rows without a depth, gaps between rows and the days in them, rows whose date stood before (the first value
+counts), those of them with another depth, and negative depths, which are taken as missing.
+
+| station | years left out | missing days | rows without depth | gaps | days in gaps | duplicates | conflicts | negatives |
+| --- | --: | --: | --: | --: | --: | --: | --: | --: |
+)";
+}
+
+std::string ErrorsIntroduction() {
+  return R"(
+## Fit errors
+
+Largest / mean deviation of the efficiency simulated along a curve from the curve's E, in percentage points. The limits
+are )" + FixedText(kMostError, 1) +
+         " and " + FixedText(kMostMeanError, 1) + ".\n\n";
+}
+
+constexpr std::string_view kStartsIntroduction = R"(
+## Where the curves begin
+
+VStart, inches on the equivalent impervious area. All curves end at V maximum.
+
+)";
 
 std::string SourceRow(const StationCurves& station) {
   const StationSource& source = SourceOfStation(station.Station);
@@ -109,16 +108,16 @@ std::string CurveTable(const std::vector<StationCurves>& stations, CellText cell
 
 }  // namespace
 
-std::string SourcesTable(const std::vector<StationCurves>& stations) {
-  std::string text(kIntroduction);
+std::string SourcesTable(const std::vector<StationCurves>& stations, std::string_view madeBy) {
+  std::string text = Introduction(madeBy);
   for (const StationCurves& station : stations) text += SourceRow(station);
   if (stations.empty()) return text;
-  text += kFindingsIntroduction;
+  text += FindingsIntroduction();
   for (const StationCurves& station : stations) text += FindingsRow(station);
   const PondOptions& options = stations.front().Options;
   text += "\n## Method\n\nAll curves: " + HoldOffText(options) + ", " + AbstractionText(options) +
           ".\n";
-  text += kErrorsIntroduction;
+  text += ErrorsIntroduction();
   text += CurveTable(stations, [](const MadeCurves& made, std::size_t i) {
     return FixedText(made.Errors[i].Max, 2) + " / " + FixedText(made.Errors[i].Mean, 2);
   });

@@ -1,6 +1,5 @@
 #include "curves/StationCurves.h"
 
-#include "curves/Refusal.h"
 #include "curves/StationSources.h"
 #include "engine/ClimateStations.h"
 
@@ -13,14 +12,10 @@ StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t stat
   result.Station = station;
   result.Options = options;
   result.Record = ReadRainRecord(rainFolder + name + ".csv", RainUnit::Inches);
-  try {
-    result.Years = SelectRainYears(result.Record);
-    const std::string title = CurveTitle(name, SourceText(SourceOfStation(station)), result.Record,
-                                         result.Years, options);
-    result.Made = MakeCurves(BuildPondDays(result.Years, options), axes, title);
-  } catch (const Refusal& refusal) {
-    throw Refusal(name + ": " + refusal.what());
-  }
+  result.Years = SelectRainYears(result.Record);
+  const std::string title =
+      CurveTitle(name, SourceText(SourceOfStation(station)), result.Record, result.Years, options);
+  result.Made = MakeCurves(BuildPondDays(result.Years, options), axes, title);
   result.Record.Days = {};
   result.Years.Daily = {};
   return result;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "curves/CurveMaker.h"
@@ -21,11 +22,12 @@ struct StationCurves {
 };
 
 // Makes the curves of a station from `<rainFolder><station>.csv`, in inches. `rainFolder` ends with
-// a separator. Throws FileError and Refusal, naming the station.
+// a separator. Throws FileError, naming the file, and Refusal.
 StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t station,
                                 const PondOptions& options, const ChartAxes& axes);
 
-// What the curves were made from and how well they fit, as the text of a Markdown file.
-std::string SourcesTable(const std::vector<StationCurves>& stations);
+// What the curves were made from and how well they fit, as the text of a Markdown file. `madeBy`
+// says what writes it and the curve files, in Markdown: "`kav curves ...`".
+std::string SourcesTable(const std::vector<StationCurves>& stations, std::string_view madeBy);
 
 }  // namespace orvik

@@ -1,7 +1,7 @@
 #include "files/FileCommands.h"
 
 #include "base/Paths.h"
-#include "files/SafeReplace.h"
+#include "base/SafeFile.h"
 #include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
 
@@ -101,14 +101,7 @@ bool FileCommands::SaveText(std::string& text) const {
 bool FileCommands::SaveFile(const std::string& path) {
   if (path.empty()) return false;
   std::string text;
-  const bool isSaved =
-      SaveText(text) && ReplaceFile(path, text, [this](const std::string& besides) {
-        clsIOStream stream;
-        stream.OpenFile(besides, enumIOStreamMode::AsciiFileOutput);
-        const bool isWritten = file_.SaveDataInBuffer(stream);
-        stream.CloseFile();
-        return isWritten;
-      });
+  const bool isSaved = SaveText(text) && !WriteFileSafely(path, text);
   currentFolder_ = FolderOf(path);
   if (isSaved) currentPath_ = path;
   return isSaved;

@@ -1,9 +1,9 @@
 #include "stream/clsIOStream.h"
 
 #include <cmath>
-#include <sstream>
 #include <utility>
 
+#include "base/FileBytes.h"
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/Rounding.h"
@@ -64,11 +64,6 @@ std::string_view TakeField(std::string_view text, std::size_t& position) {
   return field;
 }
 
-// The system would cut a name at a NUL and open, or empty, another file.
-bool IsFileName(std::string_view path) {
-  return path.find('\0') == std::string_view::npos;
-}
-
 }  // namespace
 
 bool clsIOStream::IsReadingFile() const {
@@ -76,12 +71,7 @@ bool clsIOStream::IsReadingFile() const {
 }
 
 void clsIOStream::OpenInput(std::string_view path) {
-  std::ifstream file;
-  if (IsFileName(path)) file.open(PathFromUtf8(path), std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();  // a folder or a broken disk fails here without a word, like a file that
-                          // is not there
-  fileText_ = DecodeFileText(bytes.view());
+  fileText_ = DecodeFileText(ReadFileBytes(path).value_or(""));
   readPosition_ = 0;
 }
 
@@ -95,7 +85,7 @@ bool clsIOStream::OpenFile(std::string_view strFileName, enumIOStreamMode Mode) 
       fileNumber_ = kOpenFileNumber;
       break;
     case AsciiFileOutput:
-      if (IsFileName(name)) output_.open(PathFromUtf8(name), std::ios::binary | std::ios::trunc);
+      if (IsWholeName(name)) output_.open(PathFromUtf8(name), std::ios::binary | std::ios::trunc);
       fileName_ = name;
       fileNumber_ = kOpenFileNumber;
       break;

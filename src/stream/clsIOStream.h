@@ -20,7 +20,8 @@ enum class enumIOStreamMode : std::int16_t {
 
 // Every operation answers True or False and reports nothing else. In the file modes a failed open,
 // read or write is swallowed and answered with True: ask EndOfFile before each read. A file that
-// could not be opened is at its end.
+// could not be opened is at its end, and so is one that could not be read to its end: half a file
+// must not pass for the whole.
 //
 // Lines end at CR or CR LF; a lone LF is part of the line. Files are read as UTF-8 (a byte-order
 // mark is skipped) where their bytes are valid UTF-8, else as Windows-1252, and written as UTF-8

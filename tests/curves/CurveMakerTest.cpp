@@ -2,13 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <optional>
 
 #include "curves/CurveCheck.h"
 #include "curves/CurveFileWriter.h"
 #include "curves/CurveFit.h"
 #include "curves/CurveMaker.h"
 #include "curves/EfficiencyTable.h"
-#include "curves/Refusal.h"
 #include "curves/SampleRecords.h"
 
 namespace orvik {
@@ -117,43 +117,49 @@ TEST(MakeCurves, WorksOnOtherAxesAndWithHoldOffAndAbstraction) {
   }
 }
 
-TEST(MakeCurves, RefusesAxesThatAreTooSmallAndSaysWhatHelps) {
-  const ChartAxes low{.RMax = 0.1, .RInterval = 0.02};
-  try {
-    MakeCurves(SampleDays(), low, "x");
-    FAIL();
-  } catch (const Refusal& refusal) {
-    EXPECT_THAT(refusal.what(), testing::HasSubstr("No curve for E = "));
-    EXPECT_THAT(refusal.what(), testing::HasSubstr("Choose a larger --r-max."));
-  }
-}
+struct Refused {
+  std::string sentence;
+  std::optional<AxisRemedy> remedy;
+};
 
-std::string RefusalOf(const PondDays& days, const ChartAxes& axes) {
+Refused RefusalOf(const PondDays& days, const ChartAxes& axes) {
   try {
     MakeCurves(days, axes, "x");
-  } catch (const Refusal& refusal) {
-    return refusal.what();
+  } catch (const AxesTooSmall& refusal) {
+    return {refusal.what(), refusal.Remedy()};
   }
-  return "not refused";
+  return {"not refused", {}};
+}
+
+TEST(MakeCurves, RefusesAxesThatAreTooSmallAndSaysWhatHelps) {
+  const ChartAxes low{.RMax = 0.1, .RInterval = 0.02};
+  const auto [sentence, remedy] = RefusalOf(SampleDays(), low);
+  EXPECT_THAT(sentence, testing::HasSubstr("No curve for E = "));
+  EXPECT_EQ(remedy, AxisRemedy::LargerRMax);
 }
 
 TEST(MakeCurves, ARefusalDoesNotContradictTheAxis) {
   // Under constant rain of 1 inch a day every volume needs 0.5 inch for half of it.
-  EXPECT_EQ(RefusalOf(BuildPondDays(test::ConstantRain(1, 6), {}), {}),
+  const Refused one = RefusalOf(BuildPondDays(test::ConstantRain(1, 6), {}), {});
+  EXPECT_EQ(one.sentence,
             "No curve for E = 50% fits within V = 7 in and R = 0.4 in/day: at the largest volume "
-            "it needs R = 0.500 in/day. Choose a larger --r-max.");
-  EXPECT_EQ(RefusalOf(BuildPondDays(test::ConstantRain(2, 6), {}), {}),
+            "it needs R = 0.500 in/day.");
+  EXPECT_EQ(one.remedy, AxisRemedy::LargerRMax);
+  const Refused two = RefusalOf(BuildPondDays(test::ConstantRain(2, 6), {}), {});
+  EXPECT_EQ(two.sentence,
             "No curve for E = 50% fits within V = 7 in and R = 0.4 in/day: at the largest volume "
-            "even R = 0.600 in/day is too little. Choose a larger --r-max or --v-max.");
+            "even R = 0.600 in/day is too little.");
+  EXPECT_EQ(two.remedy, AxisRemedy::LargerRMaxOrVMax);
   // The axis ends just above what the largest volume needs.
   const PondDays days = SampleDays();
   const double needed = RateFor(days, 7, 95);
   ASSERT_GT(needed, 0.2);
   ASSERT_LT(needed, 0.202);
-  EXPECT_THAT(RefusalOf(days, {.RMax = 0.202, .RInterval = 0.101}),
-              testing::HasSubstr("No curve for E = 95% fits within V = 7 in and R = 0.202 in/day: "
-                                 "at the largest volume it needs R = 0.201 in/day, which leaves "
-                                 "too little of the V axis. Choose a larger --r-max or --v-max."));
+  const Refused narrow = RefusalOf(days, {.RMax = 0.202, .RInterval = 0.101});
+  EXPECT_EQ(narrow.sentence,
+            "No curve for E = 95% fits within V = 7 in and R = 0.202 in/day: at the largest volume "
+            "it needs R = 0.201 in/day, which leaves too little of the V axis.");
+  EXPECT_EQ(narrow.remedy, AxisRemedy::LargerRMaxOrVMax);
 }
 
 TEST(MakeCurves, UnderConstantRainEveryCurveIsItsShareOfTheRain) {

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/Paths.h"
+#include "curves/CurveMaker.h"
 #include "engine/ClimateStations.h"
 #include "support/KavRun.h"
 #include "support/TempFolder.h"
@@ -264,6 +265,46 @@ TEST(CurvesMakeAll, TablesNameTheMethodAndWhatTheRecordsLack) {
   EXPECT_EQ(station["findings"]["negatives"], 1);
 }
 
+// Of the options that help, a refusal names those which the command has.
+TEST(CurvesMakeAll, ARefusalNamesTheStationAndItsOwnOptions) {
+  const test::TempFolder folder;
+  const auto refusalOf = [&](const std::string& apalachicola) {
+    folder.Write("rain/Apalachicola.csv", apalachicola);
+    const KavRun result =
+        RunCommand({"curves", "make-all", "--rain-dir", folder / "rain", "-o", folder / "out"});
+    EXPECT_EQ(result.exitCode, 1);
+    return result.err;
+  };
+  EXPECT_THAT(
+      refusalOf(RainEveryFourthDay("2")),
+      testing::MatchesRegex("Apalachicola: No curve for E = .* Choose a larger --r-max.*\n"));
+  // 895 days of 20 inches in ten years.
+  EXPECT_EQ(
+      refusalOf(RainEveryFourthDay("20")),
+      "Apalachicola: Read as \"in\", the mean annual rainfall is 1790 inches; 5 to 200 inches "
+      "are expected.\n");
+}
+
+TEST(CurvesMakeAll, MakesTheShippedCurvesAgainByteForByte) {
+  const test::TempFolder folder;
+  const std::string data(ORVIK_DATA_DIR);
+  const KavRun made = RunCommand(
+      {"curves", "make-all", "--rain-dir", data + "Rain", "-o", folder.Path(), "--json"});
+  ASSERT_EQ(made.exitCode, 0) << made.err;
+  const auto stations = nlohmann::json::parse(made.out)["stations"];
+  ASSERT_EQ(stations.size(), static_cast<std::size_t>(NumRainfallStations()));
+  for (const auto& station : stations) {
+    const auto name = station["station"].get<std::string>();
+    const std::string file = name + ".crv";
+    EXPECT_EQ(test::ReadBytes(folder / file), test::ReadBytes(data + "KAV Data/" + file)) << name;
+    for (const auto& curve : station["curves"]) {
+      EXPECT_LE(curve["maxError"], kMostError) << name;
+      EXPECT_LE(curve["meanError"], kMostMeanError) << name;
+    }
+  }
+  EXPECT_EQ(test::ReadBytes(folder / "SOURCES.md"), test::ReadBytes(data + "KAV Data/SOURCES.md"));
+}
+
 TEST(CurvesMakeAll, WantsItsFoldersNamed) {
   EXPECT_EQ(RunCommand({"curves", "make-all", "--rain-dir", "x", "-o", ""}).exitCode, 2);
   EXPECT_EQ(RunCommand({"curves", "make-all", "--rain-dir", "", "-o", "x"}).exitCode, 2);
@@ -284,6 +325,28 @@ TEST(CurvesCheck, WithRainfallShowsTheErrorsAndWhatTheRunoffForbids) {
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_THAT(result.out, HasSubstr("largest error"));
   EXPECT_THAT(result.err, HasSubstr("Curve 1 (E = 50%) asks for"));
+}
+
+// A curve that ends where it begins has no volumes to simulate at: an error of 0.00 would praise
+// it.
+TEST(CurvesCheck, ShowsNoErrorForACurveThatItDidNotJudge) {
+  std::string text = test::ReadBytes(kTampa);
+  const auto end = text.find("\r\n0.65\r\n7\r\n");  // of the curve for 50%
+  ASSERT_NE(end, std::string::npos);
+  text.replace(end, 11, "\r\n0.65\r\n0.65\r\n");
+  const test::TempFolder folder;
+  const std::vector<std::string> arguments{
+      "curves", "check", folder.Write("a.crv", text), "--rain", kSample, "--unit", "in", "--json"};
+  const KavRun json = RunCommand(arguments);
+  EXPECT_EQ(json.exitCode, 1);
+  const auto curves = nlohmann::json::parse(json.out)["curves"];
+  for (const char* error : {"maxError", "meanError"}) {
+    EXPECT_TRUE(curves[0].contains(error) && curves[0][error].is_null()) << error;
+    EXPECT_GT(curves[1][error], 0) << error;
+  }
+  const KavRun shown = RunCommand({arguments.begin(), arguments.end() - 1});
+  EXPECT_THAT(shown.out, testing::ContainsRegex("\n50 +0\\.65 +0\\.65[ 0-9.]+ - +-\n"));
+  EXPECT_THAT(shown.out, testing::Not(HasSubstr("0.00")));
 }
 
 TEST(CurvesCheck, NamesTheFaultsOfAFile) {

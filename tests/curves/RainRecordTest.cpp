@@ -82,12 +82,30 @@ TEST(RainRecord, RowsThatCannotBeReadAreRefusedWithTheirLine) {
       {"2001-01-02,wet", "Line 3: \"wet\" is not a rainfall depth."},
       {"2001-01-02,1.2.3", "Line 3: \"1.2.3\" is not a rainfall depth."},
       {"2001-01-02,0.25A", "is not a rainfall depth"},
+      {"2001-01-02,1,", "Line 3: there are more fields than columns."},
+      {"2001-01-02,1,A", "Line 3: there are more fields than columns."},
       {"2001-01-02", "Line 3: there are fewer fields than columns."},
       {"\"2001-01-02,1", "Line 3: a quotation mark is not closed."},
   };
   for (const auto& [row, reason] : cases) {
     EXPECT_THAT(ErrorOf(std::string("date,prcp\n2001-01-01,0\n") + row + "\n"), HasSubstr(reason));
   }
+}
+
+// 12,7 mm of a gauge that writes decimal commas would be read as 12.
+TEST(RainRecord, ADecimalCommaIsRefusedAndExplained) {
+  const std::string hint = "; if 12,7 is one number, write it with a decimal point: 12.7.";
+  const std::string more = "there are more fields than columns" + hint;
+  EXPECT_THAT(ErrorOf("date,prcp\n2001-01-01,0\n2001-01-02,12,7\n"), HasSubstr("Line 3: " + more));
+  EXPECT_THAT(ErrorOf("prcp,date\n12,7,2001-01-01\n"), HasSubstr("Line 2: " + more));
+  EXPECT_THAT(ErrorOf("date,prcp,flag\n2001-01-02,12,7,A\n"), HasSubstr(more));
+  EXPECT_THAT(ErrorOf("date,prcp\n2001-01-02,\"12,7\"\n"),
+              HasSubstr("Line 2: \"12,7\" is not a rainfall depth" + hint));
+}
+
+TEST(RainRecord, EmptyColumnsBehindTheOthersAreColumns) {
+  const RainRecord record = ParseRainRecord("date,prcp,\n2001-01-01,1,\n", RainUnit::Inches);
+  EXPECT_EQ(record.Days.at(0).DepthIn, 1);
 }
 
 TEST(RainRecord, OnlyTheFirstBadRowsAreListed) {
