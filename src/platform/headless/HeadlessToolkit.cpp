@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "base/Utf8.h"
+
 namespace orvik {
 namespace {
 
@@ -12,14 +14,6 @@ namespace {
 void RequireReachable(std::string_view name, const Widget& widget) {
   if (!widget.Visible()) ThrowUnreachable(name, "hidden");
   if (!widget.Enabled()) ThrowUnreachable(name, "disabled");
-}
-
-// The bytes of the UTF-8 character that begins with `lead`.
-std::size_t CharacterLength(char lead) {
-  const auto byte = static_cast<unsigned char>(lead);
-  if (byte < 0xC0) return 1;
-  if (byte < 0xE0) return 2;
-  return byte < 0xF0 ? 3 : 4;
 }
 
 }  // namespace

@@ -1,31 +1,16 @@
 #include "platform/headless/HeadlessWidgets.h"
 
+#include "base/Utf8.h"
+
 namespace orvik {
 namespace {
 
 constexpr unsigned char kBlank = 0x20;
 
-// The code of a one-character UTF-8 text as the key handler gets it; 0 beyond U+FFFF.
+// The code of a one-character text as the key handler gets it; 0 beyond U+FFFF.
 std::int16_t KeyCode(std::string_view character) {
-  const auto byte = [&](std::size_t i) {
-    return static_cast<unsigned>(static_cast<unsigned char>(character[i]));
-  };
-  unsigned code = 0;
-  if (character.size() == 1) code = byte(0);
-  if (character.size() == 2) code = (byte(0) & 0x1FU) << 6U | (byte(1) & 0x3FU);
-  if (character.size() == 3) {
-    code = (byte(0) & 0x0FU) << 12U | (byte(1) & 0x3FU) << 6U | (byte(2) & 0x3FU);
-  }
-  return static_cast<std::int16_t>(code);
-}
-
-std::string Utf8Of(std::uint16_t code) {
-  const auto tail = [&](unsigned shift) {
-    return static_cast<char>(0x80U | (code >> shift & 0x3FU));
-  };
-  if (code < 0x80) return {static_cast<char>(code)};
-  if (code < 0x800) return {static_cast<char>(0xC0U | code >> 6U), tail(0)};
-  return {static_cast<char>(0xE0U | code >> 12U), tail(6), tail(0)};
+  const std::uint32_t code = CodePointAt(character, 0);
+  return code <= 0xFFFFU ? static_cast<std::int16_t>(code) : std::int16_t{0};
 }
 
 }  // namespace
@@ -43,7 +28,10 @@ void HeadlessTextBox::PressKey(std::string_view character) {
     std::int16_t code = pressed;
     OnKeyPress(code);
     if (code == 0 && pressed != 0) return;
-    if (code != pressed) typed = Utf8Of(static_cast<std::uint16_t>(code));
+    if (code != pressed) {
+      typed.clear();
+      AppendUtf8(typed, static_cast<std::uint16_t>(code));
+    }
   }
   const bool printable = static_cast<unsigned char>(typed.front()) >= kBlank;
   if (printable && !locked_) Text(text_ + typed);
