@@ -1,8 +1,7 @@
 #include "entry/Form1.h"
 
-#include <algorithm>
-
 #include "base/RuntimeErrors.h"
+#include "base/Text.h"
 #include "base/VersionText.h"
 #include "engine/ClimateStations.h"
 #include "printing/ProjectReport.h"
@@ -20,10 +19,7 @@ constexpr std::int16_t kSave = 1;
 constexpr std::int16_t kDiscard = 0;
 
 bool IsProjectFile(std::string_view path) {
-  constexpr std::string_view kExtension = ".kav";
-  if (path.size() < kExtension.size()) return false;
-  return std::ranges::equal(path.substr(path.size() - kExtension.size()), kExtension, {},
-                            [](char c) { return 'A' <= c && c <= 'Z' ? c - 'A' + 'a' : c; });
+  return EndsWithIgnoringCase(path, ".kav");
 }
 
 // The toolkit, told where the form's widgets lie.
