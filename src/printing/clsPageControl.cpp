@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/ModuleVersion.h"
+#include "base/NumberText.h"
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
 #include "printing/FitText.h"
@@ -30,16 +31,11 @@ constexpr std::string_view kTitleLine = "ORVIK 3.3";
 constexpr std::string_view kSubtitleLine = "Stormwater Harvesting Module";
 constexpr std::string_view kAuthorLine = "Prepared with the ORVIK pond design suite";
 
-std::string Digits(int value, std::size_t count) {
-  const std::string digits = std::to_string(value);
-  return std::string(digits.size() < count ? count - digits.size() : 0, '0') + digits;
-}
-
 // "11-21-2026    06:45:09"
 std::string DateAndTime(const ClockTime& time) {
-  return Digits(time.date.month, 2) + "-" + Digits(time.date.day, 2) + "-" +
-         Digits(time.date.year, 4) + "    " + Digits(time.hour, 2) + ":" + Digits(time.minute, 2) +
-         ":" + Digits(time.second, 2);
+  return MonthDayYear(time.date.month, time.date.day, time.date.year) + "    " +
+         WithLeadingZeros(time.hour, 2) + ":" + WithLeadingZeros(time.minute, 2) + ":" +
+         WithLeadingZeros(time.second, 2);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/NumberText.h"
 #include "base/Paths.h"
 #include "shell/MainWindowTable.h"
 
@@ -9,10 +10,9 @@ namespace orvik {
 
 std::string HelpPagePath(std::string_view dataFolder, std::int16_t topic) {
   const bool isNegative = topic < 0;
-  const std::string digits = std::to_string(isNegative ? -int{topic} : int{topic});
-  const std::string zeros(digits.size() < 3 ? 3 - digits.size() : 0, '0');
+  const std::string digits = WithLeadingZeros(isNegative ? -int{topic} : int{topic}, 3);
   return std::string(dataFolder) + "Help" + kPathSeparator + "Topic" + (isNegative ? "-" : "") +
-         zeros + digits + ".htm";
+         digits + ".htm";
 }
 
 MessageHelp::MessageHelp(Toolkit& toolkit, Desktop& desktop, ctrlErrorMessageBar& bar,
