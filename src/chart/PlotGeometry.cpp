@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Quotient.h"
 #include "base/Rounding.h"
-#include "base/RuntimeErrors.h"
 
 namespace orvik {
 namespace {
@@ -32,11 +32,6 @@ constexpr double kVerticalTexts = 4.4;
 constexpr double kTitleLift = 0.25;  // in title heights
 
 constexpr double kNumberGap = 0.4;  // between the frame and its vertical numbers, in label heights
-
-double Quotient(double dividend, double divisor) {
-  if (divisor == 0) throw DivisionByZeroError();
-  return dividend / divisor;
-}
 
 // Extents in pixels before rounding.
 struct Extents {
@@ -138,12 +133,14 @@ std::int16_t PlotGeometry::YPlotToYFrame(double y) const {
 }
 
 double PlotGeometry::XFrameToXPlot(std::int16_t X) const {
-  return Quotient(X - frame_.Left, frame_.Right - frame_.Left) * (window_.XMax - window_.XMin) +
+  return Quotient<double>(X - frame_.Left, frame_.Right - frame_.Left) *
+             (window_.XMax - window_.XMin) +
          window_.XMin;
 }
 
 double PlotGeometry::YFrameToYPlot(std::int16_t Y) const {
-  return Quotient(Y - frame_.Bottom, frame_.Top - frame_.Bottom) * (window_.YMax - window_.YMin) +
+  return Quotient<double>(Y - frame_.Bottom, frame_.Top - frame_.Bottom) *
+             (window_.YMax - window_.YMin) +
          window_.YMin;
 }
 

@@ -40,11 +40,6 @@ const KeyStep* FindStep(std::int16_t keyCode) {
   return found == kKeySteps.end() ? nullptr : &*found;
 }
 
-Area Common(const Area& a, const Area& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
-}
-
 }  // namespace
 
 void ctrlPictureViewer::Show(Picture picture) {
@@ -73,7 +68,7 @@ void ctrlPictureViewer::Paint(Surface& surface) {
   surface.FillArea(all, kButtonFace);
   if (view_.IsEmpty()) return;
   const Area place = view_.Place();
-  const Area seen = Common(place, all);
+  const Area seen = Intersection(place, all);
   if (shown_.pixels.empty()) {
     shown_ = ScalePicture(picture_, {place.right - place.left, place.bottom - place.top},
                           {seen.left - place.left, seen.top - place.top, seen.right - place.left,

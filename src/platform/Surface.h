@@ -5,6 +5,7 @@
 // What a back end cannot do is asked with Supports; nothing throws for it.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -36,6 +37,13 @@ struct Area {
   int bottom = 0;
   bool operator==(const Area&) const = default;
 };
+
+// What both areas cover; right is at or before left, or bottom at or above top, where that is
+// nothing.
+constexpr Area Intersection(const Area& a, const Area& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
+}
 
 enum class DrawMode : std::uint8_t {
   Copy,

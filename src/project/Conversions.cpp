@@ -1,6 +1,7 @@
 #include "project/Conversions.h"
 
 #include "base/NumberText.h"
+#include "base/Quotient.h"
 #include "base/Rounding.h"
 #include "project/NumberInput.h"
 

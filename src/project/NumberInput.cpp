@@ -38,11 +38,6 @@ float ReadSingle(std::string_view text) {
   return Held(ToSingle(ParseNumber(text)));
 }
 
-float Quotient(float dividend, float divisor) {
-  if (divisor == 0) throw DivisionByZeroError();
-  return dividend / divisor;
-}
-
 std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& check,
                                    std::string& message) {
   const std::string_view trimmed = Trim(text);
