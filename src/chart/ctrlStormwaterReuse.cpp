@@ -21,10 +21,6 @@ constexpr std::int16_t kRangeHelp = 1;  // the help topic on ranges and the char
 constexpr double kSolveToleranceR = 1e-5;  // in/day
 constexpr double kSolveToleranceV = 5e-6;  // inches
 
-void ShowError(Desktop& desktop, const std::string& text) {
-  desktop.ShowMessage(text, "Error", MessageIcon::Exclamation);
-}
-
 }  // namespace
 
 ctrlStormwaterReuse::ctrlStormwaterReuse(Desktop& desktop, std::string defaultDataFolder)
@@ -49,7 +45,7 @@ void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
   stationIndex_ = StationIndex;
   const std::string folder = CurveFolder();
   if (!FolderExists(folder)) {
-    ShowError(desktop_, "Can't find data path:\r\n" + folder);
+    desktop_.ShowError("Can't find data path:\r\n" + folder);
     return;
   }
   isLoaded_ = LoadCurves(folder);
@@ -65,7 +61,7 @@ void ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
 bool ctrlStormwaterReuse::LoadCurves(const std::string& folder) {
   const std::string file = folder + std::string(Trim(stationName_)) + ".crv";
   if (!FileExists(file)) {
-    ShowError(desktop_, "Can't find data for " + stationName_);
+    desktop_.ShowError("Can't find data for " + stationName_);
     return false;
   }
   clsIOStream stream;

@@ -129,8 +129,7 @@ void Form1::PrintOn(Printer* printer) {
   const DocumentStart start =
       printer ? printer->StartDocument(ReportTitle()) : DocumentStart::Unreachable;
   if (start == DocumentStart::Unreachable) {
-    desktop_.ShowMessage("Unable to establish connection with printer.", "Error",
-                         MessageIcon::Exclamation);
+    desktop_.ShowError("Unable to establish connection with printer.");
   }
   if (start != DocumentStart::Started) return;
   try {
@@ -139,8 +138,7 @@ void Form1::PrintOn(Printer* printer) {
   } catch (const PrinterError&) {
     return;  // the system tells the user about its printers; the job is given up as a whole
   } catch (const NumericError& fault) {
-    desktop_.ShowMessage("The report cannot be printed. " + NumericFaultSentence(fault), "Error",
-                         MessageIcon::Exclamation);
+    desktop_.ShowError("The report cannot be printed. " + NumericFaultSentence(fault));
   }
 }
 
@@ -173,8 +171,7 @@ void Form1::Leave(std::int16_t returnCode) {
 void Form1::OpenDropped(const std::string& path) {
   if (mode_ != kStandAlone) return;
   if (!IsProjectFile(path)) {
-    return desktop_.ShowMessage("Only a project file (*.kav) can be opened here.", "Error",
-                                MessageIcon::Exclamation);
+    return desktop_.ShowError("Only a project file (*.kav) can be opened here.");
   }
   files_.OpenProject(path);
   ctrlStormwaterReuse1_.Refresh();

@@ -26,7 +26,7 @@ void FileCommands::Open() {
 
 bool FileCommands::OpenProject(std::string_view path) {
   if (LoadFile(path)) return true;
-  ShowError("Error reading data file.");
+  desktop_.ShowError("Error reading data file.");
   return false;
 }
 
@@ -76,7 +76,7 @@ bool FileCommands::ReadFile(std::string_view text) {
                       file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
   TellReplaced();
-  if (!isRead) ShowError("Error reading data.");
+  if (!isRead) desktop_.ShowError("Error reading data.");
   workflow_.ReCalc();
   return isRead;
 }
@@ -145,10 +145,6 @@ std::string FileCommands::GetMyDocumentsFolder(std::string& error) {
   const auto folder = desktop_.DocumentsFolder();
   if (!folder) error = "The folder path could not be detected";
   return folder.value_or("");
-}
-
-void FileCommands::ShowError(std::string_view text) {
-  desktop_.ShowMessage(text, "Error", MessageIcon::Exclamation);
 }
 
 void FileCommands::ShowFileName(std::string_view path) {

@@ -71,7 +71,6 @@ class FileCommands {
  private:
   FileDialog ProjectDialog();
   std::string StartFolder();
-  void ShowError(std::string_view text);
   void ShowFileName(std::string_view path);
   void TellReplaced();
 

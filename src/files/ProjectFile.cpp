@@ -107,7 +107,7 @@ bool ProjectFile::CheckVersion(clsIOStream& stream) {
   if (!ReadLine(stream, line)) return false;
   const std::string_view magic = Trim(line);
   const auto refuse = [&](std::string_view message) {
-    desktop_.ShowMessage(message, "Error", MessageIcon::Exclamation);
+    desktop_.ShowError(message);
     return false;
   };
   if (!magic.starts_with(kMagic.substr(0, kMagicPrefix))) {

@@ -48,8 +48,7 @@ void MessageHelp::cmdErrorHelp_Click() {
     case PageOpening::Opened:
       return;
     case PageOpening::NoProgram:
-      return desktop_.ShowMessage("Could not find default browser.", "Error",
-                                  MessageIcon::Exclamation);
+      return desktop_.ShowError("Could not find default browser.");
     case PageOpening::Failed:
       return desktop_.ShowMessage("File could not be opened.", "URL Failed",
                                   MessageIcon::Exclamation);
