@@ -50,6 +50,11 @@ enum class DrawMode : std::uint8_t {
   ExclusiveOr,  // the colour's bits flip those of the surface: drawing twice erases
 };
 
+// What lines are drawn with. A wide line ends flat at its first and last point. Where slanting
+// lines meet, the corner is round or bevelled, and that of level and upright lines may be left
+// open, as the back end does it best: at our widths of a few pixels the difference does not show,
+// and nobody may count on one of them. In ExclusiveOr mode a wide pen may be square instead, and
+// reach half its width beyond the ends.
 struct Pen {
   Colour colour = kBlack;
   int width = 1;  // pixels, centred on the line
