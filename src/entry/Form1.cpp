@@ -1,8 +1,9 @@
 #include "entry/Form1.h"
 
+#include "base/BuildVersion.h"
+#include "base/ModuleVersion.h"
 #include "base/RuntimeErrors.h"
 #include "base/Text.h"
-#include "base/VersionText.h"
 #include "engine/ClimateStations.h"
 #include "printing/ProjectReport.h"
 #include "project/NumberInput.h"
@@ -98,7 +99,7 @@ void Form1::Form_Load() {
     form_.cmbSolveFor->AddItem(SolveForItem(mode));
   }
   form_.cmbSolveFor->ListIndex(SolveFor::kInteractive);
-  form_.window->Caption("KAV - ORVIK 3.3 Stormwater Harvesting Module (Ver " + VersionText() + ")");
+  form_.window->Caption("KAV - " + std::string(kModuleTitle) + " (Ver " + BuildVersionText() + ")");
   Mode(mode_);
 }
 

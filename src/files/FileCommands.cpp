@@ -1,5 +1,6 @@
 #include "files/FileCommands.h"
 
+#include "base/ModuleVersion.h"
 #include "base/Paths.h"
 #include "files/SafeReplace.h"
 
@@ -148,7 +149,7 @@ std::string FileCommands::GetMyDocumentsFolder(std::string& error) {
 }
 
 void FileCommands::ShowFileName(std::string_view path) {
-  form_.window->Caption("ORVIK 3.3 KAV - " + FileNameOf(path));
+  form_.window->Caption(std::string(kProductName) + " KAV - " + FileNameOf(path));
 }
 
 void FileCommands::TellReplaced() {

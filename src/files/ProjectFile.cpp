@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "base/ModuleVersion.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "project/FaultsOnBar.h"
@@ -12,9 +13,10 @@ namespace {
 
 constexpr std::string_view kMagic = "KAV3.3.01";
 constexpr std::string_view kTitle = "ORVIK Stormwater Harvesting Module";
-constexpr std::string_view kUntitledCaption = "ORVIK 3.3 Stormwater Harvesting - [untitled]";
-constexpr std::size_t kMagicPrefix = 7;    // "KAV3.3.": the rest is the file's version
-constexpr std::size_t kVersionDigits = 2;  // at the end of the line
+constexpr std::string_view kUntitledCaption =
+    " Stormwater Harvesting - [untitled]";  // behind the product
+constexpr std::size_t kMagicPrefix = 7;     // "KAV3.3.": the rest is the file's version
+constexpr std::size_t kVersionDigits = 2;   // at the end of the line
 constexpr double kFileVersion = 1;
 
 std::array<ctrlMyTextBox*, 6> DescriptionFields(ProjectForm& form) {
@@ -158,7 +160,7 @@ bool ProjectFile::ReadGivenValues(clsIOStream& stream) {
 // --- Clearing ---
 
 void ProjectFile::ClearData() {
-  form_.window->Caption(kUntitledCaption);
+  form_.window->Caption(std::string(kProductName).append(kUntitledCaption));
   for (ctrlMyTextBox* field : DescriptionFields(form_)) field->Text("");
   chart_.Clear();
   form_.cmbClimateStation->ListIndex(-1);

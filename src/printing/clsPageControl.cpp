@@ -27,7 +27,6 @@ constexpr int kSmallFont = 2;
 constexpr int kSubtitleFont = 3;
 constexpr int kBodyFont = 4;
 
-constexpr std::string_view kTitleLine = "ORVIK 3.3";
 constexpr std::string_view kSubtitleLine = "Stormwater Harvesting Module";
 constexpr std::string_view kAuthorLine = "Prepared with the ORVIK pond design suite";
 
@@ -40,10 +39,7 @@ std::string DateAndTime(const ClockTime& time) {
 
 }  // namespace
 
-clsPageControl::clsPageControl(Desktop& desktop)
-    : time_(desktop.Now()),
-      versionText_(std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "." +
-                   std::to_string(kBuildNumber)) {}
+clsPageControl::clsPageControl(Desktop& desktop) : time_(desktop.Now()) {}
 
 const clsFont& clsPageControl::Font(int index) const {
   if (index < 1 || index > kFonts) throw SubscriptError();
@@ -120,13 +116,13 @@ float clsPageControl::HeaderTop(const Printer& printer) const {
 void clsPageControl::Header_Print(Printer& printer, int page) {
   PrintFooter(printer);
   float y = HeaderTop(printer);
-  PrintAt(printer, kTitleFont, body_.Left, y, kTitleLine);
+  PrintAt(printer, kTitleFont, body_.Left, y, kProductName);
   PrintRight(printer, kBodyFont, y, "Page " + std::to_string(page));
   y += HeightOfFont(kTitleFont);
   PrintAt(printer, kSubtitleFont, body_.Left, y, kSubtitleLine);
   PrintRight(printer, kBodyFont, y, DateAndTime(time_));
   y += HeightOfFont(kSubtitleFont);
-  PrintAt(printer, kSmallFont, body_.Left, y, "Version " + versionText_);
+  PrintAt(printer, kSmallFont, body_.Left, y, "Version " + std::string(kModuleVersion));
   y += (1 + kRuleGap) * HeightOfFont(kSmallFont);
 
   const float ruleWidth = std::max(1.0F, kRuleWidth * static_cast<float>(printer.Resolution()));

@@ -68,8 +68,6 @@ class clsPageControl {
   // The height of a line of text in a font of the report, once the fonts are ready.
   float HeightOfFont(int font) const { return heights_.at(static_cast<std::size_t>(font - 1)); }
 
-  const std::string& VersionText() const { return versionText_; }  // "3.3.1"
-
   // The second credit line, at the foot of each page: whose report it is.
   void CreditLine(std::string line) { creditLine_ = std::move(line); }
 
@@ -80,7 +78,6 @@ class clsPageControl {
   void PrintFooter(Printer& printer);
 
   ClockTime time_;
-  std::string versionText_;
   std::string creditLine_;
   std::array<clsFont, kFonts> fonts_;
   std::array<float, kFonts> heights_{};  // of a line of text
