@@ -8,8 +8,7 @@
 namespace orvik {
 namespace {
 
-constexpr double kAspectRatio = 4.0 / 3.0;  // width to height of the frame
-constexpr double kMargin = 20;              // pixels on each side of the target
+constexpr double kMargin = 20;  // pixels on each side of the target
 
 // The bands above and below the frame, in heights of the texts that stand there.
 struct Bands {
@@ -45,18 +44,14 @@ Extents FitExtents(double usableWidth, double usableHeight, double aboveUnits, d
                    double belowUnits) {
   const double sum = aboveUnits + plotUnits + belowUnits;
   double height = usableHeight * (plotUnits / sum);
-  double width = height * kAspectRatio;
+  double width = height * kFrameShape;
   if (width > usableWidth) {  // the width is the limit; the heights follow from it
     width = usableWidth;
-    height = width / kAspectRatio;
+    height = width / kFrameShape;
   }
   const double pixelsPerUnit = height / plotUnits;
   return {aboveUnits * pixelsPerUnit, height, width, belowUnits * pixelsPerUnit};
 }
-
-}  // namespace
-
-namespace {
 
 double AboveUnits(const Bands& bands, const LayoutHeights& heights) {
   return bands.aboveInTitles * heights.Title;
@@ -110,7 +105,7 @@ FrameLayout LayoutPrintedFrame(const clsRectangle_Integer& target, const clsPlot
 double PrintedHeight(double width, const clsPlotWindow& window, const LayoutHeights& heights) {
   const double plot = window.YMax - window.YMin;
   const double pixelsPerUnit = std::max(1.0, width - 2 * kMargin) /
-                               (kAspectRatio * plot + 2 * kVerticalTexts * heights.Label);
+                               (kFrameShape * plot + 2 * kVerticalTexts * heights.Label);
   const double units = AboveUnits(kPrintBands, heights) + plot + BelowUnits(kPrintBands, heights);
   return units * pixelsPerUnit + 2 * kMargin;
 }
