@@ -120,8 +120,8 @@ class Layout {
   // --- Project page ---
 
   int RowHeight(const FieldRow& row) const {
-    return row.field == "txtDescription" ? kDescriptionLines * m_.lineHeight + S(kFieldPadding)
-                                         : FieldHeight();
+    return row.kind == FieldKind::Wrapped ? kDescriptionLines * m_.lineHeight + S(kFieldPadding)
+                                          : FieldHeight();
   }
 
   int ProjectHeight() const {
@@ -141,8 +141,8 @@ class Layout {
     int top = S(kMargin) + S(kRowGapMost);
     for (const FieldRow& row : ProjectRows()) {
       PlaceText(row.label.name, margin, margin + labelWidth, top);
-      if (row.field == "txtDate") {
-        LayOutDate(left, top);
+      if (row.kind == FieldKind::Date) {
+        LayOutDate(row.field, left, top);
       } else {
         Place(row.field, {left, top, right, top + RowHeight(row)});
       }
@@ -150,9 +150,9 @@ class Layout {
     }
   }
 
-  void LayOutDate(int left, int top) {
+  void LayOutDate(std::string_view field, int left, int top) {
     const int right = left + S(kNumberWidth);
-    Place("txtDate", {left, top, right, top + FieldHeight()});
+    Place(field, {left, top, right, top + FieldHeight()});
     Place("cmdToday", {right + S(kGap), top, right + S(kGap) + ButtonWidth(ButtonCaption::kToday),
                        top + FieldHeight()});
   }
@@ -231,8 +231,8 @@ class Layout {
   }
 
   void LayOutRow(const FieldRow& row, int top) {
-    const bool isList = row.field.starts_with("cmb");
-    const int fieldRight = isList ? ColumnRight() : FieldLeft() + S(kNumberWidth);
+    const int fieldRight =
+        row.kind == FieldKind::List ? ColumnRight() : FieldLeft() + S(kNumberWidth);
     PlaceText(row.label.name, S(kMargin), FieldLeft() - S(kGap), top);
     Place(row.field, {FieldLeft(), top, fieldRight, top + FieldHeight()});
     if (!row.unit.name.empty()) {

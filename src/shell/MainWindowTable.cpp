@@ -6,40 +6,48 @@ namespace orvik {
 namespace {
 
 constexpr std::array kProjectRows = {
-    FieldRow{{"lblProject", "Project &name"}, "txtProjectName", {}},
-    FieldRow{{"lblDescription", "Descr&iption"}, "txtDescription", {}},
-    FieldRow{{"lblProjectNumber", "Project n&umber"}, "txtProjectNumber", {}},
-    FieldRow{{"lblEngineer", "&Engineer"}, "txtEngineer", {}},
-    FieldRow{{"lblSupervisingEngineer", "Super&vising engineer"}, "txtSuervisingEngineer", {}},
-    FieldRow{{"lblDate", "D&ate"}, "txtDate", {}},
+    FieldRow{{"lblProject", "Project &name"}, "txtProjectName", FieldKind::Text},
+    FieldRow{{"lblDescription", "Descr&iption"}, "txtDescription", FieldKind::Wrapped},
+    FieldRow{{"lblProjectNumber", "Project n&umber"}, "txtProjectNumber", FieldKind::Text},
+    FieldRow{{"lblEngineer", "&Engineer"}, "txtEngineer", FieldKind::Text},
+    FieldRow{{"lblSupervisingEngineer", "Super&vising engineer"},
+             "txtSuervisingEngineer",
+             FieldKind::Text},
+    FieldRow{{"lblDate", "D&ate"}, "txtDate", FieldKind::Date},
 };
 
 constexpr std::array kSiteRows = {
-    FieldRow{{"lblClimateStation", "Climate st&ation"}, "cmbClimateStation", {}},
-    FieldRow{{"lblBasinArea", "&Basin area"}, "txtBasinArea", {"lblBasinAreaUnit", "acres"}},
+    FieldRow{{"lblClimateStation", "Climate st&ation"}, "cmbClimateStation", FieldKind::List},
+    FieldRow{{"lblBasinArea", "&Basin area"},
+             "txtBasinArea",
+             FieldKind::Number,
+             {"lblBasinAreaUnit", "acres"}},
     FieldRow{{"lblRunoffCoefficient", "Runoff c&oefficient"},
              "txtRunoffCoefficient",
+             FieldKind::Number,
              {"lblRunoffCoefficientUnit", "0 to 1"}},
     FieldRow{{"lblEquivalentImperviousArea", "E&quivalent impervious area"},
              "txtEquivalentImperviousArea",
+             FieldKind::Number,
              {"lblEquivalentImperviousAreaUnit", "acres (EIA)"}},
     FieldRow{{"lblIrrigationArea", "Irri&gation area"},
              "txtIrrigationArea",
+             FieldKind::Number,
              {"lblIrrigationAreaUnit", "acres"}},
 };
 
 // The captions of the three slots name their units and change with the mode.
 constexpr std::array kSolveRows = {
-    FieldRow{{"lblSolveForMode", "So&lve for"}, "cmbSolveFor", {}},
-    FieldRow{{"lblSolveFor(1)", {}}, "txtSolveFor(1)", {}},
-    FieldRow{{"lblSolveFor(2)", {}}, "txtSolveFor(2)", {}},
-    FieldRow{{"lblSolveFor(3)", {}}, "txtSolveFor(3)", {}},
+    FieldRow{{"lblSolveForMode", "So&lve for"}, "cmbSolveFor", FieldKind::List},
+    FieldRow{{"lblSolveFor(1)", {}}, "txtSolveFor(1)", FieldKind::Number},
+    FieldRow{{"lblSolveFor(2)", {}}, "txtSolveFor(2)", FieldKind::Number},
+    FieldRow{{"lblSolveFor(3)", {}}, "txtSolveFor(3)", FieldKind::Number},
 };
 
 constexpr std::array kNormalizedRows = {
-    FieldRow{{"lblR", "Reuse ra&te R"}, "txtR", {"lblRUnit", "in/day"}},
-    FieldRow{{"lblE", "&Efficiency E"}, "txtE", {"lblEUnit", "%"}},
-    FieldRow{{"lblV", "Storage &volume V"}, "txtV", {"lblVUnit", "in"}},
+    FieldRow{{"lblR", "Reuse ra&te R"}, "txtR", FieldKind::Number, {"lblRUnit", "in/day"}},
+    FieldRow{{"lblE", "&Efficiency E"}, "txtE", FieldKind::Number, {"lblEUnit", "%"}},
+    FieldRow{{"lblV", "Storage &volume V"}, "txtV", FieldKind::Number, {"lblVUnit", "in"}},
 };
 
 constexpr std::array kDataGroups = {
@@ -49,11 +57,11 @@ constexpr std::array kDataGroups = {
 };
 
 // It names the bar to a screen reader, which would take the last text before it otherwise.
-constexpr FieldRow kMessageRow{{"lblErrMsg", "Message"}, "txtErrMsg", {}};
+constexpr FieldRow kMessageRow{{"lblErrMsg", "Message"}, "txtErrMsg", FieldKind::Text};
 
 void AddRow(std::vector<WidgetDesign>& widgets, std::string_view page, const FieldRow& row) {
   widgets.push_back({row.label.name, page});
-  const bool isWrapped = row.field == "txtDescription";
+  const bool isWrapped = row.kind == FieldKind::Wrapped;
   widgets.push_back({row.field, page, isWrapped ? WidgetStyle::Wrapped : WidgetStyle::Plain});
   if (!row.unit.name.empty()) widgets.push_back({row.unit.name, page});
 }

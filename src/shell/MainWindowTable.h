@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -16,11 +17,20 @@ struct LabelDesign {
   std::string_view caption;  // "&" marks the mnemonic, which leads into the field after the label
 };
 
+enum class FieldKind : std::uint8_t {
+  Text,     // of one line
+  Wrapped,  // of several lines
+  Date,     // with the button for today beside it
+  Number,
+  List,
+};
+
 // A field of a page with what stands beside it; an empty name is nothing there.
 struct FieldRow {
   LabelDesign label;
   std::string_view field;
-  LabelDesign unit;
+  FieldKind kind;
+  LabelDesign unit = {};
 };
 
 // The project page, from top to bottom.
