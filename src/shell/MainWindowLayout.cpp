@@ -5,6 +5,7 @@
 
 #include "project/SolveForMode.h"
 #include "shell/MainWindowTable.h"
+#include "shell/Paddings.h"
 
 namespace orvik {
 namespace {
@@ -12,9 +13,6 @@ namespace {
 // Lengths for 96 dots per inch.
 constexpr int kMargin = 12;         // round each page and between its columns
 constexpr int kGap = 6;             // between widgets that belong together
-constexpr int kFieldPadding = 8;    // of a field above and below its line of text, together
-constexpr int kButtonPadding = 10;  // of a button, likewise
-constexpr int kButtonSides = 28;    // of a button left and right of its caption, together
 constexpr int kToolbarPadding = 6;  // above and below the toolbar's buttons
 constexpr int kNumberWidth = 104;   // of a field for a number
 constexpr int kListSides = 32;      // of a list left and right of its text, together
