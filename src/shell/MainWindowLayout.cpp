@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "engine/ClimateStations.h"
 #include "project/SolveForMode.h"
 #include "shell/MainWindowTable.h"
 #include "shell/Paddings.h"
@@ -37,10 +38,20 @@ std::string WithoutMnemonic(std::string_view caption) {
   return text;
 }
 
+// Of the climate station whose name is the longest on the screen.
+int WidthOfStations(const TextMeasures& measures) {
+  int width = 0;
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    width = std::max(width, measures.width(ClimateStationName(i)));
+  }
+  return width;
+}
+
 // One layout in the making: places are added as widgets are met.
 class Layout {
  public:
-  Layout(Size inner, const TextMeasures& measures) : inner_(inner), m_(measures) {}
+  Layout(Size inner, const TextMeasures& measures)
+      : inner_(inner), m_(measures), stationWidth_(WidthOfStations(measures)) {}
 
   std::vector<Placement> Run() {
     LayOutToolbar();
@@ -182,7 +193,7 @@ class Layout {
   // Lists reach to the right end of the units; the longest station name must fit.
   int ColumnRight() const {
     const int fields = S(kNumberWidth) + S(kGap) + UnitWidth();
-    return FieldLeft() + std::max(fields, TextWidth("West Palm Beach") + S(kListSides));
+    return FieldLeft() + std::max(fields, stationWidth_ + S(kListSides));
   }
 
   int RowsHeight(int rowGap) const {
@@ -248,6 +259,7 @@ class Layout {
 
   Size inner_;
   const TextMeasures& m_;
+  int stationWidth_;  // of the longest name
   std::vector<Placement> places_;
 };
 
