@@ -15,6 +15,14 @@
 
 namespace orvik {
 
+// The report's fonts by their use: the numbers that clsPageControl knows them by.
+namespace ReportFont {
+inline constexpr int kHeading = 1;
+inline constexpr int kSmall = 2;
+inline constexpr int kEmphasis = 3;
+inline constexpr int kBody = 4;
+}  // namespace ReportFont
+
 // For one document: ReadyFonts, GetPrintableMargins, EstimateFreeMargins, PageIsBlank(true),
 // NewPage, in this order, and then the lines. Ending the document is the caller's.
 class clsPageControl {
@@ -24,8 +32,7 @@ class clsPageControl {
   // All headers of a document tell the time of its beginning.
   explicit clsPageControl(Desktop& desktop);
 
-  // The report's fonts, numbered from 1: headings, small print, emphasis, body. Throws
-  // SubscriptError.
+  // One of ReportFont. Throws SubscriptError.
   const clsFont& Font(int index) const;
 
   // Applies the font to the printer and remembers it as the current one.
