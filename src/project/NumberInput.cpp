@@ -53,13 +53,13 @@ std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& c
 }
 
 std::string NumericFaultSentence(const NumericError& fault) {
-  if (dynamic_cast<const OverflowError*>(&fault)) {
-    return "A number is too large for the calculation.";
+  switch (fault.Kind()) {
+    case NumericFault::Overflow:
+      return "A number is too large for the calculation.";
+    case NumericFault::DivisionByZero:
+      break;
   }
-  if (dynamic_cast<const DivisionByZeroError*>(&fault)) {
-    return "The calculation divides by zero.";
-  }
-  return fault.what();
+  return "The calculation divides by zero.";
 }
 
 }  // namespace orvik
