@@ -93,8 +93,8 @@ TEST_F(SmallWindowsTest, AMissingOrDamagedPictureLeavesTheViewerEmptyWithoutAMes
 }
 
 TEST(SmallWindowsChart, IsRedrawnOnceTheMapIsClosed) {
-  HeadlessToolkit toolkit;
-  HeadlessDesktop desktop;
+  test::UserToolkit toolkit;
+  test::AnsweringDesktop desktop;
   ctrlStormwaterReuse chart(desktop, "");
   test::RecordingHost host;
   chart.AttachHost(&host);
