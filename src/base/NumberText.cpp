@@ -1,5 +1,6 @@
 #include "base/NumberText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -179,6 +180,16 @@ std::string ToShortestText(float value) {
 
 std::string ToShortestText(double value) {
   return Shortest(value);
+}
+
+std::string WithLeadingZeros(int value, std::size_t width) {
+  const std::string digits = std::to_string(value);
+  return std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+std::string MonthDayYear(int month, int day, int year) {
+  return WithLeadingZeros(month, 2) + "-" + WithLeadingZeros(day, 2) + "-" +
+         WithLeadingZeros(year, 4);
 }
 
 double ParseNumber(std::string_view text) {

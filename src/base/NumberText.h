@@ -2,6 +2,7 @@
 // always.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -27,6 +28,13 @@ std::string ConvertToString(double value);
 // The shortest text that reads back as the same number. Throws OverflowError as above.
 std::string ToShortestText(float value);
 std::string ToShortestText(double value);
+
+// The digits of a number that is not negative, with zeros in front up to `width` characters; a
+// longer number keeps all its digits.
+std::string WithLeadingZeros(int value, std::size_t width);
+
+// A date as fields and reports show it: "11-21-2026".
+std::string MonthDayYear(int month, int day, int year);
 
 // The value of the longest numeric prefix (blanks, sign, digits with one period, exponent), 0 when
 // there is none. Values beyond the range of a double are infinite, values too small for one are 0.

@@ -2,27 +2,36 @@
 // number.
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 
 namespace orvik {
 
-// Base of all of them, so that a wall can catch the kind.
+enum class NumericFault : std::uint8_t { Overflow, DivisionByZero };
+
+// Base of all of them, so that a wall can catch every kind.
 class NumericError : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  NumericFault Kind() const { return kind_; }
+
+ protected:
+  NumericError(NumericFault kind, const char* what) : std::runtime_error(what), kind_(kind) {}
+
+ private:
+  NumericFault kind_;
 };
 
 // A value does not fit the type that must hold it (a pixel beyond 16 bits, a number that is
 // infinite).
 class OverflowError : public NumericError {
  public:
-  OverflowError() : NumericError("Overflow") {}
+  OverflowError() : NumericError(NumericFault::Overflow, "Overflow") {}
 };
 
 // A divisor is zero where a quotient is needed.
 class DivisionByZeroError : public NumericError {
  public:
-  DivisionByZeroError() : NumericError("Division by zero") {}
+  DivisionByZeroError() : NumericError(NumericFault::DivisionByZero, "Division by zero") {}
 };
 
 // An index lies outside a table.

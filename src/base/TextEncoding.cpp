@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 
+#include "base/Utf8.h"
+
 namespace orvik {
 namespace {
 
@@ -13,29 +15,16 @@ constexpr std::array<std::uint16_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-void AppendUtf8(std::string& out, std::uint16_t code) {
-  if (code < 0x80) {
-    out += static_cast<char>(code);
-  } else if (code < 0x800) {
-    out += static_cast<char>(0xC0 | (code >> 6));
-    out += static_cast<char>(0x80 | (code & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | (code >> 12));
-    out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (code & 0x3F));
-  }
-}
-
 // Length of the well-formed sequence at the front of `bytes`, 0 if there is none (RFC 3629, section
 // 4).
 std::size_t SequenceLength(std::string_view bytes) {
   const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
   const unsigned char lead = at(0);
   if (lead < 0x80) return 1;
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  const std::size_t length = CharacterLength(bytes[0]);
   if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
   for (std::size_t i = 1; i < length; ++i) {
-    if ((at(i) & 0xC0) != 0x80) return 0;
+    if (!IsContinuation(bytes[i])) return 0;
   }
   const unsigned char second = at(1);
   const bool overlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);

@@ -40,28 +40,23 @@ const KeyStep* FindStep(std::int16_t keyCode) {
   return found == kKeySteps.end() ? nullptr : &*found;
 }
 
-Area Common(const Area& a, const Area& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
-}
-
 }  // namespace
 
 void ctrlPictureViewer::Show(Picture picture) {
   if (!IsConsistent(picture)) throw std::invalid_argument("The picture is not of its size.");
   picture_ = std::move(picture);
   view_.PictureSize(picture_.size);
-  Drawn();
+  RedrawView();
 }
 
 void ctrlPictureViewer::Resize(int width, int height) {
   size_ = {width, height};
   view_.WindowSize(size_);
-  Drawn();
+  RedrawView();
 }
 
-// The view shows something else.
-void ctrlPictureViewer::Drawn() {
+// What was scaled for the view before is of no use any more.
+void ctrlPictureViewer::RedrawView() {
   shown_ = {};
   if (host_) host_->Invalidate();
 }
@@ -73,7 +68,7 @@ void ctrlPictureViewer::Paint(Surface& surface) {
   surface.FillArea(all, kButtonFace);
   if (view_.IsEmpty()) return;
   const Area place = view_.Place();
-  const Area seen = Common(place, all);
+  const Area seen = Intersection(place, all);
   if (shown_.pixels.empty()) {
     shown_ = ScalePicture(picture_, {place.right - place.left, place.bottom - place.top},
                           {seen.left - place.left, seen.top - place.top, seen.right - place.left,
@@ -95,7 +90,7 @@ void ctrlPictureViewer::MouseDown(double x, double y) {
 void ctrlPictureViewer::MouseMove(double x, double y) {
   if (!isDragging_) return;
   view_.Pan(x - std::exchange(dragX_, x), y - std::exchange(dragY_, y));
-  Drawn();
+  RedrawView();
 }
 
 void ctrlPictureViewer::MouseUp() {
@@ -109,14 +104,14 @@ void ctrlPictureViewer::CaptureLost() {
 
 void ctrlPictureViewer::DoubleClick() {
   view_.Fit();
-  Drawn();
+  RedrawView();
 }
 
 void ctrlPictureViewer::MouseWheel(double notches, double x, double y) {
   const double factor = std::pow(kZoomStep, notches);
   const bool isInside = 0 <= x && x < size_.width && 0 <= y && y < size_.height;
   isInside ? view_.ZoomAbout(x, y, factor) : view_.ZoomAboutMiddle(factor);
-  Drawn();
+  RedrawView();
 }
 
 PointerShape ctrlPictureViewer::Pointer() const {
@@ -130,7 +125,7 @@ void ctrlPictureViewer::KeyDown(std::int16_t keyCode) {
   if (!step) return;
   view_.ZoomAboutMiddle(step->zoom);
   view_.Pan(step->right * size_.width / kArrowSteps, step->down * size_.height / kArrowSteps);
-  Drawn();
+  RedrawView();
 }
 
 bool ctrlPictureViewer::WantsKey(std::int16_t keyCode) {

@@ -53,7 +53,7 @@ class ctrlPictureViewer {
   const PictureView& View() const { return view_; }
 
  private:
-  void Drawn();
+  void RedrawView();
 
   Host* host_ = nullptr;
   Picture picture_;

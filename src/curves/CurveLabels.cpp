@@ -6,24 +6,23 @@
 #include <vector>
 
 #include "base/NumberText.h"
+#include "engine/ChartShape.h"
 
 namespace orvik {
 namespace {
 
-// A label's text has the height of 0.008 in/day on the chart, whatever the chart's range; the box
-// of a line is a little higher. Its width follows from the text and the frame's shape of 4:3.
-constexpr double kTextHeightR = 0.008;
-constexpr double kLineHeightR = 1.15 * kTextHeightR;
+// The box of a label's line is a little higher than its text. Its width follows from the text and
+// the frame's shape.
+constexpr double kLineHeightR = 1.15 * kLabelHeight;
 constexpr double kCharacterShape = 0.58;  // width of a character over the height of the text
-constexpr double kFrameShape = 4.0 / 3.0;
-constexpr double kClearanceR = 0.0012;  // between a label and its own curve
-constexpr double kEnoughRoomR = 0.003;  // above a label
-constexpr double kNearlyR = 0.0001;     // less than a pixel of a common chart
-constexpr double kColumnShare = 0.5;    // of the V axis
-constexpr double kDecimals = 1e4;       // positions are written with four decimals
+constexpr double kClearanceR = 0.0012;    // between a label and its own curve
+constexpr double kEnoughRoomR = 0.003;    // above a label
+constexpr double kNearlyR = 0.0001;       // less than a pixel of a common chart
+constexpr double kColumnShare = 0.5;      // of the V axis
+constexpr double kDecimals = 1e4;         // positions are written with four decimals
 
 double TextWidthV(const CurveSet& set, std::size_t characters) {
-  const double heightShare = kTextHeightR / (set.RMax - set.RMin);
+  const double heightShare = kLabelHeight / (set.RMax - set.RMin);
   return static_cast<double>(characters) * kCharacterShape * heightShare / kFrameShape *
          (set.VMax - set.VMin);
 }

@@ -1,7 +1,8 @@
 #include "curves/RainDate.h"
 
-#include <algorithm>
 #include <charconv>
+
+#include "base/NumberText.h"
 
 namespace orvik {
 namespace {
@@ -31,11 +32,6 @@ std::optional<std::chrono::sys_days> ParseUsDate(std::string_view text, std::siz
                   ParseDigits(text.substr(slash + 1, second - slash - 1), 1, 2));
 }
 
-std::string Padded(unsigned value, std::size_t width) {
-  const std::string digits = std::to_string(value);
-  return std::string(width - std::min(width, digits.size()), '0') + digits;
-}
-
 }  // namespace
 
 std::optional<std::chrono::sys_days> ParseRainDate(std::string_view text) {
@@ -53,9 +49,9 @@ std::optional<std::chrono::sys_days> ParseRainDate(std::string_view text) {
 
 std::string IsoDate(std::chrono::sys_days date) {
   const std::chrono::year_month_day day(date);
-  return Padded(static_cast<unsigned>(static_cast<int>(day.year())), 4) + "-" +
-         Padded(static_cast<unsigned>(day.month()), 2) + "-" +
-         Padded(static_cast<unsigned>(day.day()), 2);
+  return WithLeadingZeros(static_cast<int>(day.year()), 4) + "-" +
+         WithLeadingZeros(static_cast<int>(static_cast<unsigned>(day.month())), 2) + "-" +
+         WithLeadingZeros(static_cast<int>(static_cast<unsigned>(day.day())), 2);
 }
 
 int YearOf(std::chrono::sys_days date) {

@@ -7,6 +7,7 @@
 #include "base/FileBytes.h"
 #include "base/NumberText.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "base/TextEncoding.h"
 #include "curves/CsvText.h"
 #include "curves/FileError.h"
@@ -31,13 +32,6 @@ struct ColumnPlaces {
   std::optional<std::size_t> station;
 };
 
-std::string Lower(std::string text) {
-  for (char& c : text) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return text;
-}
-
 std::string JoinNames(const std::vector<std::string>& names) {
   std::string text;
   for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
@@ -46,8 +40,8 @@ std::string JoinNames(const std::vector<std::string>& names) {
 
 std::optional<std::size_t> FindColumn(const std::vector<std::string>& header,
                                       const std::string& name) {
-  const auto found =
-      std::ranges::find_if(header, [&](const std::string& h) { return Lower(h) == Lower(name); });
+  const auto found = std::ranges::find_if(
+      header, [&](const std::string& h) { return EqualIgnoringCase(h, name); });
   if (found == header.end()) return std::nullopt;
   return static_cast<std::size_t>(found - header.begin());
 }

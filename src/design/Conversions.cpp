@@ -1,6 +1,7 @@
 #include "design/Conversions.h"
 
 #include "base/NumberText.h"
+#include "base/Quotient.h"
 #include "base/Rounding.h"
 #include "design/NumberInput.h"
 

@@ -38,11 +38,6 @@ float ReadSingle(std::string_view text) {
   return Held(ToSingle(ParseNumber(text)));
 }
 
-float Quotient(float dividend, float divisor) {
-  if (divisor == 0) throw DivisionByZeroError();
-  return dividend / divisor;
-}
-
 std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& check,
                                    Message& message) {
   const std::string_view trimmed = Trim(text);
@@ -58,8 +53,13 @@ std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& c
 }
 
 Message NumericFaultMessage(const NumericError& fault) {
-  const bool isDivision = dynamic_cast<const DivisionByZeroError*>(&fault) != nullptr;
-  return {isDivision ? MessageId::DivisionByZero : MessageId::NumberTooLarge};
+  switch (fault.Kind()) {
+    case NumericFault::Overflow:
+      return {MessageId::NumberTooLarge};
+    case NumericFault::DivisionByZero:
+      break;
+  }
+  return {MessageId::DivisionByZero};
 }
 
 }  // namespace orvik

@@ -15,9 +15,6 @@ bool IsDefinedNumber(std::string_view text);
 // The numeric text in single precision. Throws OverflowError where single precision cannot hold it.
 float ReadSingle(std::string_view text);
 
-// Dividend / divisor in single precision. Throws DivisionByZeroError.
-float Quotient(float dividend, float divisor);
-
 // Which values of a quantity make sense.
 enum class Range : unsigned char {
   AboveZero,

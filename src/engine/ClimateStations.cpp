@@ -16,14 +16,6 @@ constexpr std::array<std::string_view, 25> kStations = {
     "Moore Haven",  "Niceville",   "NNR2 Canal",    "Orange City",  "Orlando",
     "Parrish",      "Tallahassee", "Tampa",         "Vero Beach",   "West Palm Beach"};
 
-char ToLower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameName(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, [](char x, char y) { return ToLower(x) == ToLower(y); });
-}
-
 }  // namespace
 
 std::int16_t NumRainfallStations() {
@@ -37,8 +29,8 @@ std::string_view ClimateStationName(std::int16_t index) {
 
 std::optional<std::int16_t> FindClimateStation(std::string_view name) {
   name = Trim(name);
-  const auto found =
-      std::ranges::find_if(kStations, [&](std::string_view s) { return SameName(s, name); });
+  const auto found = std::ranges::find_if(
+      kStations, [&](std::string_view s) { return EqualIgnoringCase(s, name); });
   if (found == kStations.end()) return std::nullopt;
   return static_cast<std::int16_t>(found - kStations.begin() + 1);
 }

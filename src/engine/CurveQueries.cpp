@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/Quotient.h"
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
 
@@ -22,9 +23,7 @@ double Interpolate(double from, double to, double t) {
 
 // (value - from) / (to - from), refusing the quotient by zero.
 double Share(double value, double from, double to) {
-  const double range = to - from;
-  if (range == 0) throw DivisionByZeroError();
-  return (value - from) / range;
+  return Quotient(value - from, to - from);
 }
 
 double InterpolatedR(double V, const EfficiencyCurve& A, const EfficiencyCurve& B, double t) {

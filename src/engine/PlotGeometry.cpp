@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
+#include "base/Quotient.h"
 #include "base/Rounding.h"
-#include "base/RuntimeErrors.h"
 
 namespace orvik {
 namespace {
 
-constexpr double kAspectRatio = 4.0 / 3.0;  // width to height of the frame
-constexpr double kMargin = 20;              // pixels on each side of the target
+constexpr double kMargin = 20;  // pixels on each side of the target
 
 // The bands above and below the frame, in heights of the texts that stand there.
 struct Bands {
@@ -33,11 +32,6 @@ constexpr double kTitleLift = 0.25;  // in title heights
 
 constexpr double kNumberGap = 0.4;  // between the frame and its vertical numbers, in label heights
 
-double Quotient(double dividend, double divisor) {
-  if (divisor == 0) throw DivisionByZeroError();
-  return dividend / divisor;
-}
-
 // Extents in pixels before rounding.
 struct Extents {
   double above;
@@ -50,18 +44,14 @@ Extents FitExtents(double usableWidth, double usableHeight, double aboveUnits, d
                    double belowUnits) {
   const double sum = aboveUnits + plotUnits + belowUnits;
   double height = usableHeight * (plotUnits / sum);
-  double width = height * kAspectRatio;
+  double width = height * kFrameShape;
   if (width > usableWidth) {  // the width is the limit; the heights follow from it
     width = usableWidth;
-    height = width / kAspectRatio;
+    height = width / kFrameShape;
   }
   const double pixelsPerUnit = height / plotUnits;
   return {aboveUnits * pixelsPerUnit, height, width, belowUnits * pixelsPerUnit};
 }
-
-}  // namespace
-
-namespace {
 
 double AboveUnits(const Bands& bands, const LayoutHeights& heights) {
   return bands.aboveInTitles * heights.Title;
@@ -115,7 +105,7 @@ FrameLayout LayoutPrintedFrame(const clsRectangle_Integer& target, const clsPlot
 double PrintedHeight(double width, const clsPlotWindow& window, const LayoutHeights& heights) {
   const double plot = window.YMax - window.YMin;
   const double pixelsPerUnit = std::max(1.0, width - 2 * kMargin) /
-                               (kAspectRatio * plot + 2 * kVerticalTexts * heights.Label);
+                               (kFrameShape * plot + 2 * kVerticalTexts * heights.Label);
   const double units = AboveUnits(kPrintBands, heights) + plot + BelowUnits(kPrintBands, heights);
   return units * pixelsPerUnit + 2 * kMargin;
 }
@@ -138,12 +128,14 @@ std::int16_t PlotGeometry::YPlotToYFrame(double y) const {
 }
 
 double PlotGeometry::XFrameToXPlot(std::int16_t X) const {
-  return Quotient(X - frame_.Left, frame_.Right - frame_.Left) * (window_.XMax - window_.XMin) +
+  return Quotient<double>(X - frame_.Left, frame_.Right - frame_.Left) *
+             (window_.XMax - window_.XMin) +
          window_.XMin;
 }
 
 double PlotGeometry::YFrameToYPlot(std::int16_t Y) const {
-  return Quotient(Y - frame_.Bottom, frame_.Top - frame_.Bottom) * (window_.YMax - window_.YMin) +
+  return Quotient<double>(Y - frame_.Bottom, frame_.Top - frame_.Bottom) *
+             (window_.YMax - window_.YMin) +
          window_.YMin;
 }
 

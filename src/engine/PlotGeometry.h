@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "base/Boolean16.h"
+#include "engine/ChartShape.h"
 #include "engine/CurvePolygon.h"
 #include "engine/PlotRecords.h"
 
@@ -15,9 +16,9 @@ inline constexpr int kReferenceHeight = 640;
 
 // Layout values of the control in units of the vertical axis (R, inches per day on the EIA).
 struct LayoutHeights {
-  float Title = 0.01F;   // height of the title block's text
-  float Label = 0.008F;  // height of axis numbers, axis titles and curve labels
-  float Tick = 0.005F;   // length of a tick
+  float Title = 0.01F;  // height of the title block's text
+  float Label = static_cast<float>(kLabelHeight);
+  float Tick = 0.005F;  // length of a tick
 };
 
 // The frame and the three bands that share its columns or rows. Texts start at the band's edge: the

@@ -1,9 +1,9 @@
 #include "entry/Form1.h"
 
-#include <algorithm>
-
+#include "base/BuildVersion.h"
+#include "base/ModuleVersion.h"
 #include "base/RuntimeErrors.h"
-#include "base/VersionText.h"
+#include "base/Text.h"
 #include "design/NumberInput.h"
 #include "engine/ClimateStations.h"
 #include "printing/ProjectReport.h"
@@ -20,10 +20,7 @@ constexpr std::int16_t kSave = 1;
 constexpr std::int16_t kDiscard = 0;
 
 bool IsProjectFile(std::string_view path) {
-  constexpr std::string_view kExtension = ".kav";
-  if (path.size() < kExtension.size()) return false;
-  return std::ranges::equal(path.substr(path.size() - kExtension.size()), kExtension, {},
-                            [](char c) { return 'A' <= c && c <= 'Z' ? c - 'A' + 'a' : c; });
+  return EndsWithIgnoringCase(path, ".kav");
 }
 
 // The toolkit, told where the form's widgets lie.
@@ -101,7 +98,7 @@ void Form1::Form_Load() {
   form_.cmbSolveFor->Clear();
   for (const SolveFor mode : kSolveForModes) form_.cmbSolveFor->AddItem(SolveForItem(mode));
   form_.cmbSolveFor->ListIndex(IndexOf(SolveFor::Interactive));
-  form_.window->Caption("KAV - ORVIK 3.3 Stormwater Harvesting Module (Ver " + VersionText() + ")");
+  form_.window->Caption("KAV - " + std::string(kModuleTitle) + " (Ver " + BuildVersionText() + ")");
   Mode(mode_);
 }
 
@@ -132,7 +129,7 @@ void Form1::PrintOn(Printer* printer) {
   const DocumentStart start =
       printer ? printer->StartDocument(ReportTitle()) : DocumentStart::Unreachable;
   if (start == DocumentStart::Unreachable) {
-    ShowError({MessageId::NoPrinter});
+    desktop_.ShowError(Sentence({MessageId::NoPrinter}));
   }
   if (start != DocumentStart::Started) return;
   try {
@@ -141,7 +138,8 @@ void Form1::PrintOn(Printer* printer) {
   } catch (const PrinterError&) {
     return;  // the system tells the user about its printers; the job is given up as a whole
   } catch (const NumericError& fault) {
-    ShowError({MessageId::ReportNotPrintable, Sentence(NumericFaultMessage(fault))});
+    desktop_.ShowError(
+        Sentence({MessageId::ReportNotPrintable, Sentence(NumericFaultMessage(fault))}));
   }
 }
 
@@ -155,10 +153,6 @@ void Form1::PrintDoc(Printer& printer) const {
 
 std::string Form1::ReportTitle() const {
   return orvik::ReportTitle(binding_.Snapshot());
-}
-
-void Form1::ShowError(const Message& message) {
-  desktop_.ShowMessage(Sentence(message), "Error", MessageIcon::Exclamation);
 }
 
 // --- Leaving ---
@@ -182,7 +176,7 @@ void Form1::Leave(std::int16_t returnCode) {
 void Form1::OpenDropped(const std::string& path) {
   if (mode_ != kStandAlone) return;
   if (!IsProjectFile(path)) {
-    return ShowError({MessageId::OnlyProjectFiles});
+    return desktop_.ShowError(Sentence({MessageId::OnlyProjectFiles}));
   }
   files_.OpenProject(path);
   ctrlStormwaterReuse1_.Refresh();

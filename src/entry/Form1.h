@@ -86,7 +86,6 @@ class Form1 {
   void cmdSaveExit_Click();
   void cmdDiscardExit_Click();
   void Leave(std::int16_t returnCode);
-  void ShowError(const Message& message);
   void OpenDropped(const std::string& path);
 
   Desktop& desktop_;

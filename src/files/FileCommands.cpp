@@ -1,5 +1,6 @@
 #include "files/FileCommands.h"
 
+#include "base/ModuleVersion.h"
 #include "base/Paths.h"
 #include "base/SafeFile.h"
 #include "project/ProjectForm.h"
@@ -10,7 +11,8 @@ namespace {
 
 constexpr std::string_view kProjectFilter =
     "All Files (*.*)|*.*|ORVIK Stormwater Harvesting (*.kav)|*.kav|";
-constexpr std::string_view kUntitledCaption = "ORVIK 3.3 Stormwater Harvesting - [untitled]";
+// Behind the product's name.
+constexpr std::string_view kUntitledCaption = " Stormwater Harvesting - [untitled]";
 constexpr int kProjectFiles = 2;  // the filter's second pair
 
 }  // namespace
@@ -29,7 +31,7 @@ void FileCommands::Open() {
 
 bool FileCommands::OpenProject(std::string_view path) {
   if (LoadFile(path)) return true;
-  ShowError(MessageId::ProjectFileUnreadable);
+  desktop_.ShowError(Sentence({MessageId::ProjectFileUnreadable}));
   return false;
 }
 
@@ -49,7 +51,7 @@ void FileCommands::SaveAs() {
 // --- Reading ---
 
 void FileCommands::ClearData() {
-  form_.window->Caption(kUntitledCaption);
+  form_.window->Caption(std::string(kProductName).append(kUntitledCaption));
   file_.ClearData();
   form_.picProject->Visible(false);
   form_.picData->Visible(true);
@@ -82,7 +84,7 @@ bool FileCommands::ReadFile(std::string_view text) {
                       file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
   TellReplaced();
-  if (!isRead) ShowError(MessageId::ProjectTextUnreadable);
+  if (!isRead) desktop_.ShowError(Sentence({MessageId::ProjectTextUnreadable}));
   workflow_.ReCalc();
   return isRead;
 }
@@ -146,12 +148,8 @@ std::string FileCommands::GetMyDocumentsFolder(std::string& error) {
   return folder.value_or("");
 }
 
-void FileCommands::ShowError(MessageId message) {
-  desktop_.ShowMessage(Sentence({message}), "Error", MessageIcon::Exclamation);
-}
-
 void FileCommands::ShowFileName(std::string_view path) {
-  form_.window->Caption("ORVIK 3.3 KAV - " + FileNameOf(path));
+  form_.window->Caption(std::string(kProductName) + " KAV - " + FileNameOf(path));
 }
 
 void FileCommands::TellReplaced() {

@@ -71,7 +71,6 @@ class FileCommands {
  private:
   FileDialog ProjectDialog();
   std::string StartFolder();
-  void ShowError(MessageId message);
   void ShowFileName(std::string_view path);
   void TellReplaced();
 

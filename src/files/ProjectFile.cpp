@@ -16,7 +16,7 @@ bool ProjectFile::SaveDataInBuffer(clsIOStream& stream) const {
 bool ProjectFile::ReadDataFromBuffer(clsIOStream& stream) {
   const ProjectReading reading = ReadProject(stream);
   if (reading.refusal.id != MessageId::None) {
-    desktop_.ShowMessage(Sentence(reading.refusal), "Error", MessageIcon::Exclamation);
+    desktop_.ShowError(Sentence(reading.refusal));
     return false;
   }
   TakeOver(reading);

@@ -67,6 +67,9 @@ class Desktop {
   // Shows a message with an OK button and waits until it is read.
   virtual void ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) = 0;
 
+  // A message of what went wrong.
+  void ShowError(std::string_view text) { ShowMessage(text, "Error", MessageIcon::Exclamation); }
+
   // Asks a question with the buttons Yes and No; true for Yes.
   virtual bool AskYesNo(std::string_view text, std::string_view title) = 0;
 

@@ -15,11 +15,10 @@ namespace orvik {
 
 enum class WidgetStyle : std::uint8_t {
   Plain,
-  Heading,       // a label in bold letters
-  RightAligned,  // a label whose text ends at its right edge
-  Wrapped,       // a text box over several lines of the screen; its text stays one line
-  Separated,     // a menu item with a line above it
-  Bare,          // a text box without a frame, to copy from what looks like a label
+  Heading,    // a label in bold letters
+  Wrapped,    // a text box over several lines of the screen; its text stays one line
+  Separated,  // a menu item with a line above it
+  Bare,       // a text box without a frame, to copy from what looks like a label
 };
 
 // What a user can do to the window's frame.

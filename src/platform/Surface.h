@@ -5,6 +5,7 @@
 // What a back end cannot do is asked with Supports; nothing throws for it.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -37,11 +38,23 @@ struct Area {
   bool operator==(const Area&) const = default;
 };
 
+// What both areas cover; right is at or before left, or bottom at or above top, where that is
+// nothing.
+constexpr Area Intersection(const Area& a, const Area& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
+}
+
 enum class DrawMode : std::uint8_t {
   Copy,
   ExclusiveOr,  // the colour's bits flip those of the surface: drawing twice erases
 };
 
+// What lines are drawn with. A wide line ends flat at its first and last point. Where slanting
+// lines meet, the corner is round or bevelled, and that of level and upright lines may be left
+// open, as the back end does it best: at our widths of a few pixels the difference does not show,
+// and nobody may count on one of them. In ExclusiveOr mode a wide pen may be square instead, and
+// reach half its width beyond the ends.
 struct Pen {
   Colour colour = kBlack;
   int width = 1;  // pixels, centred on the line

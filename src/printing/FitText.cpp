@@ -4,24 +4,10 @@
 #include <cstdint>
 
 #include "base/Text.h"
+#include "base/Utf8.h"
 
 namespace orvik {
 namespace {
-
-bool IsContinuation(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-// The code point that begins here; any value where the bytes are no UTF-8.
-std::uint32_t CodePointAt(std::string_view text, std::size_t at) {
-  const auto first = static_cast<unsigned char>(text[at]);
-  if (first < 0x80U) return first;
-  std::uint32_t code = first & (first < 0xE0U ? 0x1FU : first < 0xF0U ? 0x0FU : 0x07U);
-  for (++at; at < text.size() && IsContinuation(text[at]); ++at) {
-    code = code << 6U | (static_cast<unsigned char>(text[at]) & 0x3FU);
-  }
-  return code;
-}
 
 // Belongs to the character before it: combining accents, variation selectors, the joiner.
 bool IsMark(std::uint32_t code) {

@@ -17,13 +17,6 @@ struct ReportRow {
   std::string value;
 };
 
-// The report's fonts by their use, as clsPageControl numbers them.
-namespace ReportFont {
-inline constexpr int kHeading = 1;
-inline constexpr int kEmphasis = 3;
-inline constexpr int kBody = 4;
-}  // namespace ReportFont
-
 class ReportLines {
  public:
   // Begins at the printer's current position, where a header has left it. Both outlive the lines.

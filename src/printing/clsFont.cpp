@@ -1,6 +1,5 @@
 #include "printing/clsFont.h"
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -13,15 +12,8 @@ namespace {
 
 constexpr std::string_view kKey = "Font=";
 
-char LowerCase(char letter) {
-  return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 bool TakeKey(std::string_view& text) {
-  if (text.size() < kKey.size() ||
-      !std::ranges::equal(text.substr(0, kKey.size()), kKey, {}, LowerCase, LowerCase)) {
-    return false;
-  }
+  if (!StartsWithIgnoringCase(text, kKey)) return false;
   text.remove_prefix(kKey.size());
   return true;
 }

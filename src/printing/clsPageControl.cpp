@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/ModuleVersion.h"
+#include "base/NumberText.h"
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
 #include "printing/FitText.h"
@@ -21,33 +22,19 @@ constexpr float kBodyGap = 1;         // below it to the body, in lines of font 
 constexpr float kRuleWidth = 0.007F;  // inches
 constexpr float kFooterGap = 0.3F;    // above the footer, in lines of font 2
 
-constexpr int kTitleFont = 1;
-constexpr int kSmallFont = 2;
-constexpr int kSubtitleFont = 3;
-constexpr int kBodyFont = 4;
-
-constexpr std::string_view kTitleLine = "ORVIK 3.3";
 constexpr std::string_view kSubtitleLine = "Stormwater Harvesting Module";
 constexpr std::string_view kAuthorLine = "Prepared with the ORVIK pond design suite";
 
-std::string Digits(int value, std::size_t count) {
-  const std::string digits = std::to_string(value);
-  return std::string(digits.size() < count ? count - digits.size() : 0, '0') + digits;
-}
-
 // "11-21-2026    06:45:09"
 std::string DateAndTime(const ClockTime& time) {
-  return Digits(time.date.month, 2) + "-" + Digits(time.date.day, 2) + "-" +
-         Digits(time.date.year, 4) + "    " + Digits(time.hour, 2) + ":" + Digits(time.minute, 2) +
-         ":" + Digits(time.second, 2);
+  return MonthDayYear(time.date.month, time.date.day, time.date.year) + "    " +
+         WithLeadingZeros(time.hour, 2) + ":" + WithLeadingZeros(time.minute, 2) + ":" +
+         WithLeadingZeros(time.second, 2);
 }
 
 }  // namespace
 
-clsPageControl::clsPageControl(const ClockTime& time)
-    : time_(time),
-      versionText_(std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "." +
-                   std::to_string(kBuildNumber)) {}
+clsPageControl::clsPageControl(const ClockTime& time) : time_(time) {}
 
 const clsFont& clsPageControl::Font(int index) const {
   if (index < 1 || index > kFonts) throw SubscriptError();
@@ -87,8 +74,8 @@ void clsPageControl::GetPrintableMargins(const Printer& printer) {
 
 void clsPageControl::EstimateFreeMargins(const Printer& printer) {
   freeArea_ = {printable_.Left, printable_.Right,
-               printable_.Top + kHeaderLines * HeightOfFont(kTitleFont),
-               printable_.Bottom - kFooterLines * HeightOfFont(kSmallFont)};
+               printable_.Top + kHeaderLines * HeightOfFont(ReportFont::kHeading),
+               printable_.Bottom - kFooterLines * HeightOfFont(ReportFont::kSmall)};
   const float side = kSideMargin * static_cast<float>(printer.Resolution());
   const float paperWidth = printable_.Right + printableMargins_.Right;
   body_ = freeArea_;
@@ -115,8 +102,9 @@ void clsPageControl::PrintRight(Printer& printer, int font, float y, std::string
 
 // Below the paper's own margin if the header then still ends above the body.
 float clsPageControl::HeaderTop(const Printer& printer) const {
-  const float height = (1 + kBodyGap) * HeightOfFont(kTitleFont) + HeightOfFont(kSubtitleFont) +
-                       (1 + kRuleGap) * HeightOfFont(kSmallFont);
+  const float height = (1 + kBodyGap) * HeightOfFont(ReportFont::kHeading) +
+                       HeightOfFont(ReportFont::kEmphasis) +
+                       (1 + kRuleGap) * HeightOfFont(ReportFont::kSmall);
   const float wanted = kTopMargin * static_cast<float>(printer.Resolution());
   return std::max(printable_.Top, std::min(wanted, freeArea_.Top - height));
 }
@@ -124,14 +112,14 @@ float clsPageControl::HeaderTop(const Printer& printer) const {
 void clsPageControl::Header_Print(Printer& printer, int page) {
   PrintFooter(printer);
   float y = HeaderTop(printer);
-  PrintAt(printer, kTitleFont, body_.Left, y, kTitleLine);
-  PrintRight(printer, kBodyFont, y, "Page " + std::to_string(page));
-  y += HeightOfFont(kTitleFont);
-  PrintAt(printer, kSubtitleFont, body_.Left, y, kSubtitleLine);
-  PrintRight(printer, kBodyFont, y, DateAndTime(time_));
-  y += HeightOfFont(kSubtitleFont);
-  PrintAt(printer, kSmallFont, body_.Left, y, "Version " + versionText_);
-  y += (1 + kRuleGap) * HeightOfFont(kSmallFont);
+  PrintAt(printer, ReportFont::kHeading, body_.Left, y, kProductName);
+  PrintRight(printer, ReportFont::kBody, y, "Page " + std::to_string(page));
+  y += HeightOfFont(ReportFont::kHeading);
+  PrintAt(printer, ReportFont::kEmphasis, body_.Left, y, kSubtitleLine);
+  PrintRight(printer, ReportFont::kBody, y, DateAndTime(time_));
+  y += HeightOfFont(ReportFont::kEmphasis);
+  PrintAt(printer, ReportFont::kSmall, body_.Left, y, "Version " + std::string(kModuleVersion));
+  y += (1 + kRuleGap) * HeightOfFont(ReportFont::kSmall);
 
   const float ruleWidth = std::max(1.0F, kRuleWidth * static_cast<float>(printer.Resolution()));
   printer.FillArea({ToInt16(body_.Left), ToInt16(y), ToInt16(body_.Right), ToInt16(y + ruleWidth)},
@@ -143,12 +131,12 @@ void clsPageControl::Header_Print(Printer& printer, int page) {
 // The author's line on the left, and whose report it is on the right, shortened where it is longer
 // than the rest of the line: the page's sheet is known by it, the report has it in full.
 void clsPageControl::PrintFooter(Printer& printer) {
-  const float y = freeArea_.Bottom + kFooterGap * HeightOfFont(kSmallFont);
-  PrintAt(printer, kSmallFont, body_.Left, y, kAuthorLine);
-  const float gap = 2 * HeightOfFont(kSmallFont);
+  const float y = freeArea_.Bottom + kFooterGap * HeightOfFont(ReportFont::kSmall);
+  PrintAt(printer, ReportFont::kSmall, body_.Left, y, kAuthorLine);
+  const float gap = 2 * HeightOfFont(ReportFont::kSmall);
   const float room = body_.Right - body_.Left - printer.TextWidth(kAuthorLine) - gap;
   const auto width = [&](std::string_view text) { return printer.TextWidth(text); };
-  PrintRight(printer, kSmallFont, y, FitText(creditLine_, room, width));
+  PrintRight(printer, ReportFont::kSmall, y, FitText(creditLine_, room, width));
 }
 
 // --- Pages and lines ---

@@ -15,6 +15,14 @@
 
 namespace orvik {
 
+// The report's fonts by their use: the numbers that clsPageControl knows them by.
+namespace ReportFont {
+inline constexpr int kHeading = 1;
+inline constexpr int kSmall = 2;
+inline constexpr int kEmphasis = 3;
+inline constexpr int kBody = 4;
+}  // namespace ReportFont
+
 // For one document: ReadyFonts, GetPrintableMargins, EstimateFreeMargins, PageIsBlank(true),
 // NewPage, in this order, and then the lines. Ending the document is the caller's.
 class clsPageControl {
@@ -24,8 +32,7 @@ class clsPageControl {
   // All headers of a document tell the time of its beginning.
   explicit clsPageControl(const ClockTime& time);
 
-  // The report's fonts, numbered from 1: headings, small print, emphasis, body. Throws
-  // SubscriptError.
+  // One of ReportFont. Throws SubscriptError.
   const clsFont& Font(int index) const;
 
   // Applies the font to the printer and remembers it as the current one.
@@ -68,8 +75,6 @@ class clsPageControl {
   // The height of a line of text in a font of the report, once the fonts are ready.
   float HeightOfFont(int font) const { return heights_.at(static_cast<std::size_t>(font - 1)); }
 
-  const std::string& VersionText() const { return versionText_; }  // "3.3.1"
-
   // The second credit line, at the foot of each page: whose report it is.
   void CreditLine(std::string line) { creditLine_ = std::move(line); }
 
@@ -80,7 +85,6 @@ class clsPageControl {
   void PrintFooter(Printer& printer);
 
   ClockTime time_;
-  std::string versionText_;
   std::string creditLine_;
   std::array<clsFont, kFonts> fonts_;
   std::array<float, kFonts> heights_{};  // of a line of text

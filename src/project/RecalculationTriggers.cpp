@@ -144,8 +144,7 @@ void RecalculationTriggers::LoadCurves() {
   const auto station = static_cast<std::int16_t>(form_.cmbClimateStation->ListIndex() + 1);
   const LoadOutcome outcome = chart_.SetCurveData(station);
   const Message message = MessageOf(outcome, chart_.CurveFolder(), station);
-  if (message.id == MessageId::None) return;
-  desktop_.ShowMessage(Sentence(message), "Error", MessageIcon::Exclamation);
+  if (message.id != MessageId::None) desktop_.ShowError(Sentence(message));
 }
 
 void RecalculationTriggers::ChangeMode() {

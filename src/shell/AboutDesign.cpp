@@ -4,6 +4,7 @@
 #include <array>
 
 #include "shell/AboutTexts.h"
+#include "shell/Paddings.h"
 
 namespace orvik {
 namespace {
@@ -14,10 +15,7 @@ constexpr int kGap = 4;          // between lines that belong together
 constexpr int kGroupGap = 12;    // above and below the details
 constexpr int kTextWidth = 480;  // of the details, for some eighty letters in a line
 constexpr int kDetailLines = 14;
-constexpr int kFieldPadding = 8;    // of the details above and below their lines, together
-constexpr int kButtonPadding = 10;  // of the button, likewise
 constexpr int kButtonWidth = 80;
-constexpr int kButtonSides = 28;  // of the button left and right of its caption, together
 constexpr int kTextInset = 2;  // above and below the line of a text box without a frame, together
 
 constexpr std::string_view kOk = "cmdOK";

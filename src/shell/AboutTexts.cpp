@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "base/VersionText.h"
+#include "base/BuildVersion.h"
 
 namespace orvik::AboutText {
 namespace {
@@ -50,7 +50,7 @@ constexpr std::array kSections = {
 }  // namespace
 
 std::string Version() {
-  return "Version " + VersionText();
+  return "Version " + BuildVersionText();
 }
 
 std::string Details() {

@@ -4,9 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "base/ModuleVersion.h"
+
 namespace orvik::AboutText {
 
-inline constexpr std::string_view kTitle = "ORVIK 3.3 Stormwater Harvesting Module";
+inline constexpr std::string_view kTitle = kModuleTitle;
 inline constexpr std::string_view kCopyright =
     "Copyright (c) 2026 The ORVIK stormwater harvesting module authors";
 inline constexpr std::string_view kOk = "OK";

@@ -5,6 +5,10 @@
 namespace orvik {
 namespace {
 
+// For 96 dots per inch.
+constexpr Size kLeastSize{320, 240};
+constexpr Size kFirstSize{812, 700};  // in the shape of the map, and large enough to read its names
+
 constexpr std::string_view kViewer = "ctrlPictureViewer1";
 constexpr std::array kWidgets = {WidgetDesign{kViewer, ""}};
 
@@ -19,12 +23,11 @@ std::string_view ClimateStationsDesign::FirstFocus() const {
 }
 
 Size ClimateStationsDesign::MinimumSize(const TextMeasures& measures) const {
-  return {measures.Scale(320), measures.Scale(240)};
+  return {measures.Scale(kLeastSize.width), measures.Scale(kLeastSize.height)};
 }
 
-// In the shape of the map, and large enough to read its names.
 Size ClimateStationsDesign::InitialSize(const TextMeasures& measures) const {
-  return {measures.Scale(812), measures.Scale(700)};
+  return {measures.Scale(kFirstSize.width), measures.Scale(kFirstSize.height)};
 }
 
 std::vector<Placement> ClimateStationsDesign::LayOut(Size inner, const TextMeasures&) const {

@@ -4,7 +4,9 @@
 #include <string>
 
 #include "design/SolveFor.h"
+#include "engine/ClimateStations.h"
 #include "shell/MainWindowTable.h"
+#include "shell/Paddings.h"
 
 namespace orvik {
 namespace {
@@ -12,9 +14,6 @@ namespace {
 // Lengths for 96 dots per inch.
 constexpr int kMargin = 12;         // round each page and between its columns
 constexpr int kGap = 6;             // between widgets that belong together
-constexpr int kFieldPadding = 8;    // of a field above and below its line of text, together
-constexpr int kButtonPadding = 10;  // of a button, likewise
-constexpr int kButtonSides = 28;    // of a button left and right of its caption, together
 constexpr int kToolbarPadding = 6;  // above and below the toolbar's buttons
 constexpr int kNumberWidth = 104;   // of a field for a number
 constexpr int kListSides = 32;      // of a list left and right of its text, together
@@ -39,10 +38,20 @@ std::string WithoutMnemonic(std::string_view caption) {
   return text;
 }
 
+// Of the climate station whose name is the longest on the screen.
+int WidthOfStations(const TextMeasures& measures) {
+  int width = 0;
+  for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+    width = std::max(width, measures.width(ClimateStationName(i)));
+  }
+  return width;
+}
+
 // One layout in the making: places are added as widgets are met.
 class Layout {
  public:
-  Layout(Size inner, const TextMeasures& measures) : inner_(inner), m_(measures) {}
+  Layout(Size inner, const TextMeasures& measures)
+      : inner_(inner), m_(measures), stationWidth_(WidthOfStations(measures)) {}
 
   std::vector<Placement> Run() {
     LayOutToolbar();
@@ -142,7 +151,7 @@ class Layout {
     for (const FieldRow& row : ProjectRows()) {
       PlaceText(row.label.name, margin, margin + labelWidth, top);
       if (row.kind == FieldKind::Date) {
-        LayOutDate(left, top);
+        LayOutDate(row.field, left, top);
       } else {
         Place(row.field, {left, top, right, top + RowHeight(row)});
       }
@@ -150,9 +159,9 @@ class Layout {
     }
   }
 
-  void LayOutDate(int left, int top) {
+  void LayOutDate(std::string_view field, int left, int top) {
     const int right = left + S(kNumberWidth);
-    Place("txtDate", {left, top, right, top + FieldHeight()});
+    Place(field, {left, top, right, top + FieldHeight()});
     Place("cmdToday", {right + S(kGap), top, right + S(kGap) + ButtonWidth(ButtonCaption::kToday),
                        top + FieldHeight()});
   }
@@ -184,7 +193,7 @@ class Layout {
   // Lists reach to the right end of the units; the longest station name must fit.
   int ColumnRight() const {
     const int fields = S(kNumberWidth) + S(kGap) + UnitWidth();
-    return FieldLeft() + std::max(fields, TextWidth("West Palm Beach") + S(kListSides));
+    return FieldLeft() + std::max(fields, stationWidth_ + S(kListSides));
   }
 
   int RowsHeight(int rowGap) const {
@@ -231,8 +240,7 @@ class Layout {
   }
 
   void LayOutRow(const FieldRow& row, int top) {
-    const bool isList = row.field.starts_with("cmb");
-    const int fieldRight = isList ? ColumnRight() : FieldLeft() + S(kNumberWidth);
+    const int fieldRight = row.isList ? ColumnRight() : FieldLeft() + S(kNumberWidth);
     PlaceText(row.label.name, S(kMargin), FieldLeft() - S(kGap), top);
     Place(row.field, {FieldLeft(), top, fieldRight, top + FieldHeight()});
     if (!row.unit.name.empty()) {
@@ -250,6 +258,7 @@ class Layout {
 
   Size inner_;
   const TextMeasures& m_;
+  int stationWidth_;  // of the longest name
   std::vector<Placement> places_;
 };
 

@@ -1,21 +1,10 @@
 #include "shell/MainWindowPages.h"
 
-#include <cstdio>
-#include <string>
-
+#include "base/NumberText.h"
 #include "shell/MainWindowTable.h"
 #include "shell/PagePictures.h"
 
 namespace orvik {
-namespace {
-
-std::string MonthDayYear(const CalendarDate& date) {
-  std::array<char, 40> text{};  // room for any three integers
-  std::snprintf(text.data(), text.size(), "%02d-%02d-%04d", date.month, date.day, date.year);
-  return text.data();
-}
-
-}  // namespace
 
 MainWindowPages::MainWindowPages(Toolkit& toolkit, Desktop& desktop, ProjectForm& form)
     : desktop_(desktop),
@@ -82,7 +71,8 @@ void MainWindowPages::MarkPage(std::int16_t page) {
 }
 
 void MainWindowPages::cmdToday_Click() {
-  form_.Box(Field::Date).Text(MonthDayYear(desktop_.Today()));
+  const CalendarDate today = desktop_.Today();
+  form_.Box(Field::Date).Text(MonthDayYear(today.month, today.day, today.year));
 }
 
 }  // namespace orvik

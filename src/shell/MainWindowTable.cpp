@@ -9,14 +9,14 @@ namespace {
 
 FieldRow RowOf(Field id) {
   const FieldDesign& field = DesignOf(id);
-  FieldRow row{{field.label, field.caption}, field.control, {}, field.kind};
+  FieldRow row{{field.label, field.caption}, field.control, field.kind};
   if (!field.unit.empty()) row.unit = {field.unitLabel, field.unit};
   return row;
 }
 
 FieldRow RowOf(ListField id) {
   const ListDesign& list = DesignOf(id);
-  return {{list.label, list.caption}, list.control, {}};
+  return {.label = {list.label, list.caption}, .field = list.control, .isList = true};
 }
 
 std::vector<FieldRow> MakeProjectRows() {
@@ -58,7 +58,7 @@ const Rows& AllRows() {
 }
 
 // It names the bar to a screen reader, which would take the last text before it otherwise.
-constexpr FieldRow kMessageRow{{"lblErrMsg", "Message"}, "txtErrMsg", {}};
+constexpr FieldRow kMessageRow{{"lblErrMsg", "Message"}, "txtErrMsg", FieldKind::Text};
 
 void AddRow(std::vector<WidgetDesign>& widgets, std::string_view page, const FieldRow& row) {
   widgets.push_back({row.label.name, page});

@@ -21,8 +21,9 @@ struct LabelDesign {
 struct FieldRow {
   LabelDesign label;
   std::string_view field;
-  LabelDesign unit;
-  FieldKind kind = FieldKind::Text;  // of a list or the message bar: no matter
+  FieldKind kind = FieldKind::Text;
+  LabelDesign unit = {};
+  bool isList = false;
 };
 
 // The project page, from top to bottom.

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/NumberText.h"
 #include "base/Paths.h"
 #include "design/Messages.h"
 #include "shell/MainWindowTable.h"
@@ -10,10 +11,9 @@ namespace orvik {
 
 std::string HelpPagePath(std::string_view dataFolder, std::int16_t topic) {
   const bool isNegative = topic < 0;
-  const std::string digits = std::to_string(isNegative ? -int{topic} : int{topic});
-  const std::string zeros(digits.size() < 3 ? 3 - digits.size() : 0, '0');
+  const std::string digits = WithLeadingZeros(isNegative ? -int{topic} : int{topic}, 3);
   return std::string(dataFolder) + "Help" + kPathSeparator + "Topic" + (isNegative ? "-" : "") +
-         zeros + digits + ".htm";
+         digits + ".htm";
 }
 
 MessageHelp::MessageHelp(Toolkit& toolkit, Desktop& desktop, ctrlErrorMessageBar& bar,
@@ -49,8 +49,7 @@ void MessageHelp::cmdErrorHelp_Click() {
     case PageOpening::Opened:
       return;
     case PageOpening::NoProgram:
-      return desktop_.ShowMessage(Sentence({MessageId::NoBrowser}), "Error",
-                                  MessageIcon::Exclamation);
+      return desktop_.ShowError(Sentence({MessageId::NoBrowser}));
     case PageOpening::Failed:
       return desktop_.ShowMessage(Sentence({MessageId::PageNotOpened}), "URL Failed",
                                   MessageIcon::Exclamation);

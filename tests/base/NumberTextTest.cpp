@@ -94,6 +94,19 @@ TEST(AddZeroPrefix, TouchesOnlyNumbersThatBeginWithAPeriod) {
   EXPECT_EQ(AddZeroPrefix(""), "");
 }
 
+TEST(WithLeadingZeros, FillsUpToTheWidthAndCutsNothing) {
+  EXPECT_EQ(WithLeadingZeros(7, 2), "07");
+  EXPECT_EQ(WithLeadingZeros(0, 3), "000");
+  EXPECT_EQ(WithLeadingZeros(12, 2), "12");
+  EXPECT_EQ(WithLeadingZeros(12345, 4), "12345");
+  EXPECT_EQ(WithLeadingZeros(5, 0), "5");
+}
+
+TEST(MonthDayYear, HasTenCharacters) {
+  EXPECT_EQ(MonthDayYear(4, 7, 2026), "04-07-2026");
+  EXPECT_EQ(MonthDayYear(11, 21, 987), "11-21-0987");
+}
+
 struct ParseCase {
   const char* text;
   double value;

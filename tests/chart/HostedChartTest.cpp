@@ -1,8 +1,8 @@
 // The chart behind the window that shows it, as that window tells it of the user.
 #include "ChartFixture.h"
 #include "chart/HostedChart.h"
-#include "platform/headless/HeadlessToolkit.h"
 #include "platform/recording/RecordingSurface.h"
+#include "support/UserToolkit.h"
 
 namespace orvik {
 namespace {
@@ -16,7 +16,7 @@ class HostedChartTest : public ChartFixture {
     chart_.InteractiveMode(kTrue16);
   }
 
-  HeadlessToolkit toolkit_;
+  test::UserToolkit toolkit_;
   std::unique_ptr<HostedChart> hosted_ =
       std::make_unique<HostedChart>(toolkit_, "ctrlStormwaterReuse1", chart_);
   HeadlessControlHost& host_ = toolkit_.Find<HeadlessControlHost>("ctrlStormwaterReuse1");

@@ -83,16 +83,14 @@ TEST_F(PrintDesignChart, TheRecordHoldsTheRectangleInItsOwnOrder) {
 // = 200 + 20 + 560 x 0.0102 / 0.431 = 233.25, bottom = 752.97.
 TEST_F(PrintDesignChart, TheFrameIsLimitedByTheHeight) {
   Load(TwoShortCurves());
-  EXPECT_EQ(MetricsIn({100, 900, 200, 800}).Frame,
-            (clsRectangle_Integer{154, 846, 233, 753}));
+  EXPECT_EQ(MetricsIn({100, 900, 200, 800}).Frame, (clsRectangle_Integer{154, 846, 233, 753}));
 }
 
 // 400 x 600: the frame is 360 wide and 270 high; a unit is 675 pixels, so the bands are 6.885 and
 // 14.04, and 560 - 290.925 = 269.075 is left, half of it above: top = 200 + 20 + 134.5375 + 6.885.
 TEST_F(PrintDesignChart, TheFrameIsLimitedByTheWidth) {
   Load(TwoShortCurves());
-  EXPECT_EQ(MetricsIn({100, 500, 200, 800}).Frame,
-            (clsRectangle_Integer{120, 480, 361, 631}));
+  EXPECT_EQ(MetricsIn({100, 500, 200, 800}).Frame, (clsRectangle_Integer{120, 480, 361, 631}));
 }
 
 // Frame 154...846 by 233...753 (above), 692 x 520. The title is 0.01 x 520 / 0.4 = 13 high, other

@@ -12,7 +12,7 @@
 
 #include "base/NumberText.h"
 #include "base/Paths.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "support/AnsweringDesktop.h"
 #include "support/KavRun.h"
 #include "support/SampleProjects.h"
 #include "support/TempFolder.h"
@@ -27,8 +27,8 @@ const std::string kDataFolder = std::string(".") + kPathSeparator;
 class SampleFiles : public testing::TestWithParam<SampleProject> {};
 
 TEST_P(SampleFiles, AreWhatTheSaveCommandWrites) {
-  HeadlessToolkit toolkit;
-  HeadlessDesktop desktop;
+  test::UserToolkit toolkit;
+  test::AnsweringDesktop desktop;
   Form1 window(toolkit, desktop, kDataFolder);
   GetParam().type(toolkit, window);
   const test::TempFolder folder;

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "controls/HostedButton.h"
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/UserToolkit.h"
 
 namespace orvik {
 namespace {
 
 class HostedButtonTest : public testing::Test {
  protected:
-  HeadlessToolkit toolkit_;
+  test::UserToolkit toolkit_;
   int clicks_ = 0;
   HostedButton button_{toolkit_, "cmdReCalc", "Recalculate", [this] { ++clicks_; }};
   HeadlessControlHost& host_ = toolkit_.Find<HeadlessControlHost>("cmdReCalc");

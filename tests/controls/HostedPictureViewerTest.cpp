@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/HostedPictureViewer.h"
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/UserToolkit.h"
 
 namespace orvik {
 namespace {
@@ -17,7 +17,7 @@ class HostedPictureViewerTest : public testing::Test {
   double Zoom() { return hosted_.Viewer().View().Zoom(); }
   int Left() { return hosted_.Viewer().View().Place().left; }
 
-  HeadlessToolkit toolkit_;
+  test::UserToolkit toolkit_;
   HostedPictureViewer hosted_{toolkit_, "ctrlPictureViewer1", "Map"};
   HeadlessControlHost& host_ = toolkit_.Find<HeadlessControlHost>("ctrlPictureViewer1");
 };

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "controls/ctrlErrorMessageBar.h"
-#include "platform/headless/HeadlessDesktop.h"
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/AnsweringDesktop.h"
+#include "support/UserToolkit.h"
 
 namespace orvik {
 namespace {
@@ -13,8 +13,8 @@ class ErrorMessageBar : public testing::Test {
     bar_.OnMessageChange = [this] { ++events_; };
   }
 
-  HeadlessToolkit toolkit_;
-  HeadlessDesktop desktop_;
+  test::UserToolkit toolkit_;
+  test::AnsweringDesktop desktop_;
   ctrlErrorMessageBar bar_{toolkit_, desktop_, "txtErrMsg"};
   int events_ = 0;
 };

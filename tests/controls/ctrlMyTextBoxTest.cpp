@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/ctrlMyTextBox.h"
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/UserToolkit.h"
 
 namespace orvik {
 namespace {
@@ -18,7 +18,7 @@ class MyTextBox : public testing::Test {
     };
   }
 
-  HeadlessToolkit toolkit_;
+  test::UserToolkit toolkit_;
   ctrlMyTextBox box_{toolkit_, "txtDate"};
   int changes_ = 0;
   int keys_ = 0;

@@ -24,6 +24,11 @@ TEST(LayoutFrame, IsLimitedByTheHeightInAWideControl) {
   EXPECT_EQ(layout.Frame.Bottom, 592);  // 34.09 + 558.01
 }
 
+TEST(LayoutFrame, LabelsHaveTheHeightThatCurveSetsPlaceThemFor) {
+  EXPECT_EQ(LayoutHeights().Label, 0.008F);
+  EXPECT_EQ(kLabelHeight, 0.008);
+}
+
 TEST(LayoutFrame, CountsTheBandAboveWithItsOwnFactor) {
   // 2250 x 1500 leaves 2210 x 1460. Frame height 1460 x 0.4 / 0.4301 = 1357.82, width 1810.43; the
   // top is 20 + 1460 x 0.0101 / 0.4301 = 54.29 (a factor of 1.02 would give 54.62).

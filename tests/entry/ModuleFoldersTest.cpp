@@ -3,7 +3,7 @@
 
 #include "base/Paths.h"
 #include "entry/ModuleFolders.h"
-#include "platform/headless/HeadlessDesktop.h"
+#include "support/AnsweringDesktop.h"
 #include "support/TempFolder.h"
 
 namespace orvik {
@@ -18,7 +18,7 @@ class SettleFoldersTest : public testing::Test {
   }
 
   test::TempFolder folder_;
-  HeadlessDesktop desktop_;
+  test::AnsweringDesktop desktop_;
 };
 
 TEST_F(SettleFoldersTest, MakesItsFoldersBelowTheDocuments) {

@@ -32,7 +32,7 @@ class clsStReuseTest : public testing::Test {
   // Shows the window; `user` acts while it is open.
   std::int16_t Show(std::int16_t mode, std::function<void()> user) {
     if (!module_.HasWindow()) module_.Window();
-    toolkit_.Find<HeadlessWindow>("Form1").OnShown = [this, user = std::move(user)] {
+    toolkit_.Find<test::UserWindow>("Form1").OnShown = [this, user = std::move(user)] {
       wasShown_ = true;
       user();
     };
@@ -43,8 +43,8 @@ class clsStReuseTest : public testing::Test {
   }
 
   test::TempFolder folder_;
-  HeadlessDesktop desktop_;
-  HeadlessToolkit toolkit_;
+  test::AnsweringDesktop desktop_;
+  test::UserToolkit toolkit_;
   ReuseModule module_{folder_.Path(), desktop_, [this] { return toolkit_.ForAnotherWindow(); }};
   clsStReuse entry_{module_};
   bool wasShown_ = false;

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <optional>
 
-#include "files/clsIOStream.h"
+#include "stream/clsIOStream.h"
 #include "support/FormFixture.h"
 #include "support/ProjectText.h"
 

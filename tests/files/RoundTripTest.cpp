@@ -60,7 +60,7 @@ class RoundTrip : public FormFixture {
     }
   }
 
-  HeadlessToolkit otherToolkit_;
+  test::UserToolkit otherToolkit_;
 };
 
 class RandomProject {

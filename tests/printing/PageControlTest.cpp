@@ -84,10 +84,6 @@ TEST_F(PageControl, TheBodyKeepsThreeQuartersOfAnInchOffThePapersSides) {
   EXPECT_EQ(pages_->BodyRight(), 2325);
 }
 
-TEST_F(PageControl, TheVersionHasThreeNumbers) {
-  EXPECT_EQ(pages_->VersionText(), "3.3.1");
-}
-
 // --- The header ---
 
 TEST_F(PageControl, TheHeaderTellsModuleDateTimeAndPage) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "engine/ClimateStations.h"
 #include "shell/MainWindowLayout.h"
 #include "shell/MainWindowTable.h"
 #include "support/EvenLetters.h"
@@ -140,6 +141,30 @@ TEST(MainWindowLayout, CaptionsAreNotCutOff) {
       EXPECT_GE(place.bottom - place.top, measures.lineHeight) << label.name;
     }
   }
+}
+
+// A list has 32 pixels at the left and right of its text and for its arrow, at 96 dots per inch.
+TEST(MainWindowLayout, TheListHasRoomForEveryStation) {
+  for (const Screen& screen : Screens()) {
+    const TextMeasures measures = test::EvenLetters(screen.dpi);
+    const Area list = Places(screen).at("cmbClimateStation");
+    for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
+      EXPECT_GE(list.right - list.left, measures.width(ClimateStationName(i)) + measures.Scale(32))
+          << ClimateStationName(i) << ", " << Name(screen);
+    }
+  }
+}
+
+// Letters of a font in which the name that has most of them is not the widest.
+TEST(MainWindowLayout, TheListIsMeasuredForTheWidestNameNotForTheLongestText) {
+  TextMeasures measures = test::EvenLetters(96);
+  measures.width = [](std::string_view text) {
+    return text == "Orlando" ? 500 : 6 * static_cast<int>(text.size());
+  };
+  const auto places = LayOutMainWindow({1600, 900}, measures);
+  const auto list = std::ranges::find(places, "cmbClimateStation", &Placement::name);
+  ASSERT_NE(list, places.end());
+  EXPECT_EQ(list->area.right - list->area.left, 500 + 32);
 }
 
 TEST(MainWindowLayout, TheChartIsWideEnoughForItsNumbersAndTitles) {

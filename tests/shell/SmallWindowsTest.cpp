@@ -1,8 +1,8 @@
 // The station map and the about box, opened from the main window.
 #include <algorithm>
 
+#include "base/BuildVersion.h"
 #include "base/Paths.h"
-#include "base/VersionText.h"
 #include "shell/AboutDesign.h"
 #include "shell/AboutTexts.h"
 #include "shell/ClimateStationsDesign.h"
@@ -93,8 +93,8 @@ TEST_F(SmallWindowsTest, AMissingOrDamagedPictureLeavesTheViewerEmptyWithoutAMes
 }
 
 TEST(SmallWindowsChart, IsRedrawnOnceTheMapIsClosed) {
-  HeadlessToolkit toolkit;
-  HeadlessDesktop desktop;
+  test::UserToolkit toolkit;
+  test::AnsweringDesktop desktop;
   ctrlStormwaterReuse chart("");
   test::RecordingHost host;
   chart.AttachHost(&host);
@@ -142,8 +142,8 @@ TEST_F(SmallWindowsTest, TheAboutBoxShowsTitleVersionAndDetails) {
   toolkit_.ClickMenu("mnuHelp_About");
   EXPECT_EQ(Shown("frmAbout"), 1);
   EXPECT_EQ(title, "ORVIK 3.3 Stormwater Harvesting Module");
-  EXPECT_EQ(version, "Version " + VersionText());
-  EXPECT_NE(toolkit_.Caption("Form1").find(VersionText()), std::string::npos);
+  EXPECT_EQ(version, "Version " + BuildVersionText());
+  EXPECT_NE(toolkit_.Caption("Form1").find(BuildVersionText()), std::string::npos);
   EXPECT_THAT(details, testing::HasSubstr("NOAA"));
   EXPECT_THAT(details, testing::HasSubstr("GCC Runtime Library Exception"));
   EXPECT_FALSE(canBeChanged);

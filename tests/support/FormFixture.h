@@ -10,10 +10,10 @@
 
 #include "base/NumberText.h"
 #include "entry/Form1.h"
-#include "platform/headless/HeadlessDesktop.h"
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/AnsweringDesktop.h"
 #include "support/CurveFileText.h"
 #include "support/TempFolder.h"
+#include "support/UserToolkit.h"
 
 namespace orvik::test {
 
@@ -69,8 +69,8 @@ class FormFixture : public testing::Test {
   }
 
   TempFolder folder_;
-  HeadlessDesktop desktop_;
-  HeadlessToolkit toolkit_;
+  AnsweringDesktop desktop_;
+  UserToolkit toolkit_;
   std::unique_ptr<Form1> form_;
 };
 

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "entry/Form1.h"
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/UserToolkit.h"
 
 namespace orvik::test {
 
 struct SampleProject {
   std::string file;
-  std::function<void(HeadlessToolkit& toolkit, Form1& window)> type;
+  std::function<void(UserToolkit& toolkit, Form1& window)> type;
 };
 
 struct SampleSite {
@@ -26,7 +26,7 @@ struct SampleSite {
   const char* irrigationArea;  // acres
 };
 
-inline void TypeSite(HeadlessToolkit& toolkit, const SampleSite& site) {
+inline void TypeSite(UserToolkit& toolkit, const SampleSite& site) {
   toolkit.Type("txtProjectName", site.name);
   toolkit.Type("txtDescription", site.description);
   toolkit.Type("txtProjectNumber", site.number);
@@ -39,7 +39,7 @@ inline void TypeSite(HeadlessToolkit& toolkit, const SampleSite& site) {
   toolkit.Type("txtIrrigationArea", site.irrigationArea);
 }
 
-inline void TypeGiven(HeadlessToolkit& toolkit, const char* mode, const char* first,
+inline void TypeGiven(UserToolkit& toolkit, const char* mode, const char* first,
                       const char* second) {
   toolkit.Choose("cmbSolveFor", mode);
   toolkit.Type("txtSolveFor(1)", first);
@@ -50,7 +50,7 @@ inline void TypeGiven(HeadlessToolkit& toolkit, const char* mode, const char* fi
 inline std::vector<SampleProject> SampleProjects() {
   return {
       {"interactive.kav",
-       [](HeadlessToolkit& toolkit, Form1& window) {
+       [](UserToolkit& toolkit, Form1& window) {
          TypeSite(toolkit, {"Palm Trace Village",
                             "Wet detention pond with reuse for the golf practice range", "26-031",
                             "03-09-2026", "West Palm Beach", "30", "0.55", "14"});
@@ -58,21 +58,21 @@ inline std::vector<SampleProject> SampleProjects() {
          window.Chart().SetHotspotUsing_RV("0.2", "3", E);
        }},
       {"efficiency.kav",
-       [](HeadlessToolkit& toolkit, Form1&) {
+       [](UserToolkit& toolkit, Form1&) {
          TypeSite(toolkit,
                   {"Bayhead Commons", "Shopping center; pond water irrigates lawns and medians",
                    "26-014", "02-17-2026", "Tampa", "18.4", "0.62", "7.5"});
          TypeGiven(toolkit, "Efficiency", "2.6", "1.6");
        }},
       {"storage-volume.kav",
-       [](HeadlessToolkit& toolkit, Form1&) {
+       [](UserToolkit& toolkit, Form1&) {
          TypeSite(toolkit,
                   {"Sandhill Oaks School", "School campus; play fields irrigated from the pond",
                    "26-022", "02-24-2026", "Orlando", "25", "0.5", "10"});
          TypeGiven(toolkit, "Storage Volume", "78", "1.2");
        }},
       {"reuse-rate.kav",
-       [](HeadlessToolkit& toolkit, Form1&) {
+       [](UserToolkit& toolkit, Form1&) {
          TypeSite(toolkit,
                   {"Prairie Pines Nursery", "Tree nursery on the runoff of its own roofs and yards",
                    "26-027", "03-03-2026", "Gainesville", "12.5", "0.7", "6"});

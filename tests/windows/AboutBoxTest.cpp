@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "FormOnScreen.h"
-#include "base/VersionText.h"
+#include "base/BuildVersion.h"
 #include "shell/AboutDesign.h"
 #include "shell/AboutTexts.h"
 
@@ -25,8 +25,8 @@ class AboutBox : public testing::Test {
 TEST_F(AboutBox, ShowsTheVersionThatTheTitleBarHas) {
   const FormUser about = Open();
   EXPECT_EQ(about.Text("lblTitle"), "ORVIK 3.3 Stormwater Harvesting Module");
-  EXPECT_EQ(about.Text("txtVersion"), "Version " + VersionText());
-  EXPECT_NE(form_.Caption().find("(Ver " + VersionText() + ")"), std::string::npos);
+  EXPECT_EQ(about.Text("txtVersion"), "Version " + BuildVersionText());
+  EXPECT_NE(form_.Caption().find("(Ver " + BuildVersionText() + ")"), std::string::npos);
   EXPECT_EQ(about.Text("txtDetails"), AboutText::Details());
 }
 
@@ -68,7 +68,7 @@ TEST_F(AboutBox, TheVersionCanBeCopied) {
   ASSERT_TRUE(about.Until([&] { return about.Focus() == "txtVersion"; }));
   about.Press({'A', {VK_CONTROL}});
   about.Press({'C', {VK_CONTROL}});
-  EXPECT_TRUE(about.Until([&] { return test::ClipboardText() == "Version " + VersionText(); }))
+  EXPECT_TRUE(about.Until([&] { return test::ClipboardText() == "Version " + BuildVersionText(); }))
       << test::ClipboardText();
 }
 

@@ -14,6 +14,7 @@
 #include "platform/win32/NativeToolkit.h"
 #include "platform/win32/ShellFolder.h"
 #include "platform/win32/WideText.h"
+#include "platform/win32/WindowState.h"
 
 namespace orvik {
 namespace {
@@ -58,6 +59,12 @@ class NativeWidgets : public testing::Test {
   std::unique_ptr<Window> window_;
   std::unique_ptr<Panel> page_;
 };
+
+TEST(WindowState, OfNoWindowEachReadsAsFalse) {
+  EXPECT_FALSE(HasStyle(nullptr, WS_VISIBLE));
+  EXPECT_FALSE(IsShown(nullptr));
+  EXPECT_FALSE(IsEnabled(nullptr));
+}
 
 HWND HandleOf(const Widget& widget) {
   return dynamic_cast<const ChildWindow&>(widget).Handle();

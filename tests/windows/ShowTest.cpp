@@ -7,7 +7,7 @@
 
 #include "ParentWindow.h"
 #include "ShownByHost.h"
-#include "base/VersionText.h"
+#include "base/BuildVersion.h"
 #include "entry/com/Module.h"
 #include "shell/AboutDesign.h"
 #include "shell/ClimateStationsDesign.h"
@@ -266,7 +266,7 @@ TEST_F(ShowTest, TheStationMapAndTheAboutBoxOpenOverTheWindow) {
     user.Click("cmdDiscardExit");
   });
   EXPECT_THAT(map, testing::MatchesRegex("Map of the climate stations: zoom \\d+ %"));
-  EXPECT_EQ(version, "Version " + VersionText());
+  EXPECT_EQ(version, "Version " + BuildVersionText());
 }
 
 // --- Stand-alone ---

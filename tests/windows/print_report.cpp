@@ -7,14 +7,14 @@
 #include "QueueDc.h"
 #include "base/Paths.h"
 #include "entry/Form1.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "platform/headless/HeadlessToolkit.h"
 #include "platform/win32/GdiPrinter.h"
+#include "support/AnsweringDesktop.h"
 
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
   orvik::HeadlessToolkit toolkit;
-  orvik::HeadlessDesktop desktop;
+  orvik::test::AnsweringDesktop desktop;
   desktop.Now({{2026, 4, 17}, 9, 30, 0});
   orvik::Form1 window(toolkit, desktop, orvik::WithEndingSeparator(argv[2]));
   if (!window.Files().OpenProject(argv[1])) return 3;

@@ -1,6 +1,5 @@
 #include "platform/cairo/CairoImageSurface.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -17,11 +16,6 @@ CairoHandle<cairo_surface_t> MakeImage(Size size) {
       cairo_image_surface_create(CAIRO_FORMAT_RGB24, size.width, size.height));
   CheckCairo(image.get());
   return image;
-}
-
-Area Common(const Area& a, const Area& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
 }
 
 bool Holds(const Area& area, Point point) {
@@ -110,7 +104,7 @@ void CairoImageSurface::CopyPicture(const Picture& picture, const Area& area) {
 }
 
 void CairoImageSurface::PushClip(const Area& area) {
-  clips_.push_back(Common(clips_.back(), area));
+  clips_.push_back(Intersection(clips_.back(), area));
   drawing_.PushClip(area);
 }
 

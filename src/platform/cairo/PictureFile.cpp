@@ -2,10 +2,10 @@
 
 #include <cairo-pdf.h>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
+#include "base/Text.h"
 #include "platform/cairo/CairoImageSurface.h"
 #include "platform/cairo/SvgSurface.h"
 
@@ -16,15 +16,6 @@ constexpr double kPointsPerPixel = 72.0 / 96;
 
 constexpr std::array<std::pair<std::string_view, PictureKind>, 3> kEndings = {
     {{".png", PictureKind::Png}, {".svg", PictureKind::Svg}, {".pdf", PictureKind::Pdf}}};
-
-char LowerCase(char letter) {
-  return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool EndsWith(std::string_view text, std::string_view ending) {
-  return text.size() > ending.size() &&
-         std::ranges::equal(text.substr(text.size() - ending.size()), ending, {}, LowerCase);
-}
 
 std::string MakePng(Size size, const std::function<void(Surface&)>& draw) {
   CairoImageSurface surface(size);
@@ -60,7 +51,7 @@ std::string MakePdf(Size size, std::string_view title, const std::function<void(
 
 std::optional<PictureKind> PictureKindOf(std::string_view path) {
   for (const auto& [ending, kind] : kEndings) {
-    if (EndsWith(path, ending)) return kind;
+    if (path.size() > ending.size() && EndsWithIgnoringCase(path, ending)) return kind;
   }
   return std::nullopt;
 }

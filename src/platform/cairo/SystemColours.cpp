@@ -1,5 +1,7 @@
 #include "platform/cairo/SystemColours.h"
 
+#include <stdexcept>
+
 namespace orvik {
 namespace {
 
@@ -16,8 +18,11 @@ std::uint32_t OfSystem(Colour colour) {
       return 0x696969;
     case k3DLight:
       return 0xE3E3E3;
+    case kWindowText:
+    case kButtonText:
+      return 0x000000;
     default:
-      return 0x000000;  // the texts'
+      throw std::invalid_argument("There is no such system colour.");
   }
 }
 

@@ -7,7 +7,8 @@
 
 namespace orvik {
 
-// 0x00RRGGBB. System colours are those of a plain, light desktop; an unknown one is black.
+// 0x00RRGGBB. System colours are those of a plain, light desktop. Throws std::invalid_argument for
+// one that Colour.h does not name: black in its place would pass for a colour that was meant.
 std::uint32_t RedGreenBlue(Colour colour);
 
 }  // namespace orvik

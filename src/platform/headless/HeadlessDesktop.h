@@ -1,8 +1,7 @@
-// A desktop without a screen: it keeps what was shown, for the command line to print and for tests
-// to read, and gives the answers that it was told to give.
+// A desktop without a screen or a user: it keeps what was shown, for the command line to print, and
+// nobody answers what it is asked.
 #pragma once
 
-#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,7 +10,7 @@
 
 namespace orvik {
 
-class HeadlessDesktop final : public Desktop {
+class HeadlessDesktop : public Desktop {
  public:
   struct Message {
     std::string text;
@@ -22,66 +21,28 @@ class HeadlessDesktop final : public Desktop {
 
   void ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) override;
   bool AskYesNo(std::string_view text, std::string_view title) override;
-  void Beep() override { ++beeps_; }
-  std::string ChooseFileToOpen(const FileDialog& dialog) override { return Choose(dialog); }
-  std::string ChooseFileToSave(const FileDialog& dialog) override { return Choose(dialog); }
-  std::optional<std::string> DocumentsFolder() override { return documentsFolder_; }
-  PageOpening OpenPage(const std::string& path) override;
-  std::optional<Picture> ReadPicture(const std::string& path) override;
-  bool CopyToClipboard(const ClipboardContent& content) override;
+  void Beep() override {}
+  std::string ChooseFileToOpen(const FileDialog&) override { return {}; }
+  std::string ChooseFileToSave(const FileDialog&) override { return {}; }
+  std::optional<std::string> DocumentsFolder() override { return std::nullopt; }
+  PageOpening OpenPage(const std::string&) override { return PageOpening::NoProgram; }
+  std::optional<Picture> ReadPicture(const std::string&) override { return std::nullopt; }
+  bool CopyToClipboard(const ClipboardContent&) override { return false; }
   CalendarDate Today() override { return now_.date; }
   ClockTime Now() override { return now_; }
-  std::unique_ptr<Printer> OpenPrinter() override { return std::move(printer_); }
+  std::unique_ptr<Printer> OpenPrinter() override { return nullptr; }
 
-  // The answer that the next questions get.
-  void AnswerYes(bool yes) { answerYes_ = yes; }
-
-  // The path that the next file dialog answers, one call for each; empty cancels it, as a dialog
-  // without an answer is cancelled.
-  void AnswerFile(std::string path) { fileAnswers_.push_back(std::move(path)); }
-
-  void DocumentsFolder(std::optional<std::string> folder) { documentsFolder_ = std::move(folder); }
-  void Today(CalendarDate date) { now_.date = date; }
+  // The time that it is from now on.
   void Now(const ClockTime& time) { now_ = time; }
-
-  // The printer that is opened next, once; without it there is none.
-  void AnswerPrinter(std::unique_ptr<Printer> printer) { printer_ = std::move(printer); }
-
-  // What comes of the next pages that are opened.
-  void AnswerPage(PageOpening answer) { pageAnswer_ = answer; }
-
-  // What is found in the pictures that are read next.
-  void AnswerPicture(std::optional<Picture> picture) { pictureAnswer_ = std::move(picture); }
-
-  // Whether the clipboard can be had; at first it can.
-  void ClipboardIsFree(bool isFree) { clipboardIsFree_ = isFree; }
 
   // In the order shown, questions included.
   const std::vector<Message>& Messages() const { return messages_; }
-  const std::vector<FileDialog>& FileDialogs() const { return fileDialogs_; }
-  const std::vector<std::string>& OpenedPages() const { return openedPages_; }
-  const std::vector<std::string>& ReadPictures() const { return readPictures_; }
-  const std::optional<ClipboardContent>& Clipboard() const { return clipboard_; }
-  int Beeps() const { return beeps_; }
-  void ForgetMessages() { messages_.clear(); }
+
+ protected:
+  std::vector<Message> messages_;
 
  private:
-  std::string Choose(const FileDialog& dialog);
-
-  std::vector<Message> messages_;
-  std::vector<FileDialog> fileDialogs_;
-  std::deque<std::string> fileAnswers_;
-  std::optional<std::string> documentsFolder_;
-  std::vector<std::string> openedPages_;
-  PageOpening pageAnswer_ = PageOpening::Opened;
-  std::vector<std::string> readPictures_;
-  std::optional<Picture> pictureAnswer_;
-  std::optional<ClipboardContent> clipboard_;
   ClockTime now_{{2000, 1, 1}, 0, 0, 0};
-  std::unique_ptr<Printer> printer_;
-  int beeps_ = 0;
-  bool answerYes_ = false;
-  bool clipboardIsFree_ = true;
 };
 
 }  // namespace orvik

@@ -1,52 +1,11 @@
 #include "platform/headless/HeadlessWidgets.h"
 
 namespace orvik {
-namespace {
-
-constexpr unsigned char kBlank = 0x20;
-
-// The code of a one-character UTF-8 text as the key handler gets it; 0 beyond U+FFFF.
-std::int16_t KeyCode(std::string_view character) {
-  const auto byte = [&](std::size_t i) {
-    return static_cast<unsigned>(static_cast<unsigned char>(character[i]));
-  };
-  unsigned code = 0;
-  if (character.size() == 1) code = byte(0);
-  if (character.size() == 2) code = (byte(0) & 0x1FU) << 6U | (byte(1) & 0x3FU);
-  if (character.size() == 3) {
-    code = (byte(0) & 0x0FU) << 12U | (byte(1) & 0x3FU) << 6U | (byte(2) & 0x3FU);
-  }
-  return static_cast<std::int16_t>(code);
-}
-
-std::string Utf8Of(std::uint16_t code) {
-  const auto tail = [&](unsigned shift) {
-    return static_cast<char>(0x80U | (code >> shift & 0x3FU));
-  };
-  if (code < 0x80) return {static_cast<char>(code)};
-  if (code < 0x800) return {static_cast<char>(0xC0U | code >> 6U), tail(0)};
-  return {static_cast<char>(0xE0U | code >> 12U), tail(6), tail(0)};
-}
-
-}  // namespace
 
 void HeadlessTextBox::Text(std::string_view text) {
   if (text == text_) return;
   text_ = text;
   if (OnChange) OnChange();
-}
-
-void HeadlessTextBox::PressKey(std::string_view character) {
-  std::string typed(character);
-  if (OnKeyPress) {
-    const std::int16_t pressed = KeyCode(character);
-    std::int16_t code = pressed;
-    OnKeyPress(code);
-    if (code == 0 && pressed != 0) return;
-    if (code != pressed) typed = Utf8Of(static_cast<std::uint16_t>(code));
-  }
-  const bool printable = static_cast<unsigned char>(typed.front()) >= kBlank;
-  if (printable && !locked_) Text(text_ + typed);
 }
 
 void HeadlessComboBox::Clear() {
@@ -67,22 +26,7 @@ void HeadlessComboBox::ListIndex(std::int16_t index) {
 
 void HeadlessWindow::ShowModally() {
   Visible(true);
-  if (OnShown) OnShown();
   Visible(false);
-}
-
-void HeadlessControlHost::Move(int, int, int width, int height) {
-  width_ = width;
-  height_ = height;
-  if (OnResize) OnResize(width, height);
-}
-
-void HeadlessControlHost::Click() {
-  if (OnResize) OnResize(width_, height_);  // a native window tells its size before the first click
-  const double x = width_ / 2.0;
-  const double y = height_ / 2.0;
-  if (OnMouseDown) OnMouseDown(kLeftButton, x, y);
-  if (OnMouseUp) OnMouseUp(kLeftButton, x, y);
 }
 
 }  // namespace orvik

@@ -2,33 +2,17 @@
 // do.
 #pragma once
 
-#include <functional>
-#include <map>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/Toolkit.h"
 
 namespace orvik {
 
-// The living widgets by name. Shared with each widget, which takes itself out when it goes.
-using WidgetRegistry = std::map<std::string, Widget*, std::less<>>;
-
 // What every widget has, over one of the widget interfaces.
 template <typename Interface>
 class HeadlessWidget : public Interface {
  public:
-  HeadlessWidget(std::shared_ptr<WidgetRegistry> registry, std::string_view name)
-      : registry_(std::move(registry)), name_(name) {
-    registry_->insert_or_assign(name_, this);
-  }
-  ~HeadlessWidget() override {
-    const auto own = registry_->find(name_);
-    if (own != registry_->end() && own->second == this) registry_->erase(own);
-  }
-
   bool Visible() const override { return visible_; }
   void Visible(bool visible) override { visible_ = visible; }
   bool Enabled() const override { return enabled_; }
@@ -36,16 +20,12 @@ class HeadlessWidget : public Interface {
   void Move(int, int, int, int) override {}
 
  private:
-  std::shared_ptr<WidgetRegistry> registry_;
-  std::string name_;
   bool visible_ = true;
   bool enabled_ = true;
 };
 
-class HeadlessTextBox final : public HeadlessWidget<TextBox> {
+class HeadlessTextBox : public HeadlessWidget<TextBox> {
  public:
-  using HeadlessWidget::HeadlessWidget;
-
   std::string Text() const override { return text_; }
   void Text(std::string_view text) override;
   bool Locked() const override { return locked_; }
@@ -55,10 +35,6 @@ class HeadlessTextBox final : public HeadlessWidget<TextBox> {
   Colour BackColor() const override { return backColor_; }
   void BackColor(Colour colour) override { backColor_ = colour; }
 
-  // A character key (a UTF-8 sequence, or a control character such as "\r"); the handler sees
-  // characters up to U+FFFF. A locked field and control characters change nothing.
-  void PressKey(std::string_view character);
-
  private:
   std::string text_;
   bool locked_ = false;
@@ -66,10 +42,8 @@ class HeadlessTextBox final : public HeadlessWidget<TextBox> {
   Colour backColor_ = kWindowBackground;
 };
 
-class HeadlessComboBox final : public HeadlessWidget<ComboBox> {
+class HeadlessComboBox : public HeadlessWidget<ComboBox> {
  public:
-  using HeadlessWidget::HeadlessWidget;
-
   void Clear() override;
   void AddItem(std::string_view text) override { items_.emplace_back(text); }
   std::int16_t ListCount() const override { return static_cast<std::int16_t>(items_.size()); }
@@ -88,8 +62,6 @@ class HeadlessComboBox final : public HeadlessWidget<ComboBox> {
 template <typename Interface>
 class HeadlessCaptioned : public HeadlessWidget<Interface> {
  public:
-  using HeadlessWidget<Interface>::HeadlessWidget;
-
   std::string Caption() const override { return caption_; }
   void Caption(std::string_view caption) override { caption_ = caption; }
 
@@ -99,10 +71,8 @@ class HeadlessCaptioned : public HeadlessWidget<Interface> {
 
 using HeadlessLabel = HeadlessCaptioned<Label>;
 
-class HeadlessMenuItem final : public HeadlessCaptioned<MenuItem> {
+class HeadlessMenuItem : public HeadlessCaptioned<MenuItem> {
  public:
-  using HeadlessCaptioned::HeadlessCaptioned;
-
   bool Checked() const override { return checked_; }
   void Checked(bool checked) override { checked_ = checked; }
 
@@ -110,10 +80,8 @@ class HeadlessMenuItem final : public HeadlessCaptioned<MenuItem> {
   bool checked_ = false;
 };
 
-class HeadlessOptionButton final : public HeadlessCaptioned<OptionButton> {
+class HeadlessOptionButton : public HeadlessCaptioned<OptionButton> {
  public:
-  using HeadlessCaptioned::HeadlessCaptioned;
-
   bool Value() const override { return value_; }
   void Value(bool value) override { value_ = value; }
 
@@ -121,10 +89,8 @@ class HeadlessOptionButton final : public HeadlessCaptioned<OptionButton> {
   bool value_ = false;
 };
 
-class HeadlessPanel final : public HeadlessWidget<Panel> {
+class HeadlessPanel : public HeadlessWidget<Panel> {
  public:
-  using HeadlessWidget::HeadlessWidget;
-
   using HeadlessWidget::Visible;
   void Visible(bool visible) override {
     if (visible == Visible()) return;
@@ -133,33 +99,19 @@ class HeadlessPanel final : public HeadlessWidget<Panel> {
   }
 };
 
-// While it is shown modally, the user does what OnShown does.
-class HeadlessWindow final : public HeadlessCaptioned<Window> {
+// Nobody is there to look: a modal showing is over at once.
+class HeadlessWindow : public HeadlessCaptioned<Window> {
  public:
-  using HeadlessCaptioned::HeadlessCaptioned;
-
   void ShowModally() override;
-
-  std::function<void()> OnShown;
 };
 
 // Shows nothing; a drawn control is worked through its events.
-class HeadlessControlHost final : public HeadlessWidget<ControlHost> {
+class HeadlessControlHost : public HeadlessWidget<ControlHost> {
  public:
-  using HeadlessWidget::HeadlessWidget;
-
-  void Move(int, int, int width, int height) override;
   void Invalidate() override {}
   void CaptureMouse() override {}
   void ReleaseMouse() override {}
   Surface* DrawNow() override { return nullptr; }
-
-  // The left button goes down and up in the middle of the control.
-  void Click();
-
- private:
-  int width_ = 80;  // pixels
-  int height_ = 24;
 };
 
 // Ticks when it is told to, never by itself.

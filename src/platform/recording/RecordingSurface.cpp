@@ -1,8 +1,9 @@
 #include "platform/recording/RecordingSurface.h"
 
-#include <algorithm>
 #include <iomanip>
 #include <sstream>
+
+#include "base/Utf8.h"
 
 namespace orvik {
 namespace {
@@ -34,11 +35,6 @@ std::string OfColour(Colour colour) {
 std::string Of(const Pen& pen) {
   return OfColour(pen.colour) + " width " + Number(pen.width) +
          (pen.mode == DrawMode::ExclusiveOr ? " xor" : " copy");
-}
-
-int CodePoints(std::string_view utf8) {
-  return static_cast<int>(
-      std::ranges::count_if(utf8, [](char byte) { return (byte & 0xC0) != 0x80; }));
 }
 
 }  // namespace
@@ -84,7 +80,7 @@ void RecordingSurface::WriteText(Point at, std::string_view text, const Font& fo
 
 Size RecordingSurface::MeasureText(std::string_view text, const Font& font) {
   const int characterWidth = font.pixelHeight / 2 + (font.bold ? 1 : 0);
-  return {CodePoints(text) * characterWidth, font.pixelHeight};
+  return {static_cast<int>(CountCodePoints(text)) * characterWidth, font.pixelHeight};
 }
 
 void RecordingSurface::CopyPicture(const Picture& picture, const Area& area) {

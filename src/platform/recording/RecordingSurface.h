@@ -26,9 +26,8 @@ std::string TextOfFont(const Font& font);
 
 class RecordingSurface final : public Surface {
  public:
-  // The calls since the last Forget, one line each.
+  // The calls since the last Take, one line each.
   const std::vector<std::string>& Calls() const { return calls_; }
-  void Forget() { calls_.clear(); }
   void Note(std::string call) { calls_.push_back(std::move(call)); }  // of what draws on it
   std::vector<std::string> Take() { return std::exchange(calls_, {}); }
 

@@ -107,7 +107,7 @@ void NativeWindow::Visible(bool visible) {
 }
 
 bool NativeWindow::Enabled() const {
-  return ::IsWindowEnabled(window_) != FALSE;
+  return IsEnabled(window_);
 }
 
 void NativeWindow::Enabled(bool enabled) {

@@ -20,7 +20,7 @@ inline void Show(HWND window, bool visible) {
 }
 
 inline bool IsEnabled(HWND window) {
-  return !HasStyle(window, WS_DISABLED);
+  return ::IsWindowEnabled(window) != FALSE;
 }
 
 inline void Enable(HWND window, bool enabled) {

@@ -2,13 +2,13 @@
 
 #include <stdexcept>
 
-#include "platform/headless/HeadlessToolkit.h"
+#include "support/UserToolkit.h"
 
 namespace orvik {
 namespace {
 
-TEST(HeadlessToolkit, TypingReplacesTheTextKeyByKey) {
-  HeadlessToolkit toolkit;
+TEST(UserToolkit, TypingReplacesTheTextKeyByKey) {
+  test::UserToolkit toolkit;
   const auto box = toolkit.MakeTextBox("txtEngineer");
   std::string seen;
   box->OnChange = [&] { seen += box->Text() + "|"; };
@@ -17,8 +17,8 @@ TEST(HeadlessToolkit, TypingReplacesTheTextKeyByKey) {
   EXPECT_EQ(seen, "a|ab||ñ|ñ°|ñ°中|");
 }
 
-TEST(HeadlessToolkit, AKeyHandlerSeesCharactersAndCanReplaceThem) {
-  HeadlessToolkit toolkit;
+TEST(UserToolkit, AKeyHandlerSeesCharactersAndCanReplaceThem) {
+  test::UserToolkit toolkit;
   const auto box = toolkit.MakeTextBox("txtEngineer");
   box->OnKeyPress = [](std::int16_t& key) {
     if (key == 0xF1) key = 0x4E2D;  // ñ becomes 中
@@ -28,8 +28,8 @@ TEST(HeadlessToolkit, AKeyHandlerSeesCharactersAndCanReplaceThem) {
   EXPECT_EQ(box->Text(), "中aé");
 }
 
-TEST(HeadlessToolkit, LeavesTheOldFieldWhenTheFocusMoves) {
-  HeadlessToolkit toolkit;
+TEST(UserToolkit, LeavesTheOldFieldWhenTheFocusMoves) {
+  test::UserToolkit toolkit;
   const auto first = toolkit.MakeTextBox("first");
   const auto second = toolkit.MakeTextBox("second");
   int left = 0;
@@ -43,8 +43,8 @@ TEST(HeadlessToolkit, LeavesTheOldFieldWhenTheFocusMoves) {
   EXPECT_EQ(left, 1) << "it has no focus any more";
 }
 
-TEST(HeadlessToolkit, RefusesWhatAUserCannotDo) {
-  HeadlessToolkit toolkit;
+TEST(UserToolkit, RefusesWhatAUserCannotDo) {
+  test::UserToolkit toolkit;
   const auto box = toolkit.MakeTextBox("box");
   const auto menu = toolkit.MakeMenuItem("mnuFile");
   const auto item = toolkit.MakeMenuItem("mnuFile_Open");
@@ -56,8 +56,8 @@ TEST(HeadlessToolkit, RefusesWhatAUserCannotDo) {
   EXPECT_THROW(toolkit.Text("nobody"), std::out_of_range);
 }
 
-TEST(HeadlessToolkit, AnIndexOutsideAListChoosesNothing) {
-  HeadlessToolkit toolkit;
+TEST(UserToolkit, AnIndexOutsideAListChoosesNothing) {
+  test::UserToolkit toolkit;
   const auto list = toolkit.MakeComboBox("list");
   list->AddItem("a");
   int clicks = 0;
@@ -71,8 +71,8 @@ TEST(HeadlessToolkit, AnIndexOutsideAListChoosesNothing) {
   EXPECT_EQ(list->List(5), "");
 }
 
-TEST(HeadlessToolkit, AWidgetIsForgottenWhenItGoes) {
-  HeadlessToolkit toolkit;
+TEST(UserToolkit, AWidgetIsForgottenWhenItGoes) {
+  test::UserToolkit toolkit;
   { const auto box = toolkit.MakeTextBox("box"); }
   EXPECT_THROW(toolkit.Text("box"), std::out_of_range);
 }

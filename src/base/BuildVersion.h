@@ -1,4 +1,4 @@
-// The module's version as its windows write it.
+// The module's version as its windows write it; elsewhere it is kModuleVersion.
 #pragma once
 
 #include <string>
@@ -6,6 +6,6 @@
 namespace orvik {
 
 // Major, minor and build number, the last in four digits at least: "3.3.0001".
-std::string VersionText();
+std::string BuildVersionText();
 
 }  // namespace orvik
