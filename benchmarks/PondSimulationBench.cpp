@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <ctime>
 
-#include "curves/PondSimulation.h"
+#include "pond/PondSimulation.h"
 
 namespace orvik {
 namespace {

@@ -1,6 +1,7 @@
 // kav chart: the design chart of a station or a project as a picture file.
 #include <memory>
 
+#include "base/FileError.h"
 #include "base/NumberText.h"
 #include "base/RuntimeErrors.h"
 #include "chart/ctrlStormwaterReuse.h"
@@ -8,7 +9,6 @@
 #include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
 #include "cli/StationQuestion.h"
-#include "curves/FileError.h"
 #include "platform/cairo/PictureFile.h"
 
 namespace orvik {

@@ -3,12 +3,12 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 
+#include "base/FileError.h"
 #include "base/Paths.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
 #include "curves/CurveCheck.h"
 #include "curves/CurveJudge.h"
-#include "curves/FileError.h"
 #include "engine/CurveFile.h"
 #include "engine/CurveFileDiagnosis.h"
 

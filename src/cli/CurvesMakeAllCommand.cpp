@@ -4,15 +4,15 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
+#include "base/FixedText.h"
 #include "base/Paths.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
 #include "cli/OutputFile.h"
-#include "curves/CurveFileWriter.h"
-#include "curves/FixedText.h"
-#include "curves/RainDate.h"
 #include "curves/StationCurves.h"
 #include "engine/ClimateStations.h"
+#include "engine/CurveFileWriter.h"
+#include "rain/RainDate.h"
 
 namespace orvik {
 namespace {

@@ -2,13 +2,13 @@
 
 #include <stdexcept>
 
+#include "base/FileError.h"
 #include "base/NumberText.h"
+#include "base/Refusal.h"
 #include "base/Text.h"
 #include "curves/CurveMaker.h"
-#include "curves/FileError.h"
-#include "curves/RainUnit.h"
-#include "curves/RainYears.h"
-#include "curves/Refusal.h"
+#include "rain/RainUnit.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 

@@ -8,8 +8,8 @@
 
 #include "cli/Command.h"
 #include "curves/ChartAxes.h"
-#include "curves/PondDays.h"
-#include "curves/RainRecord.h"
+#include "pond/PondDays.h"
+#include "rain/RainRecord.h"
 
 namespace orvik {
 

@@ -2,8 +2,8 @@
 
 #include <iomanip>
 
+#include "base/FixedText.h"
 #include "base/NumberText.h"
-#include "curves/FixedText.h"
 
 namespace orvik {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
+#include "base/FileError.h"
 #include "base/Paths.h"
 #include "base/SafeFile.h"
-#include "curves/FileError.h"
 
 namespace orvik {
 namespace {

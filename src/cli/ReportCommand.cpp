@@ -2,11 +2,11 @@
 #include <memory>
 #include <optional>
 
+#include "base/FileError.h"
 #include "cli/Command.h"
 #include "cli/DateOption.h"
 #include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
-#include "curves/FileError.h"
 #include "platform/cairo/CairoPrinter.h"
 #include "platform/cairo/PictureFile.h"
 #include "printing/ProjectReport.h"

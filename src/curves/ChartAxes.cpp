@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "base/FixedText.h"
 #include "base/NumberText.h"
-#include "curves/FixedText.h"
 
 namespace orvik {
 namespace {

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <limits>
 
+#include "base/FixedText.h"
 #include "base/NumberText.h"
 #include "curves/ChartAxes.h"
 #include "curves/CurveFit.h"
-#include "curves/FixedText.h"
 
 namespace orvik {
 namespace {

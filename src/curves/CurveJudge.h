@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "curves/PondSimulation.h"
 #include "engine/EfficiencyCurve.h"
+#include "pond/PondSimulation.h"
 
 namespace orvik {
 

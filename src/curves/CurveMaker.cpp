@@ -4,13 +4,13 @@
 #include <cmath>
 #include <optional>
 
+#include "base/FixedText.h"
 #include "base/NumberText.h"
 #include "curves/CurveCheck.h"
-#include "curves/CurveFileWriter.h"
 #include "curves/CurveFit.h"
 #include "curves/CurveLabels.h"
 #include "curves/EfficiencyTable.h"
-#include "curves/FixedText.h"
+#include "engine/CurveFileWriter.h"
 
 namespace orvik {
 namespace {

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "base/Refusal.h"
 #include "curves/ChartAxes.h"
 #include "curves/CurveJudge.h"
-#include "curves/PondDays.h"
-#include "curves/Refusal.h"
 #include "engine/CurveSet.h"
+#include "pond/PondDays.h"
 
 namespace orvik {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "curves/PondSimulation.h"
+#include "pond/PondSimulation.h"
 
 namespace orvik {
 

@@ -1,11 +1,11 @@
 #include <string>
 #include <string_view>
 
-#include "curves/FixedText.h"
-#include "curves/RainDate.h"
+#include "base/FixedText.h"
 #include "curves/StationCurves.h"
 #include "curves/StationSources.h"
 #include "engine/ClimateStations.h"
+#include "rain/RainDate.h"
 
 namespace orvik {
 namespace {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "curves/CurveMaker.h"
-#include "curves/PondDays.h"
-#include "curves/RainRecord.h"
-#include "curves/RainYears.h"
+#include "pond/PondDays.h"
+#include "rain/RainRecord.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "base/RuntimeErrors.h"
-#include "curves/RainDate.h"
+#include "rain/RainDate.h"
 
 namespace orvik {
 namespace {

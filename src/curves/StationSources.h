@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "curves/PondDays.h"
-#include "curves/RainRecord.h"
-#include "curves/RainYears.h"
+#include "pond/PondDays.h"
+#include "rain/RainRecord.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 

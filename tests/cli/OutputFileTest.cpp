@@ -6,9 +6,9 @@
 #include <sys/stat.h>
 #endif
 
+#include "base/FileError.h"
 #include "base/Paths.h"
 #include "cli/OutputFile.h"
-#include "curves/FileError.h"
 #include "support/TempFolder.h"
 
 namespace orvik {

@@ -2,7 +2,7 @@
 
 #include "curves/CurveLabels.h"
 #include "curves/CurveMaker.h"
-#include "curves/SampleRecords.h"
+#include "support/SampleRecords.h"
 
 namespace orvik {
 namespace {

@@ -5,11 +5,11 @@
 #include <optional>
 
 #include "curves/CurveCheck.h"
-#include "curves/CurveFileWriter.h"
 #include "curves/CurveFit.h"
 #include "curves/CurveMaker.h"
 #include "curves/EfficiencyTable.h"
-#include "curves/SampleRecords.h"
+#include "engine/CurveFileWriter.h"
+#include "support/SampleRecords.h"
 
 namespace orvik {
 namespace {

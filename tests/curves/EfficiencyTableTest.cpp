@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "curves/EfficiencyTable.h"
-#include "curves/SampleRecords.h"
+#include "support/SampleRecords.h"
 
 namespace orvik {
 namespace {

@@ -6,8 +6,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "curves/RainRecord.h"
 #include "engine/ClimateStations.h"
+#include "rain/RainRecord.h"
 
 namespace orvik {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "base/NumberText.h"
 #include "chart/ctrlStormwaterReuse.h"
-#include "curves/PondSimulation.h"
 #include "engine/ClimateStations.h"
 #include "platform/headless/HeadlessDesktop.h"
+#include "pond/PondSimulation.h"
 
 namespace orvik {
 namespace {

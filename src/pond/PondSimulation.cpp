@@ -1,4 +1,4 @@
-#include "curves/PondSimulation.h"
+#include "pond/PondSimulation.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "curves/PondDays.h"
-#include "curves/RainYears.h"
+#include "pond/PondDays.h"
+#include "rain/RainYears.h"
 
 namespace orvik::test {
 

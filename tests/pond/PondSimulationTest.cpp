@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "curves/PondSimulation.h"
-#include "curves/SampleRecords.h"
+#include "pond/PondSimulation.h"
+#include "support/SampleRecords.h"
 
 namespace orvik {
 namespace {

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "curves/RainRecord.h"
-#include "curves/Refusal.h"
+#include "base/Refusal.h"
+#include "rain/RainRecord.h"
 
 namespace orvik {
 

@@ -3,8 +3,8 @@
 #include <limits>
 
 #include "base/RuntimeErrors.h"
-#include "curves/CurveFileWriter.h"
 #include "engine/CurveFile.h"
+#include "engine/CurveFileWriter.h"
 #include "support/TempFolder.h"
 
 namespace orvik {

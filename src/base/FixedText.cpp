@@ -1,4 +1,4 @@
-#include "curves/FixedText.h"
+#include "base/FixedText.h"
 
 #include <array>
 #include <charconv>

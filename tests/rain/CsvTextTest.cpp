@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "curves/CsvText.h"
+#include "rain/CsvText.h"
 
 namespace orvik {
 namespace {

@@ -1,7 +1,7 @@
-#include "curves/CurveFileWriter.h"
+#include "engine/CurveFileWriter.h"
 
+#include "base/FixedText.h"
 #include "base/NumberText.h"
-#include "curves/FixedText.h"
 
 namespace orvik {
 namespace {

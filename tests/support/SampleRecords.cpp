@@ -1,4 +1,4 @@
-#include "curves/SampleRecords.h"
+#include "support/SampleRecords.h"
 
 #include <cmath>
 #include <cstdint>

@@ -3,8 +3,8 @@
 
 #include <numeric>
 
-#include "curves/RainYears.h"
-#include "curves/Refusal.h"
+#include "base/Refusal.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 namespace {

@@ -1,10 +1,10 @@
-#include "curves/PondDays.h"
+#include "pond/PondDays.h"
 
 #include <algorithm>
 #include <numeric>
 
 #include "base/NumberText.h"
-#include "curves/Refusal.h"
+#include "base/Refusal.h"
 
 namespace orvik {
 namespace {

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-#include "curves/PondDays.h"
+#include "pond/PondDays.h"
 
 namespace orvik {
 

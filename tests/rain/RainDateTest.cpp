@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "curves/RainDate.h"
+#include "rain/RainDate.h"
 
 namespace orvik {
 namespace {

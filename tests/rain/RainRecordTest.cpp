@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "curves/FileError.h"
-#include "curves/RainDate.h"
-#include "curves/RainRecord.h"
+#include "base/FileError.h"
+#include "rain/RainDate.h"
+#include "rain/RainRecord.h"
 #include "support/TempFolder.h"
 
 namespace orvik {

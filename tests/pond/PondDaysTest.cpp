@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "curves/PondSimulation.h"
-#include "curves/Refusal.h"
-#include "curves/SampleRecords.h"
+#include "base/Refusal.h"
+#include "pond/PondSimulation.h"
+#include "support/SampleRecords.h"
 
 namespace orvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "curves/CsvText.h"
+#include "rain/CsvText.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "curves/RainDate.h"
+#include "rain/RainDate.h"
 
 #include <charconv>
 

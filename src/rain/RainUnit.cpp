@@ -1,4 +1,4 @@
-#include "curves/RainUnit.h"
+#include "rain/RainUnit.h"
 
 namespace orvik {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "curves/RainUnit.h"
+#include "rain/RainUnit.h"
 
 namespace orvik {
 

@@ -1,4 +1,4 @@
-#include "curves/RainYears.h"
+#include "rain/RainYears.h"
 
 #include <algorithm>
 #include <chrono>
@@ -6,9 +6,9 @@
 #include <numeric>
 #include <string>
 
+#include "base/FixedText.h"
 #include "base/NumberText.h"
-#include "curves/FixedText.h"
-#include "curves/RainDate.h"
+#include "rain/RainDate.h"
 
 namespace orvik {
 namespace {

@@ -1,17 +1,17 @@
-#include "curves/RainRecord.h"
+#include "rain/RainRecord.h"
 
 #include <algorithm>
 #include <initializer_list>
 #include <optional>
 
 #include "base/FileBytes.h"
+#include "base/FileError.h"
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "base/TextEncoding.h"
-#include "curves/CsvText.h"
-#include "curves/FileError.h"
-#include "curves/RainDate.h"
+#include "rain/CsvText.h"
+#include "rain/RainDate.h"
 
 namespace orvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "curves/RainYears.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 
