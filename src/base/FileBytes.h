@@ -9,10 +9,10 @@
 namespace orvik {
 
 // Nothing where the file cannot be opened, is a folder, or a read fails on the way: half a file
-// must not pass for the whole.
+// must not be taken for the whole.
 std::optional<std::string> ReadFileBytes(std::string_view path);
 
-// All that is left in the source; nothing where it throws.
+// Everything from the present position on; nothing where the source throws.
 std::optional<std::string> ReadToEnd(std::streambuf& source);
 
 }  // namespace orvik

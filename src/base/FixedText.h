@@ -1,4 +1,4 @@
-// Numbers of tables: a fixed count of decimals.
+// Numbers in tables: a fixed number of decimals.
 #pragma once
 
 #include <string>

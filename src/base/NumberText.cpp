@@ -121,9 +121,9 @@ Prefix NumericPrefix(std::string_view text) {
   return prefix;
 }
 
-// True when a number that a double cannot hold is too large rather than too small: the sign of the
-// decimal exponent of its first significant digit decides, which is never near zero for such a
-// number.
+// True when a number that a double cannot hold is too large, false when it is too small.
+// std::from_chars does not say which; the decimal exponent of the first significant digit does,
+// since it is far from zero for every such number.
 bool IsHuge(std::string_view number) {
   const auto e = number.find_first_of("eE");
   const std::string_view mantissa = number.substr(0, e);

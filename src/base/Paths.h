@@ -1,4 +1,4 @@
-// Paths as UTF-8 text, and the two questions that the module asks the file system.
+// Paths as UTF-8 text, and simple questions to the file system.
 #pragma once
 
 #include <filesystem>
@@ -13,7 +13,7 @@ inline constexpr char kPathSeparator = std::filesystem::path::preferred_separato
 std::filesystem::path PathFromUtf8(std::string_view text);
 std::string PathToUtf8(const std::filesystem::path& path);
 
-// False for a path with a NUL inside: the system would cut it there and answer for another file.
+// False for a path with a NUL inside: the system would cut the path there and use another file.
 bool IsWholeName(std::string_view path);
 
 // `folder` with a separator at its end; the empty text stays empty.

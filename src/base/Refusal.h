@@ -1,4 +1,4 @@
-// A calculation that must not be made, or has no result within its limits.
+// The input does not allow a result: it is implausible, or no result keeps the limits.
 #pragma once
 
 #include <stdexcept>

@@ -1,5 +1,4 @@
-// The numeric faults that an operation raises to its caller instead of answering with a wrong
-// number.
+// The numeric faults that an operation throws instead of returning a wrong number.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +8,7 @@ namespace orvik {
 
 enum class NumericFault : std::uint8_t { Overflow, DivisionByZero };
 
-// Base of all of them, so that a wall can catch every kind.
+// The base of all numeric faults, so that one handler catches every kind.
 class NumericError : public std::runtime_error {
  public:
   NumericFault Kind() const { return kind_; }

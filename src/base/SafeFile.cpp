@@ -16,16 +16,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMostNamesTried = 100;  // a disk on which every name is taken is out of order
+constexpr int kMostNamesTried = 100;  // all of them taken: the disk is broken
 
-// Marked as read-only by its owner, or not ours to write. The file is a regular one: opening a pipe
-// would wait for its reader.
+// Marked as read-only, or we may not write it. Only asked of a regular file: opening a pipe would
+// wait for its reader.
 bool IsReadOnly(const fs::path& file, const fs::file_status& status) {
   if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) return true;
   return !std::ofstream(file, std::ios::binary | std::ios::app);  // opening alone changes nothing
 }
 
-// Random, so that two writers take two names; short, whatever the length of the file's own.
+// Random, so that two writers take different names; short, so that it fits where the target's own
+// name is as long as the system allows.
 fs::path RandomNameBeside(const fs::path& path) {
   std::random_device random;
   const std::uint64_t number = std::uint64_t{random()} << 32U | random();

@@ -6,12 +6,12 @@
 
 namespace orvik {
 
-// `text` without its leading and trailing blanks (the space character only; tabs and line ends are
-// text).
+// `text` without leading and trailing blanks (only the space character counts as blank; tabs and
+// line ends are text).
 std::string_view Trim(std::string_view text);
 
-// Comparisons in which the letters A to Z equal a to z, and no others whatever the locale: what is
-// compared are names of stations, columns, keys and file extensions.
+// Comparisons that ignore the case of the letters A to Z only, whatever the locale: they compare
+// names of stations, columns, keys and file extensions.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoringCase(std::string_view text, std::string_view beginning);
 bool EndsWithIgnoringCase(std::string_view text, std::string_view ending);

@@ -1,4 +1,4 @@
-// Bytes of a text file and UTF-8.
+// From the bytes of a text file to UTF-8.
 #pragma once
 
 #include <string>
@@ -11,8 +11,8 @@ namespace orvik {
 bool IsUtf8(std::string_view bytes);
 
 // The text of a file as UTF-8: a byte-order mark is skipped; bytes that are not UTF-8 are read as
-// Windows-1252, in which every byte has a meaning (the five unassigned ones become the control
-// characters of the same number).
+// Windows-1252, in which every byte is a character (the five unassigned ones become the control
+// characters with the same number).
 std::string DecodeFileText(std::string_view bytes);
 
 }  // namespace orvik

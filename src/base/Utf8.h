@@ -13,7 +13,7 @@ constexpr bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-// How many bytes the character takes that begins with `lead`; 1 where none begins so.
+// The number of bytes of a character that begins with `lead`; 1 where no character begins with it.
 constexpr std::size_t CharacterLength(char lead) {
   const auto byte = static_cast<unsigned char>(lead);
   if (byte < 0xC0U) return 1;

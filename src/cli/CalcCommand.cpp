@@ -1,4 +1,4 @@
-// kav calc: a project file, calculated and shown field by field as the window would show it.
+// kav calc: calculates a project file and prints every field as the window would show it.
 #include <algorithm>
 #include <iomanip>
 #include <memory>
@@ -11,7 +11,7 @@
 namespace orvik {
 namespace {
 
-// One line of the answer: the field's name in JSON, its caption and unit in text.
+// One line of the answer: under the field's name in JSON, with its caption and unit in text.
 struct Row {
   std::string name;
   std::string caption;
@@ -19,7 +19,8 @@ struct Row {
   std::string unit = {};
 };
 
-// What a normalized quantity is called where it does not stand beside a field.
+// The caption of a field. Normalized quantities are called so here, since no field beside them
+// shows it.
 std::string CaptionOf(const FieldDesign& field) {
   switch (field.id) {
     case Field::R:
@@ -71,11 +72,11 @@ void PrintJson(std::ostream& out, const std::vector<Row>& rows, const Message& s
   for (const Row& row : rows) object[row.name] = row.value;
   object["txtErrMsg"] = Sentence(shown);
   object["helpTopic"] = HelpTopic(shown.id);
-  // Bytes of a damaged file that are no text are shown as the sign for that.
+  // Bytes of a damaged file that are not UTF-8 become U+FFFD, the replacement character.
   out << object.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
 }
 
-// A field of a damaged file may hold anything; a terminal would obey its control characters.
+// A field of a damaged file can hold anything, and a terminal would obey its control characters.
 std::string Printable(std::string text) {
   for (char& c : text) {
     const auto byte = static_cast<unsigned char>(c);
@@ -100,10 +101,10 @@ void PrintText(std::ostream& out, const std::vector<Row>& rows) {
 
 ExitCode RunCalc(Console& console, const CommonOptions& options, const std::string& path) {
   const auto opened = OpenProject(console, path, DataFolder(console, options));
-  if (!opened) return ExitCode::FileTrouble;
+  if (!opened) return ExitCode::FileError;
   const auto rows = RowsOf(opened->project);
   options.json ? PrintJson(console.out, rows, opened->shown) : PrintText(console.out, rows);
-  return TellResult(console, *opened);
+  return PrintMissingResult(console, *opened);
 }
 
 }  // namespace

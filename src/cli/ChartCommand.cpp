@@ -1,4 +1,4 @@
-// kav chart: the design chart of a station or a project as a picture file.
+// kav chart: draws the design chart of a station or a project to a picture file.
 #include <memory>
 
 #include "base/FileError.h"
@@ -14,8 +14,8 @@
 namespace orvik {
 namespace {
 
-constexpr Size kDefaultSize{960, 640};  // all texts fit beside the frame
-constexpr int kLeastExtent = 60;        // pixels; below that there is no chart to see
+constexpr Size kDefaultSize{960, 640};  // at this size all texts fit beside the frame
+constexpr int kLeastExtent = 60;        // pixels; a smaller chart shows nothing
 constexpr int kMostExtent = 16000;
 
 struct ChartRequest {
@@ -25,7 +25,7 @@ struct ChartRequest {
   std::string size;
 };
 
-// "960x640"; nothing where it is not two whole numbers within bounds.
+// Reads "960x640"; nothing where it is not two whole numbers within bounds.
 std::optional<Size> ParseSize(std::string_view text) {
   const std::size_t cross = text.find('x');
   if (cross == std::string_view::npos) return std::nullopt;
@@ -58,9 +58,9 @@ ExitCode DrawToFile(const ChartRequest& request, ctrlStormwaterReuse& chart) {
   return ExitCode::Done;
 }
 
-ExitCode SayNo(Console& console, std::string_view message) {
+ExitCode Refuse(Console& console, std::string_view message) {
   PrintMessage(console, message);
-  return ExitCode::CalculationSaysNo;
+  return ExitCode::Refused;
 }
 
 // The chart of curves that are loaded, with a design point or none.
@@ -82,7 +82,7 @@ ExitCode ChartOfStation(Console& console, const CommonOptions& options,
     DesignPoint point;
     if (CountGiven(question) == 2) {
       point = Solve(*station.curves, question);
-      if (point.message.id != MessageId::Success) return SayNo(console, Sentence(point.message));
+      if (point.message.id != MessageId::Success) return Refuse(console, Sentence(point.message));
     }
     return DrawChart(options, console, request, station.station, point);
   } catch (const NumericError&) {
@@ -93,9 +93,9 @@ ExitCode ChartOfStation(Console& console, const CommonOptions& options,
 ExitCode ChartOfProject(Console& console, const CommonOptions& options,
                         const ChartRequest& request) {
   const auto opened = OpenProject(console, request.project, DataFolder(console, options));
-  if (!opened) return ExitCode::FileTrouble;
-  if (opened->shown.id != MessageId::None) return SayNo(console, Sentence(opened->shown));
-  if (!opened->curves) return SayNo(console, "The project has no climate station.");
+  if (!opened) return ExitCode::FileError;
+  if (opened->shown.id != MessageId::None) return Refuse(console, Sentence(opened->shown));
+  if (!opened->curves) return Refuse(console, "The project has no climate station.");
   return DrawChart(options, console, request,
                    static_cast<std::int16_t>(opened->project.station + 1), opened->project.point);
 }
@@ -126,7 +126,7 @@ ExitCode RunChart(Console& console, const CommonOptions& options, const ChartReq
                       : ChartOfProject(console, options, request);
   } catch (const FileError& error) {
     PrintMessage(console, error.what());
-    return ExitCode::FileTrouble;
+    return ExitCode::FileError;
   }
 }
 

@@ -15,7 +15,7 @@ struct CommonOptions {
   bool json = false;  // print one JSON object
 };
 
-// A command adds itself to the parser and returns what is run when the user names it.
+// A command adds itself to the parser, and returns what to run when the user names it.
 using CommandRun = std::function<ExitCode(Console&, const CommonOptions&)>;
 
 CommandRun AddStationsCommand(CLI::App& app);
@@ -28,7 +28,8 @@ CommandRun AddCurvesCommand(CLI::App& app);
 // The folder that holds "KAV Data", with a separator at its end.
 std::string DataFolder(const Console& console, const CommonOptions& options);
 
-// Refuses a text that is not a number, so that a slip of the finger is never calculated with.
+// What is wrong with a text that is not a number, else empty: a typing error must never be
+// calculated with.
 std::string ValidateNumber(const std::string& text);
 
 }  // namespace orvik

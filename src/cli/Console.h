@@ -1,4 +1,4 @@
-// Where a command of kav reads its surroundings from and writes to.
+// What a command of kav knows of its surroundings, and where it writes to.
 #pragma once
 
 #include <ostream>
@@ -10,9 +10,9 @@ namespace orvik {
 // Exit codes of every command.
 enum class ExitCode : int {
   Done = 0,
-  CalculationSaysNo = 1,  // the calculation's message is on `err`
+  Refused = 1,  // no result, or a check failed; the reason is on `err`
   WrongUsage = 2,
-  FileTrouble = 3,  // a file cannot be read or written
+  FileError = 3,  // a file cannot be read or written
 };
 
 struct Console {
@@ -23,7 +23,7 @@ struct Console {
                               // lies beside it
 };
 
-// One message as a line on `err`; CR LF inside it becomes a line end.
+// Prints a message to `err`, with a line end; a CR LF inside it becomes a line end too.
 void PrintMessage(Console& console, std::string_view message);
 
 }  // namespace orvik

@@ -1,4 +1,4 @@
-// kav curves check: can a curve file be calculated with?
+// kav curves check: is a curve file fit for calculation?
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -44,8 +44,8 @@ std::optional<PondDays> ReadDays(Console& console, const CurvesCheckRequest& req
   return BuildPondDays(years, ToPondOptions(request.pond));
 }
 
-// How far a simulation along each curve is from its E, where there is something to simulate along;
-// empty without rainfall.
+// How far a simulation along each curve is from its E; empty without rainfall. A curve without a
+// range of volumes is not judged.
 CurveErrors JudgeAll(const CurveSet& set, const std::optional<PondDays>& days) {
   CurveErrors errors;
   if (!days) return errors;
@@ -71,10 +71,10 @@ ExitCode Check(Console& console, bool json, const CurvesCheckRequest& request) {
   } else {
     console.out << set.Title << "\n\n";
     PrintCurvesTable(console.out, set, errors);
-    if (faults.empty()) console.out << "\nAll checks are passed.\n";
+    if (faults.empty()) console.out << "\nAll checks passed.\n";
   }
   for (const std::string& fault : faults) PrintMessage(console, fault);
-  return faults.empty() ? ExitCode::Done : ExitCode::CalculationSaysNo;
+  return faults.empty() ? ExitCode::Done : ExitCode::Refused;
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// kav curves make-all: the curve files of all climate stations from a folder of rainfall records.
+// kav curves make-all: makes the curve files of all climate stations from a folder of rainfall
+// records.
 #include <algorithm>
 #include <iomanip>
 #include <memory>
@@ -30,7 +31,8 @@ std::string NameOf(const StationCurves& station) {
   return std::string(ClimateStationName(station.Station));
 }
 
-// The line that is written over and over while the stations are made; only people see it.
+// One line of progress, overwritten for each station, and only on a terminal. Beyond the last
+// station it is erased.
 void ShowProgress(Console& console, int station) {
   if (!console.isErrTerminal) return;
   const int count = NumRainfallStations();
@@ -42,7 +44,8 @@ void ShowProgress(Console& console, int station) {
               << ClimateStationName(static_cast<std::int16_t>(station)) << std::flush;
 }
 
-// The refusal of a station names it. All records are in inches here: no unit can be chosen.
+// A refusal names its station. All records here are in inches, so the advice about units is left
+// out.
 StationCurves MakeStation(const std::string& rainFolder, std::int16_t station,
                           const PondOptions& pond, const ChartAxes& axes) {
   const auto named = [&](const std::string& sentence) {
@@ -83,7 +86,7 @@ void WriteAll(const std::string& folder, const std::vector<StationCurves>& stati
   WriteOutputFile(prefix + "SOURCES.md", SourcesTable(stations, kMadeBy));
 }
 
-// The worst of a station's curves.
+// The largest errors among a station's curves.
 CurveError WorstError(const StationCurves& station) {
   CurveError worst;
   for (const CurveError& error : station.Made.Errors) {

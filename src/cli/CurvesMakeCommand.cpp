@@ -1,4 +1,4 @@
-// kav curves make: the curves of one place from its daily rainfall.
+// kav curves make: makes the curve file of one place from its daily rainfall.
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -26,7 +26,7 @@ struct CurvesMakeRequest {
   std::string file;
 };
 
-// What stands in the title for the rainfall: the user's words, or the file's name.
+// The source that the title names: the user's words, else the file's name.
 std::string SourceOf(const CurvesMakeRequest& request) {
   if (!request.source.empty()) return request.source;
   return "daily rainfall " + PathToUtf8(PathFromUtf8(request.rain.file).filename());
@@ -61,11 +61,11 @@ void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRe
   out << object.dump(2) << '\n';
 }
 
-// What can be said before any work is done.
+// What can be refused before any work is done.
 void CheckRequest(const CurvesMakeRequest& request) {
   const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
   if (std::ranges::any_of(request.name + request.source, isControl)) {
-    throw UsageError("The name and the source must be one line of text.");
+    throw UsageError("The name and the source must each be one line of text.");
   }
   std::error_code error;
   if (std::filesystem::equivalent(PathFromUtf8(request.rain.file), PathFromUtf8(request.file),

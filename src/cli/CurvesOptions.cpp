@@ -22,10 +22,10 @@ available every day.)";
 
 namespace {
 
-constexpr int kMostHoldOff = 365;  // days; a year of them leaves none for use
+constexpr int kMostHoldOff = 365;  // days; a longer hold-off would leave hardly a day with use
 
-// What axes may be asked for. A curve covers an inch of V and begins above 0; R of a few hundredths
-// is drizzle. The other ends are far beyond any pond.
+// The ends that axes may have. A curve covers at least an inch of V and begins above 0, and an R of
+// a few hundredths is less than any irrigation. The upper limits are far beyond any pond.
 constexpr double kLeastVMax = 2;
 constexpr double kMostVMax = 100;
 constexpr double kLeastRMax = 0.05;
@@ -80,7 +80,7 @@ std::string Advice(const ImplausibleRain& refusal) {
   return " A unit that would make sense: " + units + ".";
 }
 
-// The axis from 0 to `most` with the step that was asked for, or a round one.
+// Sets the axis from 0 to `most` with the interval that was asked for, or a round one.
 void SetAxis(const std::string& mostText, const std::string& intervalText, const char* name,
              double& most, double& interval) {
   if (!mostText.empty()) {
@@ -198,10 +198,10 @@ ExitCode RunWithMessages(Console& console, const std::function<ExitCode()>& work
     return ExitCode::WrongUsage;
   } catch (const Refusal&) {
     PrintMessage(console, SentenceOfRefusal());
-    return ExitCode::CalculationSaysNo;
+    return ExitCode::Refused;
   } catch (const FileError& error) {
     PrintMessage(console, error.what());
-    return ExitCode::FileTrouble;
+    return ExitCode::FileError;
   }
 }
 

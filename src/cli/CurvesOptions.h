@@ -20,7 +20,7 @@ CommandRun AddCurvesCheckCommand(CLI::App& curves);
 // The daily water balance in a few lines, for --help.
 extern const std::string_view kBalanceDefinition;
 
-// For options that must say something: what is wrong with the text, or empty.
+// For options that must not be blank: what is wrong with the text, or empty.
 std::string ValidateNotBlank(const std::string& text);
 
 // Options as the user typed them; empty where not given.
@@ -50,8 +50,8 @@ ChartAxes ToChartAxes(const AxesArguments& arguments);
 // Reads the record that the arguments name; throws FileError.
 RainRecord ReadRain(const RainArguments& arguments);
 
-// A message where the record's largest depth looks like a code for a missing value; `name` says
-// whose record it is where there are several.
+// Prints a warning where the record's largest depth looks like a code for a missing value. `name`
+// is that of the record where there are several.
 void WarnOfSuspectedCode(Console& console, const RainYears& years, const std::string& name = {});
 
 // Options that contradict each other; what() is the sentence for the user.
@@ -60,10 +60,10 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The sentence of the Refusal that is being handled, with the options that help.
+// The sentence of the Refusal that is being handled, with the options that would help.
 std::string SentenceOfRefusal();
 
-// Runs the command's work; its refusals become a message and an exit code.
+// Runs the command's work; refusals and errors become a message and an exit code.
 ExitCode RunWithMessages(Console& console, const std::function<ExitCode()>& work);
 
 }  // namespace orvik

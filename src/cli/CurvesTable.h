@@ -1,4 +1,4 @@
-// The table of a curve set as the commands below "kav curves" print it.
+// The table of a curve set that the commands below "kav curves" print.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -11,7 +11,7 @@
 
 namespace orvik {
 
-// One element for each curve, nothing for one that was not judged; or empty where none was.
+// One element for each curve, with no value where it was not judged; empty where none was.
 using CurveErrors = std::vector<std::optional<CurveError>>;
 
 CurveErrors AllJudged(const std::vector<CurveError>& errors);

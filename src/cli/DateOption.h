@@ -1,4 +1,4 @@
-// The date and time of a report, given on the command line or told by the system's clock.
+// The date and time of a report: given on the command line, or now.
 #pragma once
 
 #include <optional>
@@ -8,10 +8,10 @@
 
 namespace orvik {
 
-// "2026-04-17 09:30:00"; nothing where it is not that form or not a day and time of the calendar.
+// Reads "2026-04-17 09:30:00"; nothing for another form, or for a date or time that does not exist.
 std::optional<ClockTime> ParseDateAndTime(std::string_view text);
 
-// Where the user is.
+// Local time.
 ClockTime DateAndTimeNow();
 
 }  // namespace orvik

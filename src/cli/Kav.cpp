@@ -23,7 +23,7 @@ void AddCommand(CLI::App& app, Commands& commands, CommandRun (*add)(CLI::App&))
   commands.emplace_back(command, std::move(run));
 }
 
-// The parser's texts end with or without a line end; ours always with one.
+// The parser's texts do not always end with a line end; ours do.
 void PrintWhole(std::ostream& stream, const std::string& text) {
   stream << text << (text.ends_with('\n') ? "" : "\n");
 }
@@ -47,9 +47,9 @@ ExitCode ParseAndRun(const std::vector<std::string>& arguments, Console& console
   app.footer(R"(Example:
   kav solve --station Gainesville --rate 0.15 --volume 3
 
-Exit codes: 0 done; 1 the calculation says no, its message is on standard error; 2 wrong usage;
+Exit codes: 0 done; 1 no result, or a check failed (the reason is on standard error); 2 wrong usage;
 3 a file cannot be read or written.)");
-  app.fallthrough();                       // the common options may stand behind the command
+  app.fallthrough();                       // the common options may follow the command
   app.allow_windows_style_options(false);  // "/folder/file" is a path on every system
 
   Commands commands;
@@ -93,14 +93,14 @@ int RunKav(const std::vector<std::string>& arguments, Console& console) {
   } catch (const std::exception& error) {
     PrintMessage(console, std::string("The command could not be finished: ") + error.what());
   }
-  return static_cast<int>(ExitCode::FileTrouble);
+  return static_cast<int>(ExitCode::FileError);
 }
 
-int RunKavToTheEnd(const std::vector<std::string>& arguments, Console& console) {
+int RunKavAndFlush(const std::vector<std::string>& arguments, Console& console) {
   const int exitCode = RunKav(arguments, console);
   if (console.out.flush()) return exitCode;
   PrintMessage(console, "Standard output cannot be written.");
-  return static_cast<int>(ExitCode::FileTrouble);
+  return static_cast<int>(ExitCode::FileError);
 }
 
 }  // namespace orvik

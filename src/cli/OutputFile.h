@@ -1,4 +1,4 @@
-// The files that kav writes: what could not be done is told in a sentence.
+// The files that kav writes; a failure becomes a sentence.
 #pragma once
 
 #include <string>
@@ -6,11 +6,12 @@
 
 namespace orvik {
 
-// Throws FileError where WriteOutputFile would refuse the path without writing anything.
+// Throws FileError where the path cannot be written to, as far as that is known before any work is
+// done.
 void RequireReplaceable(const std::string& path);
 
-// Writes the whole file or nothing of it (base/SafeFile.h). Throws FileError; the file is then as
-// it was.
+// Writes the whole file or nothing of it (base/SafeFile.h). Throws FileError, with the file
+// unchanged.
 void WriteOutputFile(const std::string& path, std::string_view bytes);
 
 // Makes the folder and those above it where they do not exist. Throws FileError.

@@ -18,11 +18,11 @@ std::optional<OpenedProject> OpenProject(Console& console, const std::string& pa
   return std::nullopt;
 }
 
-ExitCode TellResult(Console& console, const OpenedProject& opened) {
-  const std::string why = WhyWithoutResults(opened.project, Sentence(opened.shown));
+ExitCode PrintMissingResult(Console& console, const OpenedProject& opened) {
+  const std::string why = WhyNoResult(opened.project, Sentence(opened.shown));
   if (why.empty()) return ExitCode::Done;
   PrintMessage(console, why);
-  return ExitCode::CalculationSaysNo;
+  return ExitCode::Refused;
 }
 
 }  // namespace orvik

@@ -9,12 +9,13 @@
 
 namespace orvik {
 
-// The project with its results and the curves of its station. Nothing: the console has been told
-// why not.
+// The project with its results and the curves of its station. Nothing where it cannot be opened;
+// the reason has been printed.
 std::optional<OpenedProject> OpenProject(Console& console, const std::string& path,
                                          const std::string& dataFolder);
 
-// Done, or the message that there is no result and CalculationSaysNo.
-ExitCode TellResult(Console& console, const OpenedProject& opened);
+// Prints why the project has no result, if it has none. The exit code: Done with a result, else
+// Refused.
+ExitCode PrintMissingResult(Console& console, const OpenedProject& opened);
 
 }  // namespace orvik

@@ -1,4 +1,4 @@
-// kav report: a project's printed report as a PDF file.
+// kav report: writes a project's printed report as a PDF file.
 #include <memory>
 #include <optional>
 
@@ -45,15 +45,15 @@ std::string MakeReport(const OpenedProject& opened, PaperFormat paper, const Clo
 ExitCode RunReport(Console& console, const CommonOptions& options, const ReportRequest& request) {
   const ClockTime date = request.date.empty() ? DateAndTimeNow() : *ParseDateAndTime(request.date);
   const auto opened = OpenProject(console, request.project, DataFolder(console, options));
-  if (!opened) return ExitCode::FileTrouble;
+  if (!opened) return ExitCode::FileError;
   const PaperFormat paper = request.paper == "a4" ? PaperFormat::A4 : PaperFormat::Letter;
   try {
     WriteOutputFile(request.output, MakeReport(*opened, paper, date));
   } catch (const FileError& error) {
     PrintMessage(console, error.what());
-    return ExitCode::FileTrouble;
+    return ExitCode::FileError;
   }
-  return TellResult(console, *opened);
+  return PrintMissingResult(console, *opened);
 }
 
 }  // namespace
@@ -79,7 +79,7 @@ CommandRun AddReportCommand(CLI::App& app) {
       ->type_name("PAPER")
       ->transform(CLI::IsMember({"letter", "a4"}, CLI::ignore_case));
   command->footer(
-      R"(The report is written for a project without a result too: it tells why, and the exit code is 1.
+      R"(The report is written for a project without a result too: it says why, and the exit code is 1.
 
 Example:
   kav report samples/efficiency.kav -o report.pdf --paper a4)");

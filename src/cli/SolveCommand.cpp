@@ -53,7 +53,7 @@ ExitCode Answer(Console& console, bool json, const FramedCurves& curves, const Q
   }
   if (isSolved) return ExitCode::Done;
   PrintMessage(console, Sentence(message));
-  return ExitCode::CalculationSaysNo;
+  return ExitCode::Refused;
 }
 
 ExitCode RunSolve(Console& console, const CommonOptions& options, const Question& question) {

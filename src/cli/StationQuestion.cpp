@@ -62,14 +62,14 @@ StationAnswer LoadStation(Console& console, const std::string& dataFolder,
   const Message message = MessageOf(loaded.outcome, folder, *station);
   PrintMessage(console, message.id == MessageId::None ? DescribeDamage(folder, *station)
                                                       : Sentence(message));
-  answer.exitCode = ExitCode::FileTrouble;
+  answer.exitCode = ExitCode::FileError;
   return answer;
 }
 
 ExitCode RefuseCurves(Console& console, const std::string& station) {
   PrintMessage(console, "The design curves of " + station +
                             " cannot be used: two of them meet or leave the chart.");
-  return ExitCode::FileTrouble;
+  return ExitCode::FileError;
 }
 
 }  // namespace orvik

@@ -1,4 +1,4 @@
-// A station and up to two known quantities, as commands take them.
+// A station and the quantities that are known, as options of a command.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace orvik {
 
-// What the user asked; an empty text is a quantity that was not given.
+// What the user gave; a quantity that was not given is empty.
 struct Question {
   std::string station;
   std::string R;
@@ -22,13 +22,13 @@ void AddQuestionOptions(CLI::App& command, Question& question);
 
 int CountGiven(const Question& question);
 
-// Answers the question from the two quantities that are given, and fills in the third. The point of
-// the answer: its message says why there is none.
+// Finds the third quantity from the two that are given, and fills it in. The design point; where
+// there is no answer, its message says why.
 DesignPoint Solve(const FramedCurves& curves, Question& question);
 
 // The curves of a station that the user named.
 struct StationAnswer {
-  ExitCode exitCode = ExitCode::Done;  // anything but Done has been said on the console
+  ExitCode exitCode = ExitCode::Done;  // other than Done: the reason has been printed
   std::int16_t station = 0;
   std::string name;  // as the table of stations has it
   std::optional<FramedCurves> curves;
@@ -36,11 +36,11 @@ struct StationAnswer {
 
 StationAnswer LoadStation(Console& console, const std::string& dataFolder, const std::string& name);
 
-// The sentence for a station (1...25) whose file is there, but has no curves that can be used.
-// `folder` is that of the curve files.
+// The sentence for a station (1...25) whose file exists but cannot be used. `folder` is that of the
+// curve files.
 std::string DescribeDamage(const std::string& folder, std::int16_t station);
 
-// Says that the curves of this station led to a numeric fault.
+// Prints that the curves of this station led to a numeric fault.
 ExitCode RefuseCurves(Console& console, const std::string& station);
 
 }  // namespace orvik

@@ -1,4 +1,4 @@
-// kav stations: the climate stations, and which of them have curves.
+// kav stations: lists the climate stations, and which of them have curves.
 #include <iomanip>
 #include <memory>
 #include <nlohmann/json.hpp>

@@ -1,4 +1,4 @@
-// kav on systems whose arguments are UTF-8 already.
+// kav on systems whose arguments are in UTF-8.
 #include <unistd.h>
 
 #include <filesystem>
@@ -20,6 +20,6 @@ std::string ProgramFolder() {
 
 int main(int argc, char** argv) {
   orvik::Console console{std::cout, std::cerr, isatty(STDERR_FILENO) != 0, ProgramFolder()};
-  return orvik::RunKavToTheEnd(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc),
+  return orvik::RunKavAndFlush(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc),
                                console);
 }

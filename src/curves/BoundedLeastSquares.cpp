@@ -11,11 +11,11 @@ using Vector = BoundedLeastSquares::Vector;
 constexpr std::size_t N = BoundedLeastSquares::kUnknowns;
 using Matrix = std::array<Vector, N>;  // rows
 
-constexpr double kTolerance = 1e-10;  // a requirement broken by less counts as met
-constexpr double kSingular = 1e-14;   // share of a diagonal element that rounding alone can leave
-constexpr double kNoShare = 1e-12;    // a normal that takes part by less holds nothing back
-constexpr double kDependent = 1e-18;  // squared length of what a dependent direction leaves
-constexpr int kMostSteps = 1000;      // a dozen are usual
+constexpr double kTolerance = 1e-10;  // a requirement violated by less counts as met
+constexpr double kSingular = 1e-14;  // of a diagonal element: a pivot that rounding alone can leave
+constexpr double kNoShare = 1e-12;   // the coefficient of a normal that does not take part
+constexpr double kDependent = 1e-18;  // squared length that is left of a dependent direction
+constexpr int kMostSteps = 1000;      // a dozen is usual
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 double Dot(const Vector& a, const Vector& b) {
@@ -67,7 +67,8 @@ struct HalfSpace {
   double b;
 };
 
-// The half spaces that hold the point back, at most four, with their forces.
+// The half spaces on whose boundary the point lies, at most four, with their Lagrange multipliers
+// (here called forces).
 struct ActiveSet {
   std::vector<const HalfSpace*> spaces;
   std::vector<double> forces;
@@ -78,7 +79,8 @@ struct ActiveSet {
   }
 };
 
-// A direction split into what the active normals make up (r[i] times normal i) and the rest.
+// A direction, split into a combination of the active normals (r[i] times normal i) and the rest,
+// which is orthogonal to all of them.
 struct Split {
   std::vector<double> r;
   Vector rest;
@@ -88,7 +90,8 @@ Split SplitDirection(const Vector& n, const ActiveSet& active) {
   const std::size_t count = active.spaces.size();
   std::vector<Vector> basis;
   std::vector<std::vector<double>> triangle;
-  for (const HalfSpace* space : active.spaces) {  // Gram and Schmidt, modified
+  // Modified Gram-Schmidt: normal i is the sum of triangle[i][k] times basis[k].
+  for (const HalfSpace* space : active.spaces) {
     Vector v = space->n;
     std::vector<double>& row = triangle.emplace_back();
     for (const Vector& e : basis) {
@@ -105,6 +108,7 @@ Split SplitDirection(const Vector& n, const ActiveSet& active) {
     split.r[i] = Dot(split.rest, basis[i]);
     for (std::size_t k = 0; k < N; ++k) split.rest[k] -= split.r[i] * basis[i][k];
   }
+  // Back substitution: from coefficients of the basis to those of the normals.
   for (std::size_t i = count; i-- > 0;) {
     split.r[i] /= triangle[i][i];
     for (std::size_t k = 0; k < i; ++k) split.r[k] -= split.r[i] * triangle[i][k];
@@ -112,7 +116,7 @@ Split SplitDirection(const Vector& n, const ActiveSet& active) {
   return split;
 }
 
-// Walks from the free minimum to the nearest point of the region.
+// Moves from the unconstrained minimum to the nearest point of the region.
 class NearestPoint {
  public:
   NearestPoint(const Vector& start, const std::vector<HalfSpace>& spaces)
@@ -146,12 +150,14 @@ class NearestPoint {
     return broken;
   }
 
-  // Moves the point towards the half space until it is in, or until one of those that hold it back
-  // must be let go. `force` is that of the half space.
+  // Moves the point towards the half space until it is on its boundary, or until the force of an
+  // active one is used up and that one is dropped. `force` is that of the half space.
   Move Push(const HalfSpace& space, double& force) {
     const Split split = SplitDirection(space.n, active_);
     const double length = Dot(split.rest, split.rest);
+    // n.rest = rest.rest, since the rest is n's own orthogonal part: so far to the boundary.
     const double whole = length > kDependent ? (space.b - Dot(space.n, y_)) / length : kInfinity;
+    // A step lowers each active force by r[i] times its length: so far until the first is 0.
     double part = kInfinity;
     std::size_t dropped = 0;
     for (std::size_t i = 0; i < split.r.size(); ++i) {
@@ -166,6 +172,7 @@ class NearestPoint {
     }
     force += step;
     for (std::size_t i = 0; i < split.r.size(); ++i) {
+      // Never negative by rounding: a force pushes, it does not pull.
       active_.forces[i] = std::max(0.0, active_.forces[i] - step * split.r[i]);
     }
     if (part < whole) {
@@ -197,6 +204,8 @@ void BoundedLeastSquares::Require(const Vector& a, double b) {
 }
 
 std::optional<Vector> BoundedLeastSquares::Solve() const {
+  // With normal = C C^T and y = C^T x the sum is |y - y0|^2 plus a constant, where C y0 = right;
+  // and a.x >= b is n.y >= b with C n = a.
   const auto C = Cholesky(normal_);
   if (!C) return std::nullopt;
   std::vector<HalfSpace> spaces;

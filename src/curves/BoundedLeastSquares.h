@@ -23,10 +23,10 @@ class BoundedLeastSquares {
   // The one minimum. Nothing where the requirements contradict each other or the targets do not
   // determine all unknowns.
   //
-  // In the coordinates in which the sum of squares is a plain distance this is the point of the
-  // allowed region that is nearest to the free minimum. Found by the dual method of Goldfarb and
-  // Idnani (Mathematical Programming 27, 1983): from the free minimum, take in the requirement that
-  // is broken most, drop those that no longer hold the point back. Exact up to rounding.
+  // In coordinates in which the sum of squares is a squared distance this is the point of the
+  // allowed region nearest to the unconstrained minimum. Found by the dual method of Goldfarb and
+  // Idnani (Mathematical Programming 27, 1983): starting at the unconstrained minimum, add the
+  // requirement that is violated most, and drop those that no longer bind. Exact up to rounding.
   std::optional<Vector> Solve() const;
 
  private:

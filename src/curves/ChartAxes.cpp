@@ -8,16 +8,16 @@
 namespace orvik {
 namespace {
 
-constexpr double kWholeSlack = 1e-6;  // a count of steps that is off by less is a whole number
+constexpr double kWholeSlack = 1e-6;  // a number of intervals this close to a whole number is one
 constexpr double kHalfPart = 0.5;
 
-// Parts of an axis: few enough that their numbers stand apart; more only where the usual ones do
-// not come out even.
+// Parts of an axis: few enough to leave room between the numbers; more only where no interval gives
+// up to the usual number of parts.
 constexpr double kFewestParts = 5;
 constexpr double kUsualParts = 10;
 constexpr double kMostParts = 20;
 
-// Powers of ten of the steps that are tried: 5000 down to 0.0001.
+// Powers of ten of the intervals that are tried: from 5000 down to 0.0001.
 constexpr int kMostPower = 3;
 constexpr int kLeastPower = -4;
 

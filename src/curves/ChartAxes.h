@@ -1,4 +1,4 @@
-// The axes of a design chart: limits and the step of their numbers.
+// The axes of a design chart: their limits, and the interval of their numbers.
 #pragma once
 
 #include <optional>
@@ -14,11 +14,11 @@ struct ChartAxes {
   double RInterval = 0.05;
 };
 
-// True when axis numbers at this step end exactly at the end of the range.
+// True when numbers at this interval end exactly at the end of the range.
 bool DividesRange(double range, double interval);
 
-// A round step (1, 2 or 5 times a power of ten) that divides the range, from 0, into 5 to 20 parts;
-// nothing where none does.
+// A round interval (1, 2 or 5 times a power of ten) that divides the range into 5 to 20 parts;
+// nothing where there is none.
 std::optional<double> RoundInterval(double range);
 
 }  // namespace orvik

@@ -12,10 +12,11 @@
 namespace orvik {
 namespace {
 
-// A chart 640 pixels high has some 560 rows: a gap of this share of the range is two of them.
+// In a chart 640 pixels high the frame has some 560 rows: a gap of this share of the range is two
+// of them.
 constexpr double kGapShare = 1.0 / 250;
 constexpr int kPoints = 400;     // volumes at which curves are compared
-constexpr double kSlack = 1e-9;  // inches, and inches per day: what rounding adds to a sample
+constexpr double kSlack = 1e-9;  // inches, and inches per day: what rounding can add to a sample
 
 std::string At(double V) {
   return " at V = " + FixedText(V, 2) + " in";
@@ -67,27 +68,29 @@ class Checker {
       return false;
     }
     if (!(curve.VStart > 0 && curve.VEnd > curve.VStart)) {
-      Say(Name(i) + " does not end at a larger volume than it begins.");
+      Say(Name(i) + " must begin above V = 0 and end at a larger volume.");
       return false;
     }
-    if (!(curve.E > 0 && curve.E <= 100)) Say(Name(i) + " has no efficiency from 0 to 100%.");
+    if (!(curve.E > 0 && curve.E <= 100)) {
+      Say(Name(i) + " has an efficiency that is not between 0 and 100%.");
+    }
     return true;
   }
 
   void CheckFalling(std::size_t i) {
     const EfficiencyCurve& curve = set_.Curves[i];
     if (LargestSlope(curve, curve.VStart, curve.VEnd) < 0) return;
-    Say(Name(i) + " does not fall everywhere: a reuse rate would have several volumes.");
+    Say(Name(i) + " does not fall everywhere: one reuse rate would belong to several volumes.");
   }
 
   void CheckLimits(std::size_t i) {
     const EfficiencyCurve& curve = set_.Curves[i];
     if (curve.VStart < set_.VMin - kSlack || curve.VEnd > set_.VMax + kSlack) {
-      Say(Name(i) + " leaves the volumes of the chart.");
+      Say(Name(i) + " goes beyond the V axis of the chart.");
     }
     const auto [least, most] = std::ranges::minmax(curve.R);
     if (least < set_.RMin - kSlack || most > set_.RMax + kSlack) {
-      Say(Name(i) + " leaves the reuse rates of the chart.");
+      Say(Name(i) + " goes beyond the R axis of the chart.");
     }
   }
 

@@ -1,4 +1,4 @@
-// Checks that a set of design curves can be calculated with.
+// Checks that a set of design curves is fit for calculation.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace orvik {
 
-// One sentence for each rule that the set breaks; none for a good set:
+// One sentence for each violation of these rules; none for a good set:
 // - the axes' intervals divide their ranges into whole steps;
 // - every curve is finite, begins before it ends, falls from VStart to VEnd, and lies within the
 //   axes;

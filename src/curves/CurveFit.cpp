@@ -11,17 +11,18 @@ namespace {
 // The unknowns are the four coefficients of the scaled cubic.
 using Vector = BoundedLeastSquares::Vector;
 
-// A curve falls at least this fast, in R per unit of ln V, wherever it is evaluated.
+// A curve falls at least this fast, in R per unit of ln V, wherever it is evaluated. A curve that
+// only just falls would have no clear V for a rate.
 constexpr double kLeastFall = 2e-4;
 
-// ... and at least this share as fast as the simulated rates do: where a curve is much flatter than
-// the climate, V could be found from R only roughly.
+// ... and at least this share as fast as the simulated rates: V could not be found well from R on a
+// curve much flatter than the climate.
 constexpr double kFallShare = 0.5;
 
-constexpr int kGridPoints = 48;  // volumes at which falling and the gap are required
+constexpr int kGridPoints = 48;  // volumes at which the fall and the gap are required
 
-// The cubic is fitted in z = (L - centre) / halfWidth, which runs from -1 to 1: the five equations
-// of a solution are then far from contradicting each other.
+// The cubic is fitted in z = (L - centre) / halfWidth, which runs from -1 to 1, so that the powers
+// of z are far from linearly dependent and the normal equations are well conditioned.
 struct ScaledLogarithm {
   double centre;
   double halfWidth;
@@ -42,7 +43,7 @@ struct ScaledLogarithm {
     return {0, -1 / halfWidth, -2 * z / halfWidth, -3 * z * z / halfWidth};
   }
 
-  // The coefficients of the cubic in L.
+  // The coefficients of the cubic in L: x[0] + x[1] z + x[2] z^2 + x[3] z^3 multiplied out.
   EfficiencyCurve Unscale(const Vector& x) const {
     const double b = x[1] / halfWidth;
     const double c = x[2] / (halfWidth * halfWidth);
@@ -56,7 +57,7 @@ struct ScaledLogarithm {
   }
 };
 
-// Puts the obligations of one curve into a linear program.
+// Turns the requirements on one curve into targets and inequalities for the least squares.
 class FitProgram {
  public:
   FitProgram(const std::vector<RateBand>& bands, const FitLimits& limits)
@@ -76,13 +77,13 @@ class FitProgram {
   }
 
  private:
-  // Where the curve is evaluated: from its neighbour's VStart, at which points between the two are
-  // located, or its own.
+  // The smallest volume at which the curve is evaluated: where its lower neighbour begins earlier,
+  // points between the two are located from there on.
   static double EvaluatedFrom(const FitLimits& limits) {
     return limits.lower == nullptr ? limits.VStart : std::min(limits.VStart, limits.lower->VStart);
   }
 
-  // The share of the volumes that band i stands for, inches.
+  // The width of the volumes that band i represents, inches.
   double WidthOf(std::size_t i) const {
     const double before = bands_[i == 0 ? 0 : i - 1].V;
     const double after = bands_[std::min(i + 1, bands_.size() - 1)].V;
@@ -92,6 +93,8 @@ class FitProgram {
   void AddBands() {
     for (std::size_t i = 0; i < bands_.size(); ++i) {
       const RateBand& band = bands_[i];
+      // An error in R, divided by the rate of one point of E, is an error in points of E. Squared
+      // and weighted by the width, the errors approximate an integral over V.
       const double ratePerPoint = (band.upper - band.lower) / 2;
       program_.AddTarget(scale_.RateRow(band.V, 1), band.target,
                          WidthOf(i) / (ratePerPoint * ratePerPoint));
@@ -102,7 +105,7 @@ class FitProgram {
     }
   }
 
-  // Between each two volumes, and at the last one, the curve falls with the simulated rates.
+  // Between neighbouring volumes, and at the last one, the curve falls with the simulated rates.
   void RequireFallOfRates() {
     for (std::size_t i = 1; i < bands_.size(); ++i) {
       const double before = std::log(bands_[i - 1].V);
@@ -145,7 +148,7 @@ double LargestSlope(const EfficiencyCurve& curve, double fromV, double toV) {
   const double last = std::log(toV);
   const auto slope = [&](double L) { return curve.B + 2 * curve.C * L + 3 * curve.D * L * L; };
   double largest = std::max(slope(first), slope(last));
-  if (curve.D < 0) {  // the slope is a parabola open below
+  if (curve.D < 0) {  // the slope is a parabola in L with its maximum at -C / 3D
     const double top = -curve.C / (3 * curve.D);
     if (top > first && top < last) largest = std::max(largest, slope(top));
   }

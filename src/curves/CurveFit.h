@@ -1,5 +1,5 @@
 // Fits one design curve R = A + B L + C L^2 + D L^3, L = ln V, to simulated rates: least squares of
-// the errors in efficiency, under a bound on each of them and the curve's other obligations.
+// the errors in efficiency, under a bound on each error and the other requirements on a curve.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace orvik {
 
-// The rates that a curve may pass at one volume without an error of more than one point of E.
+// The rates at one volume between which a curve is off by at most one point of E.
 struct RateBand {
   double V;       // inches on the EIA
   double lower;   // R that reaches E - 1, inches per day on the EIA
@@ -17,20 +17,20 @@ struct RateBand {
   double upper;   // R that reaches E + 1
 };
 
-// What a curve must obey.
+// The requirements on a curve.
 struct FitLimits {
   double MostError = 1;  // points of E at each band
   double VStart = 0;     // inches on the EIA
   double VEnd = 0;
   double MostR = 0;                        // at VStart, inches per day on the EIA
   double LeastR = 0;                       // at VEnd
-  const EfficiencyCurve* lower = nullptr;  // the neighbour below, if there is one
+  const EfficiencyCurve* lower = nullptr;  // the neighbouring curve of lower E, if there is one
   double Gap = 0;  // the least distance in R above it, from its own VStart on
 };
 
 // The curve falls everywhere from VStart (its neighbour's, where that is smaller) to VEnd. `bands`
 // are those of volumes from VStart to VEnd, by rising volume. The result has no E and is not
-// sampled. Nothing where no curve obeys the limits.
+// sampled. Nothing where no curve keeps the limits.
 std::optional<EfficiencyCurve> FitCurve(const std::vector<RateBand>& bands,
                                         const FitLimits& limits);
 

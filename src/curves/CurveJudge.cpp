@@ -7,7 +7,7 @@ namespace orvik {
 namespace {
 
 constexpr double kStepV = 0.05;      // inches
-constexpr double kStepSlack = 1e-9;  // of a step: a rounding error makes no further one
+constexpr double kStepSlack = 1e-9;  // of a step: rounding must not add another one
 constexpr double kMostSteps = 2000;  // for curves beyond any chart
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Judges a design curve in the unit that matters: the efficiency that a simulation finds along it.
+// Judges a design curve by the efficiency that a simulation finds along it.
 #pragma once
 
 #include <vector>
@@ -15,7 +15,7 @@ struct CurveError {
 };
 
 // Volumes (inches on the EIA) from `first` to `last` in equal steps of at most 0.05 (longer only
-// where the range exceeds 100 inches); both ends included.
+// for ranges above 100 inches), both ends included.
 std::vector<double> JudgedVolumes(double first, double last);
 
 // Simulates at (V, R on the curve) from VStart to VEnd.

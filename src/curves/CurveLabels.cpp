@@ -17,7 +17,7 @@ constexpr double kLineHeightR = 1.15 * kLabelHeight;
 constexpr double kCharacterShape = 0.58;  // width of a character over the height of the text
 constexpr double kClearanceR = 0.0012;    // between a label and its own curve
 constexpr double kEnoughRoomR = 0.003;    // above a label
-constexpr double kNearlyR = 0.0001;       // less than a pixel of a common chart
+constexpr double kNearlyR = 0.0001;       // less than a pixel in a chart of usual size
 constexpr double kColumnShare = 0.5;      // of the V axis
 constexpr double kDecimals = 1e4;         // positions are written with four decimals
 
@@ -31,18 +31,19 @@ double RoundPosition(double value) {
   return std::round(value * kDecimals) / kDecimals;
 }
 
-// Room in R above a label that stands on curve i at V; negative where it does not fit.
+// Room in R above a label on curve i at V; negative where the label does not fit.
 double RoomAbove(const CurveSet& set, std::size_t i, double V, double width) {
   const double top = CurveR(V, set.Curves[i]) + kClearanceR + kLineHeightR;
   const double frame = set.RMax - top;
   if (i + 1 >= set.Curves.size()) return frame;
   const EfficiencyCurve& next = set.Curves[i + 1];
+  // The next curve falls too: it comes closest at the label's right end.
   const double right = std::clamp(V + width, next.VStart, next.VEnd);
   return std::min(frame, CurveR(right, next) - top);
 }
 
-// V of curve i's label: of the places with enough room (or, where none has, with nearly as much as
-// the best) the one nearest to the column in which the labels stand.
+// V of curve i's label: of the places with enough room (or, where there is none, with nearly as
+// much as the best) the one nearest to the labels' common column.
 double LabelV(const CurveSet& set, std::size_t i, double width) {
   const EfficiencyCurve& curve = set.Curves[i];
   const double last = std::max(curve.VStart, std::min(curve.VEnd, set.VMax) - width);

@@ -26,35 +26,35 @@ constexpr std::size_t kVolumes = 48;  // of the table
 constexpr std::size_t kRates = 60;
 constexpr std::size_t kFittedVolumes = 32;
 
-// The fit sees the error at some volumes only and in a straight line between three rates, so the
-// bound that it gets is tried a little above and below what is accepted.
+// The fit knows the error only at some volumes, and takes it as linear between three rates. So the
+// bounds that it is given are tried from a little above to a little below what is accepted.
 constexpr double kBounds[] = {1.04, 0.98, 0.92};
 
-// A curve is judged in steps of the volume; between two of them it may be a little worse, and keeps
-// the promised limits there too.
+// A curve is judged at steps of the volume. Between two of them it may be a little worse: the
+// margin keeps it within the promised limits there too.
 constexpr double kAcceptedShare = 0.985;
 constexpr double kAcceptedError = kAcceptedShare * kMostError;
 constexpr double kAcceptedMeanError = kAcceptedShare * kMostMeanError;
 
-// The table's rates. No pond reaches E at a rate below E percent of the mean runoff: the table
-// begins at nine tenths of that, for an E below the lowest curve's. It ends beyond the axis, where
-// it still shows by how much a curve misses the chart.
+// The table's rates. No pond reaches E at a rate below E percent of the mean runoff, so the table
+// begins at nine tenths of that rate for the E one step below the lowest curve. It ends beyond the
+// axis, to show by how much a curve misses the chart.
 constexpr double kLeastRatePerPoint = 0.009;  // of the mean runoff, for each percent of E
 constexpr double kMostRateShare = 1.5;        // of the R axis
 
-// What the rounding of the written coefficients can add to R: half a millionth for each of
-// 1 + L + L^2 + L^3, which is 14 at V = 7.
+// What rounding the coefficients to six decimals can add to R: half a millionth times 1 + L + L^2 +
+// L^3, which is 14 at V = 7.
 constexpr double kRoundingR = 1e-5;
 
-// R at the end of a curve lies above E x mean runoff by this factor, so that rounding leaves it
-// there.
+// At the end of a curve R is above E x mean runoff by this factor, so that rounding cannot take it
+// below.
 constexpr double kAboveRunoff = 1.001;
 
-// Of the distance that the mean runoff would set between two curves.
+// The least gap between two curves, as a share of the mean runoff times the step of E.
 constexpr double kGapShare = 0.5;
 
-// A curve that needs less than this share of the R axis has room: then it is the accuracy that
-// fails.
+// A curve that needs less than this share of the R axis has room there: then it is the accuracy
+// that cannot be reached.
 constexpr double kRoomyShare = 0.9;
 
 constexpr int kRateDecimals = 3;             // of the rates in sentences
@@ -69,7 +69,7 @@ EfficiencyCurve AsWritten(EfficiencyCurve curve, int E) {
   return curve;
 }
 
-// Rates that the fit can want; over a factor of two at least, where the axis ends below them.
+// The rates that the fit can need. Where the axis ends below them, they still span a factor of two.
 std::vector<double> TableRates(const PondDays& days, const ChartAxes& axes) {
   const double most = kMostRateShare * axes.RMax;
   const double least = kLeastRatePerPoint * (kFirstE - kStepE) * days.MeanRunoff();
@@ -107,7 +107,7 @@ class Maker {
 
   int LastStep() const { return StepOf(axes_.VMax - kShortestRange); }
 
-  // Makes the curve that starts at this step and is fitted under this bound, if it is good.
+  // Adds the curve that starts at this step and is fitted under this bound, if it is accepted.
   bool MakeFrom(int E, const std::vector<RateBand>& bands, const EfficiencyCurve* lower, int step,
                 double bound, MadeCurves& made) const {
     const auto fitted = Fit(E, bands, lower, step, bound);
@@ -127,7 +127,7 @@ class Maker {
            LargestSlope(curve, curve.VStart, curve.VEnd) < 0;
   }
 
-  // The bands of all volumes of the table at which the table's rates reach E.
+  // The bands of the table's volumes, where its rates reach E.
   std::vector<RateBand> FindBands(int E) const {
     std::vector<RateBand> bands;
     for (std::size_t v = 0; v < table_.V().size(); ++v) {
@@ -139,8 +139,8 @@ class Maker {
     return bands;
   }
 
-  // The band at V; between two volumes of the table the rates follow a power law closely. Nothing
-  // where the table does not reach E.
+  // The band at V. Between two volumes of the table the rates follow a power law closely, so their
+  // logarithms are interpolated over ln V. Nothing where the table does not reach E.
   static std::optional<RateBand> BandAt(const std::vector<RateBand>& bands, double V) {
     const auto next = std::ranges::lower_bound(bands, V, {}, &RateBand::V);
     if (next == bands.end() || (next == bands.begin() && next->V > V)) return std::nullopt;
@@ -152,7 +152,7 @@ class Maker {
                     between(before.upper, next->upper)};
   }
 
-  // Bands from V to the end of the axis, as many for a short range as for a long one.
+  // Bands from V to the end of the axis, the same number for a short range as for a long one.
   std::vector<RateBand> BandsFrom(const std::vector<RateBand>& bands, double V) const {
     std::vector<RateBand> result;
     for (const double volume : GeometricSteps(V, axes_.VMax, kFittedVolumes)) {
@@ -178,8 +178,8 @@ class Maker {
                            .Gap = kGapShare * kStepE * asymptote});
   }
 
-  // The first start volume at which there is a curve within the widest bound. One that starts later
-  // has less to obey, so there is one for all later starts.
+  // The first start volume from which there is a curve within the widest bound. A later start has
+  // fewer requirements, so there is a curve for every later one too, and bisection finds the first.
   int FirstPromising(int E, const std::vector<RateBand>& bands,
                      const EfficiencyCurve* lower) const {
     int low = lower == nullptr ? 1 : StepOf(lower->VStart);
@@ -201,7 +201,7 @@ class Maker {
     const std::string text = "No curve for E = " + std::to_string(E) + "% fits within " + limits;
     const auto needed = table_.RateAt(table_.V().size() - 1, E);
     if (needed && *needed < kRoomyShare * axes_.RMax) {
-      throw AxesTooSmall(text + " with the accuracy that is asked.", AxisRemedy::LargerRMaxOrVMax);
+      throw AxesTooSmall(text + " with the required accuracy.", AxisRemedy::LargerRMaxOrVMax);
     }
     if (!needed) {
       throw AxesTooSmall(text + ": at the largest volume even R = " + RateText(table_.MostR()) +
@@ -210,7 +210,7 @@ class Maker {
     }
     const std::string rate =
         ": at the largest volume it needs R = " + RateText(*needed) + " in/day";
-    // As printed: a rate that rounds to the end of the axis does not lie above it.
+    // Compared as printed: a rate that rounds to the end of the axis is not above it.
     if (*needed < axes_.RMax + kHalfLastDecimal) {
       throw AxesTooSmall(text + rate + ", which leaves too little of the V axis.",
                          AxisRemedy::LargerRMaxOrVMax);

@@ -12,11 +12,11 @@
 
 namespace orvik {
 
-// No curve deviates by more from what a simulation finds, percentage points of E.
+// The limits for a curve's deviation from a simulation along it, percentage points of E.
 inline constexpr double kMostError = 1.0;
 inline constexpr double kMostMeanError = 0.6;
 
-// What would give a curve its room.
+// What would make room for the curve.
 enum class AxisRemedy { LargerRMax, LargerRMaxOrVMax };
 
 // The axes have no room for one of the curves.
@@ -36,10 +36,10 @@ struct MadeCurves {
   std::vector<CurveError> Errors;  // one for each curve
 };
 
-// Curves for E = 50, 55 ... 95 percent, each from the smallest volume (in steps of 0.05 inch) at
-// which it keeps the two limits of error, stays within the axes, falls, and keeps its distance from
-// the curve below. The whole set passes CheckCurves. Throws AxesTooSmall, naming the efficiency,
-// where there is no such curve, and Refusal where the set does not pass.
+// Curves for E = 50, 55 ... 95 percent, each beginning at the smallest volume (in steps of 0.05
+// inch) from which it keeps both limits of error, stays within the axes, falls, and keeps its
+// distance from the curve below. The whole set passes CheckCurves. Throws AxesTooSmall, naming the
+// efficiency, where there is no such curve, and Refusal where the set does not pass.
 MadeCurves MakeCurves(const PondDays& days, const ChartAxes& axes, const std::string& title);
 
 }  // namespace orvik

@@ -1,5 +1,5 @@
-// Simulated efficiency over a grid of storage volumes and reuse rates, and the rates at which it
-// takes a given value.
+// Simulated efficiency over a grid of storage volumes and reuse rates, and the rates that reach a
+// given efficiency.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@ namespace orvik {
 class EfficiencyTable {
  public:
   // Simulates the grid. V (inches on the EIA) and R (inches per day on the EIA) are positive and
-  // rise.
+  // rising.
   EfficiencyTable(const PondDays& days, std::vector<double> V, std::vector<double> R);
 
   const std::vector<double>& V() const { return V_; }
@@ -28,7 +28,7 @@ class EfficiencyTable {
 
   std::vector<double> V_;
   std::vector<double> R_;
-  std::vector<double> E_;  // percent; the rates of one volume stand together
+  std::vector<double> E_;  // percent; the rates of one volume are contiguous
 };
 
 // `count` values from `first` to `last`, each the same multiple of the one before.

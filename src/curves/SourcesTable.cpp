@@ -40,8 +40,8 @@ std::string FindingsIntroduction() {
 Years left out miss more than )" +
          std::to_string(kMostMissingDays) +
          R"( days; days missing in the usable years count as dry. The other numbers are those of the
-whole record: rows without a depth, gaps between rows and the days in them, rows whose date stood before (the first value
-counts), those of them with another depth, and negative depths, which are taken as missing.
+whole record: rows without a depth, gaps between rows and the days in them, rows that repeat a date (the first value
+counts), those of them with a different depth, and negative depths, which are taken as missing.
 
 | station | years left out | missing days | rows without depth | gaps | days in gaps | duplicates | conflicts | negatives |
 | --- | --: | --: | --: | --: | --: | --: | --: | --: |

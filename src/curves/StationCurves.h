@@ -15,19 +15,19 @@ namespace orvik {
 
 struct StationCurves {
   std::int16_t Station = 0;  // 1...25
-  RainRecord Record;         // its days are dropped, the findings kept
+  RainRecord Record;         // without its days, to save memory
   RainYears Years;           // likewise
   PondOptions Options;       // that they were made with
   MadeCurves Made;
 };
 
-// Makes the curves of a station from `<rainFolder><station>.csv`, in inches. `rainFolder` ends with
-// a separator. Throws FileError, naming the file, and Refusal.
+// Makes the curves of a station from `<rainFolder><station>.csv`, whose depths are in inches.
+// `rainFolder` ends with a separator. Throws FileError, naming the file, and Refusal.
 StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t station,
                                 const PondOptions& options, const ChartAxes& axes);
 
-// What the curves were made from and how well they fit, as the text of a Markdown file. `madeBy`
-// says what writes it and the curve files, in Markdown: "`kav curves ...`".
+// What the curves were made from and how well they fit, as the text of a Markdown file. `madeBy` is
+// the command that writes it and the curve files, in Markdown: "`kav curves ...`".
 std::string SourcesTable(const std::vector<StationCurves>& stations, std::string_view madeBy);
 
 }  // namespace orvik

@@ -1,4 +1,4 @@
-// Which rainfall record stands for each climate station.
+// The rainfall record of each climate station.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 namespace orvik {
 
 struct StationSource {
-  std::string_view RecordOf;    // the neighbour whose record stands in; empty: its own
+  std::string_view RecordOf;    // the neighbour whose record is used; empty: its own
   std::string_view NoaaNumber;  // cooperative-observer number(s) of NOAA, or its station id
 };
 
@@ -23,7 +23,7 @@ const StationSource& SourceOfStation(std::int16_t station);
 std::string SourceText(const StationSource& source);
 
 // The first line of a curve file: "<name> - computed by ORVIK from <source>, 1949-2021, 62 usable
-// years", and what is not 0 of ", hold-off 2 days" and ", abstraction 0.1 in".
+// years", followed by ", hold-off 2 days" and ", abstraction 0.1 in" where they are not 0.
 std::string CurveTitle(std::string_view name, std::string_view source, const RainRecord& record,
                        const RainYears& years, const PondOptions& options);
 

@@ -40,7 +40,7 @@ struct Areas {
   float irrigation;
 };
 
-// One run. What it writes stands in the result from then on, also where it ends early.
+// One run. What it has written stays in the result, even if it ends early.
 class Calculation {
  public:
   Calculation(const Project& project, const FramedCurves* curves)

@@ -1,4 +1,4 @@
-// The design point of a project: where it lies on the design chart, and what came of the last
+// The design point of a project: where it lies on the design chart, and the outcome of the last
 // question about it.
 #pragma once
 
@@ -34,7 +34,7 @@ struct DesignPoint {
 void PlaceAt(DesignPoint& point, double V, double R, const PlotGeometry& geometry);
 void MoveBy(DesignPoint& point, int dX, int dY, const PlotGeometry& geometry);
 
-// Takes its E away, which was that of other curves or another place.
+// Forgets its E, which was found on other curves or at another place.
 void ForgetE(DesignPoint& point);
 
 // Finds E where the point lies. False, with E undefined and the reason in its message, where it

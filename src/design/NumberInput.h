@@ -23,7 +23,7 @@ enum class Range : unsigned char {
   AnyNumber,
 };
 
-// A quantity that a calculation needs, and what the user is told where it does not pass.
+// A quantity that a calculation needs, and the messages for values that do not pass.
 struct QuantityCheck {
   MessageId empty;
   MessageId notNumeric;
@@ -37,7 +37,7 @@ struct QuantityCheck {
 std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& check,
                                    Message& message);
 
-// What the user is told of a numeric fault that the checks could not foresee.
+// The message for a numeric fault that the checks could not foresee.
 Message NumericFaultMessage(const NumericError& fault);
 
 }  // namespace orvik

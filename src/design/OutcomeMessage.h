@@ -1,4 +1,4 @@
-// How an outcome of the solver is told to the user.
+// The messages that show outcomes to the user.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// A project as a value: what stands in its fields, as texts, and where its design point lies.
+// A project as a value: the texts of its fields, and where its design point lies.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ struct Project {
   // What the field shows, without the blanks around it.
   std::string Trimmed(Field field) const;
 
-  // Where nothing else is said, the mode tells whether the user places the point.
+  // The mode decides whether the user places the point, unless that is set otherwise.
   void Mode(SolveFor chosen) {
     mode = chosen;
     takesPointByHand = chosen == SolveFor::Interactive;

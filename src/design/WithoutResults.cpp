@@ -2,7 +2,7 @@
 
 namespace orvik {
 
-std::string WhyWithoutResults(const Project& project, const std::string& shown) {
+std::string WhyNoResult(const Project& project, const std::string& shown) {
   if (!shown.empty()) return shown;
   if (project.mode == SolveFor::None) return Sentence({MessageId::NoModeChosen});
   if (project.mode == SolveFor::Interactive && !project.point.isShown) {

@@ -6,7 +6,7 @@
 namespace orvik {
 
 // The message that the error bar shows; without one, what has not been chosen or placed yet. Empty
-// where the results are there.
-std::string WhyWithoutResults(const Project& project, const std::string& shown);
+// where there are results.
+std::string WhyNoResult(const Project& project, const std::string& shown);
 
 }  // namespace orvik

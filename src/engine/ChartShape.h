@@ -1,4 +1,4 @@
-// The chart's measures that a curve set depends on too: its labels are placed for them.
+// The measures of the chart that a curve set depends on, since its labels are placed for them.
 #pragma once
 
 namespace orvik {

@@ -7,8 +7,8 @@
 
 namespace orvik {
 
-// Coefficients are written with this many decimals: enough for 0.00001 in/day on the curve, few
-// enough that the last bit of a processor's logarithm does not show.
+// Coefficients are written with this many decimals: enough for 0.00001 in/day on the curve, and few
+// enough to hide the last bit, in which the logarithms of systems differ.
 inline constexpr int kCoefficientDecimals = 6;
 
 // The number that a coefficient reads back as.

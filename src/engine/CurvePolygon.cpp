@@ -17,7 +17,8 @@ bool CrossesEdge(std::int16_t X, std::int16_t Y, std::int16_t X1, std::int16_t Y
   if (Y1 == Y2 || Y < std::min(Y1, Y2) || Y >= std::max(Y1, Y2) || X > std::max(X1, X2)) {
     return false;
   }
-  if (X1 == X2) return true;
+  if (X1 == X2) return true;  // upright, and X is not to its right
+  // Where the edge crosses row Y, in double precision: the product exceeds 16 bits.
   const double rise = static_cast<double>(Y) - Y1;
   const double crossing =
       rise * (static_cast<double>(X2) - X1) / (static_cast<double>(Y2) - Y1) + X1;

@@ -16,7 +16,7 @@ struct FramePixel {
 // Pixels that the design point's mark reaches each way.
 inline constexpr std::int16_t kMarkReach = 7;
 
-// The pixel, if the mark round it lies within 16-bit pixels too. Throws OverflowError otherwise.
+// The pixel, if the mark around it lies within 16-bit pixels too. Throws OverflowError otherwise.
 FramePixel WithRoomForMark(FramePixel pixel);
 
 // The pixel of V (inches on the EIA) and R (inches per day on the EIA). Throws OverflowError where

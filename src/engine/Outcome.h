@@ -1,4 +1,4 @@
-// What came of a design question, and the limit that refused it.
+// The outcome of a design question, and the limit at which it was refused.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ enum class OutcomeKind : std::uint8_t {
   NoCurve,                // there is no curve of this E
   RateOffCurve,           // R is not on the curve of E; the limit is the R of its nearer end
   VolumeBelowCurve,       // V lies before the curve of E begins; the limit is its VStart
-  VolumeAboveCurve,       // V lies behind the end of the curve of E; the limit is its VEnd
+  VolumeAboveCurve,       // V lies beyond the end of the curve of E; the limit is its VEnd
 };
 
 struct Outcome {

@@ -42,6 +42,7 @@ struct Extents {
 
 Extents FitExtents(double usableWidth, double usableHeight, double aboveUnits, double plotUnits,
                    double belowUnits) {
+  // The bands are as many units of R high as the texts in them, so all heights share one scale.
   const double sum = aboveUnits + plotUnits + belowUnits;
   double height = usableHeight * (plotUnits / sum);
   double width = height * kFrameShape;

@@ -25,7 +25,7 @@ struct Answer {
   std::optional<Solution> solution;  // where the outcome is Solved
 };
 
-// Asks the curves, which outlive it; null: none are loaded, and nothing can be solved. Numeric
+// `curves` outlives the solver; null means that none are loaded, and nothing can be solved. Numeric
 // faults of unusable curves (two that meet, samples beyond 16-bit pixels) are thrown as
 // NumericError. Nothing is kept from one question to the next.
 class Solver {

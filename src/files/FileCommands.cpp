@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kProjectFilter =
     "All Files (*.*)|*.*|ORVIK Stormwater Harvesting (*.kav)|*.kav|";
-// Behind the product's name.
+// Follows the product's name.
 constexpr std::string_view kUntitledCaption = " Stormwater Harvesting - [untitled]";
 constexpr int kProjectFiles = 2;  // the filter's second pair
 
@@ -21,7 +21,7 @@ constexpr int kProjectFiles = 2;  // the filter's second pair
 
 void FileCommands::New() {
   ClearData();
-  TellReplaced();
+  RaiseProjectReplaced();
 }
 
 void FileCommands::Open() {
@@ -65,7 +65,7 @@ bool FileCommands::LoadFile(std::string_view path) {
   if (!stream.OpenFile(name, enumIOStreamMode::AsciiFileInput)) return false;
   const bool isRead = file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
-  TellReplaced();
+  RaiseProjectReplaced();
   currentPath_ = name;
   currentFolder_ = FolderOf(name);
   ShowFileName(name);
@@ -76,14 +76,14 @@ bool FileCommands::ReadFile(std::string_view text) {
   const std::string project(text);
   ClearData();
   if (project.empty()) {
-    TellReplaced();
+    RaiseProjectReplaced();
     return false;
   }
   clsIOStream stream;
   const bool isRead = stream.OpenFile(project, enumIOStreamMode::AsciiBufferInput) &&
                       file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
-  TellReplaced();
+  RaiseProjectReplaced();
   if (!isRead) desktop_.ShowError(Sentence({MessageId::ProjectTextUnreadable}));
   workflow_.ReCalc();
   return isRead;
@@ -152,7 +152,7 @@ void FileCommands::ShowFileName(std::string_view path) {
   form_.window->Caption(std::string(kProductName) + " KAV - " + FileNameOf(path));
 }
 
-void FileCommands::TellReplaced() {
+void FileCommands::RaiseProjectReplaced() {
   if (OnProjectReplaced) OnProjectReplaced();
 }
 

@@ -1,5 +1,5 @@
-// The commands of the File menu and what stands behind them: choosing a file, reading and saving a
-// project, the window's caption and the current file.
+// The commands of the File menu and what they use: choosing a file, reading and saving a project,
+// the window's caption and the current file.
 #pragma once
 
 #include <functional>
@@ -34,15 +34,15 @@ class FileCommands {
   // An empty, untitled project on the data page.
   void ClearData();
 
-  // Reads the project at `path`, which becomes the current file whatever the reading gave. Its
-  // result; shows no message of its own.
+  // Reads the project at `path`, which becomes the current file whether or not the reading
+  // succeeds; returns its result. Shows no message of its own.
   bool LoadFile(std::string_view path);
 
   // Reads a project handed over as text. "Error reading data." where it cannot be read. False also,
   // but silently, for an empty text.
   bool ReadFile(std::string_view text);
 
-  // Saves the project. The file that was there stays as it is until the new one is whole; nothing
+  // Saves the project. The old file stays as it is until the new one is complete; nothing
   // half-written remains. False, without a message, where that fails.
   bool SaveFile(const std::string& path);
 
@@ -57,13 +57,14 @@ class FileCommands {
   // Where the dialogs start as long as no file was opened or saved; empty for none.
   void DefaultFolder(std::string folder) { defaultFolder_ = std::move(folder); }
 
-  // The user's documents folder; empty, and the reason in `error`, where the system cannot tell it.
+  // The user's documents folder; empty, and the reason in `error`, where the system does not know
+  // it.
   std::string GetMyDocumentsFolder(std::string& error);
 
-  // The project is about to be saved: what the window shows can still be brought in line with it.
+  // Raised before the project is saved, so that the window can show exactly what will be saved.
   std::function<void()> OnSaving;
 
-  // The fields hold another project now, or what could be read of it.
+  // Raised when the fields hold another project, or what could be read of one.
   std::function<void()> OnProjectReplaced;
 
   const std::string& CurrentPath() const { return currentPath_; }  // empty: untitled
@@ -72,7 +73,7 @@ class FileCommands {
   FileDialog ProjectDialog();
   std::string StartFolder();
   void ShowFileName(std::string_view path);
-  void TellReplaced();
+  void RaiseProjectReplaced();
 
   ProjectForm& form_;
   SolveForWorkflow& workflow_;

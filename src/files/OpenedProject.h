@@ -12,7 +12,7 @@ namespace orvik {
 
 struct OpenedProject {
   bool isRead = false;  // as a whole
-  // What a window would have told in message boxes while it was opened, in their order.
+  // The message boxes that a window would have shown on opening it, in their order.
   std::vector<Message> messages;
   LoadedCurves station;                // Cleared where the project has no station
   std::optional<FramedCurves> curves;  // of the station, in the frame without a window

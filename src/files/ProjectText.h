@@ -27,7 +27,7 @@ struct StoredPoint {
   std::string V;
 };
 
-// What could be read of a project, in the order of its lines; what comes behind the first fault has
+// What could be read of a project, in the order of its lines; what comes after the first fault has
 // no value.
 struct ProjectReading {
   std::array<std::optional<std::string>, kFields> texts;  // by Field

@@ -1,4 +1,4 @@
-// Colours as the platform writes them: 0x00BBGGRR, or 0x80000000 + the number of a system colour.
+// Colours in the byte order of Windows: 0x00BBGGRR, or 0x80000000 + the number of a system colour.
 #pragma once
 
 #include <cstdint>

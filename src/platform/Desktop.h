@@ -1,5 +1,5 @@
-// What the module asks of the user's desktop. The real one lies in win32/, a twin without a screen
-// in headless/.
+// What the module asks of the user's desktop. The real one is in win32/, a twin without a screen in
+// headless/.
 #pragma once
 
 #include <cstdint>
@@ -21,7 +21,7 @@ struct FileDialog {
   std::string filter;            // pairs of description and pattern, each ended by "|"
   int filterIndex = 1;           // 1-based: the pair that is preselected
   std::string startFolder;       // empty: the system's own choice
-  std::string defaultExtension;  // put on where the user types a name without one; no period
+  std::string defaultExtension;  // appended to a name that the user types without one; no period
   bool overwritePrompt = false;  // ask before an existing file is chosen for saving
   bool hideReadOnly = false;     // no "open as read-only" box
   bool explorerStyle = false;
@@ -31,7 +31,7 @@ struct FileDialog {
 
 enum class PageOpening : std::uint8_t {
   Opened,
-  NoProgram,  // no program is known that opens such a file
+  NoProgram,  // no program is registered for such files
   Failed,
 };
 
@@ -67,7 +67,7 @@ class Desktop {
   // Shows a message with an OK button and waits until it is read.
   virtual void ShowMessage(std::string_view text, std::string_view title, MessageIcon icon) = 0;
 
-  // A message of what went wrong.
+  // Shows what went wrong.
   void ShowError(std::string_view text) { ShowMessage(text, "Error", MessageIcon::Exclamation); }
 
   // Asks a question with the buttons Yes and No; true for Yes.
@@ -83,21 +83,20 @@ class Desktop {
   // The user's personal documents folder; nothing where the system cannot tell it.
   virtual std::optional<std::string> DocumentsFolder() = 0;
 
-  // The date of today where the user is.
+  // Today's date in the user's time zone.
   virtual CalendarDate Today() = 0;
 
-  // Opens a file with the program that the user reads such pages with.
+  // Opens a help page in the user's browser.
   virtual PageOpening OpenPage(const std::string& path) = 0;
 
-  // The picture of a file in a format that the system reads, PNG among them, on white where it is
-  // transparent. Nothing where there is no such file, or one that is damaged or too large.
+  // Reads a picture file of a format that the system knows (PNG among them); transparent parts
+  // become white. Nothing where the file is missing, damaged or too large.
   virtual std::optional<Picture> ReadPicture(const std::string& path) = 0;
 
-  // Puts the content in place of what the clipboard holds. False where another program keeps the
-  // clipboard to itself.
+  // Replaces what is on the clipboard. False where another program keeps the clipboard open.
   virtual bool CopyToClipboard(const ClipboardContent& content) = 0;
 
-  // The date and the time of day where the user is.
+  // Date and time of day in the user's time zone.
   virtual ClockTime Now() = 0;
 
   // The user's default printer; null where no printer can be reached.

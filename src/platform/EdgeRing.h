@@ -1,4 +1,4 @@
-// One ring of the 3-D edges that the drawn controls have: light from the upper left.
+// One ring of the 3-D edge of a drawn control, lit from the upper left.
 #pragma once
 
 #include "platform/Surface.h"

@@ -1,4 +1,4 @@
-// How the widgets of a form lie in its window, as data for a toolkit that has a screen.
+// How the widgets of a form are laid out in its window, as data for a toolkit that has a screen.
 //
 // The toolkit asks for the layout again whenever the window's size, scaling or font changes.
 #pragma once
@@ -18,14 +18,14 @@ enum class WidgetStyle : std::uint8_t {
   Heading,    // a label in bold letters
   Wrapped,    // a text box over several lines of the screen; its text stays one line
   Separated,  // a menu item with a line above it
-  Bare,       // a text box without a frame, to copy from what looks like a label
+  Bare,       // a text box without a frame: looks like a label, and its text can be copied
 };
 
 // What a user can do to the window's frame.
 enum class WindowFrame : std::uint8_t {
-  Main,      // any size, also the whole screen or none of it
-  Sizable,   // any size, also the whole screen
-  FixedSize  // none but its initial one
+  Main,      // any size; can be maximised and minimised
+  Sizable,   // any size; can be maximised
+  FixedSize  // keeps its initial size
 };
 
 // The rows of a form: widgets in the order in which the Tab key and a reader meet them (a label

@@ -1,8 +1,8 @@
 // The printing seam: a surface that has pages, a current font and a current position.
 //
 // Coordinates are pixels of the printer, counted from the upper left corner of the paper; what lies
-// outside the printable area is lost. A printer that goes before its document was ended gives the
-// document up: nothing of it is kept.
+// outside the printable area is lost. A printer that is destroyed before its document is ended
+// discards the document.
 #pragma once
 
 #include <cmath>
@@ -22,7 +22,7 @@ class PrinterError : public std::runtime_error {
 
 enum class DocumentStart : std::uint8_t {
   Started,
-  CalledOff,    // the user was asked something and said no
+  CalledOff,    // the user cancelled
   Unreachable,  // there is no connection with the printer
 };
 

@@ -8,8 +8,8 @@
 namespace orvik {
 
 // Pixels to the inch for a device with `devicePerInch` and paper whose longer side has this many
-// inches: the device's own, but at most 1200, which no eye tells from finer ones, and no more than
-// let every place on the paper fit 16 bits (27.3 inches at 1200). At least 1.
+// inches: the device's own, but at most 1200, since no eye can tell finer ones apart, and no more
+// than let every position on the paper fit in 16 bits (27.3 inches at 1200). At least 1.
 inline int PrinterPixelsPerInch(int devicePerInch, double longerSide) {
   constexpr double kFinest = 1200;
   const double mostPixels = std::numeric_limits<std::int16_t>::max();

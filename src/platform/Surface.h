@@ -2,7 +2,7 @@
 // file or a page.
 //
 // Whole pixels, y down. No state: every call carries its pen, font and colour; only clips nest.
-// What a back end cannot do is asked with Supports; nothing throws for it.
+// Supports says what a back end cannot do; nothing throws for it.
 #pragma once
 
 #include <algorithm>
@@ -52,8 +52,8 @@ enum class DrawMode : std::uint8_t {
 
 // What lines are drawn with. A wide line ends flat at its first and last point. Where slanting
 // lines meet, the corner is round or bevelled, and that of level and upright lines may be left
-// open, as the back end does it best: at our widths of a few pixels the difference does not show,
-// and nobody may count on one of them. In ExclusiveOr mode a wide pen may be square instead, and
+// open, whichever the back end does best: at our widths of a few pixels the difference does not
+// show, and no caller may rely on it. In ExclusiveOr mode a wide pen may be square instead, and
 // reach half its width beyond the ends.
 struct Pen {
   Colour colour = kBlack;
@@ -71,7 +71,8 @@ struct Font {
   bool strikethrough = false;
 };
 
-// Pixels row by row from the top, 0x00RRGGBB: as many as the size says.
+// Pixels row by row from the top, 0x00RRGGBB (not in the byte order of Colour); as many as the size
+// says.
 struct Picture {
   Size size;
   std::vector<std::uint32_t> pixels;

@@ -1,10 +1,10 @@
-// The few widgets that the form needs. On Windows each stands on a native control, which is the
-// only store of its value; without a screen a small twin in memory serves. Nothing above keeps a
-// second copy of a value.
+// The few widgets that the form needs. On Windows each is a native control, which is the only store
+// of its value; without a screen it is a small twin in memory. No code above keeps a second copy of
+// a value.
 //
-// Handlers are called on the thread of the user interface. An empty handler is not called. Setting
-// a value from code raises the same change handlers as the user's own change does; setting the
-// value that a widget already has raises none.
+// Handlers are called on the user interface's thread. An empty handler is not called. Setting a
+// value from code raises the same change handlers as the user's own change does; setting the value
+// that a widget already has raises none.
 #pragma once
 
 #include <cstdint>
@@ -51,8 +51,8 @@ class TextBox : public Widget {
   std::function<void()> OnChange;  // after every change of the text, typed or assigned
   // A character typed (13 = Enter); 0 swallows it, another value replaces it.
   std::function<void(std::int16_t& keyAscii)> OnKeyPress;
-  // The keyboard focus has left the field, or a command of the menu or the window's frame follows,
-  // which works on what was typed.
+  // The keyboard focus has left the field, or a command from the menu or the window's frame is
+  // about to run, which uses what was typed.
   std::function<void()> OnLeave;
 };
 
@@ -84,7 +84,7 @@ class Panel : public Widget {
   std::function<void(Surface& surface, Size size)> OnPaint;
 };
 
-// One of several buttons of which one is down. The toolkit lets up no other one by itself.
+// One of several buttons of which one is down. Pressing one does not release the others by itself.
 class OptionButton : public Widget {
  public:
   virtual std::string Caption() const = 0;
@@ -95,8 +95,9 @@ class OptionButton : public Widget {
   std::function<void()> OnClick;  // the user chose it
 };
 
-// A menu, or an item of one. "&" in the caption marks the mnemonic; what follows a tab is the key
-// that works it from anywhere in the window ("&Open...\tCtrl+O"), while the item can be reached.
+// A menu, or an item of one. "&" in the caption marks the mnemonic; what follows a tab is the
+// shortcut key, which works anywhere in the window ("&Open...\tCtrl+O"), while the item is visible
+// and enabled.
 class MenuItem : public Widget {
  public:
   virtual std::string Caption() const = 0;
@@ -107,17 +108,18 @@ class MenuItem : public Widget {
   std::function<void()> OnClick;
 };
 
-// What a screen reader tells of a drawn control.
+// What a screen reader says about a drawn control.
 struct Spoken {
   std::string name;        // what it is; "&" marks a button's mnemonic
   std::string value;       // what it shows, empty for nothing
-  bool isPicture = false;  // to look at; else it is a chart, or a button
+  bool isPicture = false;  // else it is a chart or a button
 };
 
 enum class PointerShape : std::uint8_t { Arrow, Hand };
 
-// The window of a drawn control (chart, flat button): what the control asks of it, and what it
-// tells the control. Positions in pixels of the control. A control with OnMnemonic is a button.
+// The window of a drawn control (chart, flat button): what the control asks of it, and the events
+// that it raises for the control. Positions in pixels of the control. A control with OnMnemonic is
+// a button.
 class ControlHost : public Widget, public Host {
  public:
   static constexpr std::int16_t kLeftButton = 1;
@@ -127,8 +129,9 @@ class ControlHost : public Widget, public Host {
   std::function<void(std::int16_t button, double x, double y)> OnMouseDown;
   std::function<void(double x, double y)> OnMouseMove;
   std::function<void(std::int16_t button, double x, double y)> OnMouseUp;
-  std::function<void()> OnDoubleClick;  // of the left button, for its second press; empty: a press
-  // The wheel was turned by so many notches, away from the user; empty: others may take it.
+  std::function<void()> OnDoubleClick;  // of the left button; empty: a second press
+  // The wheel was turned by this many notches away from the user; empty: the message is left to the
+  // parent window.
   std::function<void(double notches, double x, double y)> OnMouseWheel;
   std::function<void()> OnCaptureLost;  // the system took the mouse away
   std::function<void(std::int16_t keyCode)> OnKeyDown;
@@ -137,13 +140,14 @@ class ControlHost : public Widget, public Host {
   std::function<void()> OnLostFocus;
   std::function<void()> OnCopy;                  // the keys for copying (Ctrl+C)
   std::function<void()> OnMnemonic;              // a button's own letter was pressed with Alt
-  std::function<void(const Font& font)> OnFont;  // the font of texts in this window, at first too
-  std::function<Spoken()> ReadAloud;             // asked again whenever it was drawn anew
-  // Whether the control takes this key itself; others move the focus or press the window's buttons.
+  std::function<void(const Font& font)> OnFont;  // the window's font, at first and when it changes
+  std::function<Spoken()> ReadAloud;             // asked again after each repaint
+  // True for keys that the control handles itself; others move the focus or press the window's
+  // buttons.
   std::function<bool(std::int16_t keyCode)> WantsKey;
   std::function<PointerShape()> Pointer;  // of the mouse over the control; empty: an arrow
 
-  Spoken Tell() const { return ReadAloud ? ReadAloud() : Spoken{}; }
+  Spoken Announcement() const { return ReadAloud ? ReadAloud() : Spoken{}; }
 };
 
 class Timer {
@@ -154,7 +158,7 @@ class Timer {
   virtual ~Timer() = default;
 
   virtual bool Running() const = 0;
-  virtual void Start(int milliseconds) = 0;  // a running timer starts anew
+  virtual void Start(int milliseconds) = 0;  // a running timer is restarted
   virtual void Stop() = 0;
 
   std::function<void()> OnTick;

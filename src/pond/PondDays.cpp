@@ -9,8 +9,8 @@
 namespace orvik {
 namespace {
 
-// True for each day that lies within `holdOff` days after a day with rain. The day with rain itself
-// is not held off by its own rain.
+// True for each day that lies within `holdOff` days after a day with rain. Rain does not hold off
+// use on its own day.
 std::vector<bool> FindHeldOffDays(const std::vector<double>& rain, int holdOff) {
   std::vector<bool> heldOff(rain.size());
   int remaining = 0;
@@ -21,8 +21,8 @@ std::vector<bool> FindHeldOffDays(const std::vector<double>& rain, int holdOff) 
   return heldOff;
 }
 
-// R stays the mean rate asked for over the counted days: what is not used on days held off is
-// spread over the others.
+// The depth asked for on each day, as a multiple of R. R is the mean over all counted days, so the
+// depth not asked for on days held off is spread evenly over the others.
 std::vector<double> ShareUse(const std::vector<bool>& heldOff, std::size_t warmUpDays) {
   const auto counted = static_cast<double>(heldOff.size() - warmUpDays);
   const auto begin = heldOff.begin() + static_cast<std::ptrdiff_t>(warmUpDays);

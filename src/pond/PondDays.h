@@ -1,4 +1,4 @@
-// What a pond sees day by day: the runoff that arrives and whether reuse draws from it.
+// What a pond is given day by day: the runoff that arrives, and the depth that reuse asks for.
 #pragma once
 
 #include <cstddef>
@@ -11,20 +11,21 @@ namespace orvik {
 
 // How rainfall becomes runoff and demand.
 struct PondOptions {
-  int HoldOffDays = 0;       // no use on so many days after a day with rain; 0: use on every day
+  int HoldOffDays = 0;       // days without use after each day with rain; 0: use on every day
   double AbstractionIn = 0;  // inches lost from each day with rain before it runs off
 };
 
-// "hold-off 2 days" and "abstraction 0.1 in", for titles and tables.
+// "hold-off 2 days" and "abstraction 0.1 in", for titles and tables of curves.
 std::string HoldOffText(const PondOptions& options);
 std::string AbstractionText(const PondOptions& options);
 
-// The days of a simulation, in order: the first kept year as a warm-up, then the whole record (the
-// first kept year again, and all others). Everything is per unit of equivalent impervious area.
+// The days of a simulation, in order: the first kept year as a warm-up, which gives the counted
+// days a usual storage to begin with, then all kept years, the first included. Everything is per
+// unit of equivalent impervious area.
 struct PondDays {
   std::vector<double> Runoff;    // inches on the EIA
   std::vector<double> UseShare;  // depth asked for on the day as a multiple of R; 0 while held off
-  std::size_t WarmUpDays = 0;    // days at the beginning that are run and not counted
+  std::size_t WarmUpDays = 0;    // days at the beginning that are simulated and not counted
   double TotalRunoff = 0;        // inches, over the counted days
   std::size_t CountedDays() const { return Runoff.size() - WarmUpDays; }
   // Inches per day, over the counted days.

@@ -7,8 +7,8 @@
 namespace orvik {
 namespace {
 
-// Ponds of one block: five arrays of this length stay in the first-level cache while all days pass
-// over them.
+// Ponds in a block: its four arrays (4 KB) stay in the first-level cache while all days pass over
+// them.
 constexpr std::size_t kBlockCells = 128;
 
 struct alignas(64) Block {
@@ -18,8 +18,9 @@ struct alignas(64) Block {
   std::array<double, kBlockCells> used{};
 };
 
-// Days outside, ponds inside: no pond waits for its own day before, so the compiler works on
-// several ponds at once. No branches; the smaller of two is written so that it is one instruction.
+// Days in the outer loop, ponds in the inner one: the ponds of one day do not depend on each other,
+// so the compiler can vectorise over them. No branches; the smaller of two is written in the form
+// that becomes one minimum instruction.
 void RunDays(Block& block, const PondDays& days, std::size_t first, std::size_t last) {
   for (std::size_t d = first; d < last; ++d) {
     const double runoff = days.Runoff[d];

@@ -1,5 +1,5 @@
-// Daily water balance of a reuse pond: how much of the runoff a storage volume and a reuse rate
-// catch.
+// Daily water balance of a reuse pond: how much of the runoff is used with a storage volume and a
+// reuse rate.
 //
 // Each day, per unit of equivalent impervious area (EIA): the storage takes the day's runoff, what
 // exceeds V spills, then up to R is used. Rain on the pond and its evaporation cancel over a year
@@ -33,7 +33,7 @@ struct PondBalance {
 // One pond, all terms of its balance.
 PondBalance SimulatePond(const PondDays& days, const PondCell& cell);
 
-// E (percent) of many ponds abreast; element i belongs to cells[i]. The figures equal those of
+// E (percent) of many ponds at once; element i is that of cells[i]. The numbers equal those of
 // SimulatePond bit for bit.
 std::vector<double> SimulateEfficiencies(const PondDays& days, const std::vector<PondCell>& cells);
 

@@ -11,13 +11,13 @@
 namespace orvik {
 namespace {
 
-// A chart that finds less than this share of its full height goes to the next page.
+// A chart that would get less than this share of its full height goes to the next page.
 constexpr float kLeastChart = 0.75F;
 
 // Above the chart and the result's words, in body lines.
 constexpr float kGap = 0.4F;
 
-// The value with its unit behind it, or nothing.
+// The value and its unit, or nothing.
 std::string WithUnit(const std::string& value, std::string_view unit) {
   return value.empty() ? value : value + " " + std::string(unit);
 }
@@ -27,7 +27,7 @@ ReportRow Row(std::string_view caption, std::string value) {
 }
 
 ReportRow RowOf(const Project& project, const FieldDesign& field) {
-  // The range that stands behind the coefficient in the window is no unit.
+  // What the window shows after the coefficient is its range, not a unit.
   const bool hasUnit = !field.shortUnit.empty();
   const std::string value = project.Trimmed(field.id);
   return {PlainCaption(field.caption), hasUnit ? WithUnit(value, field.unit) : value};

@@ -53,7 +53,7 @@ void ReportLines::NewPage() {
   atTop_ = true;
 }
 
-// A new page where this height has no place on the present one, unless it is empty anyway.
+// Starts a new page where this height does not fit on the present one, unless that is blank.
 void ReportLines::Need(float height) {
   if (!atTop_ && !pages_.Fits(y_, height)) NewPage();
 }
@@ -91,7 +91,7 @@ void ReportLines::Rows(std::span<const ReportRow> rows) {
   for (const ReportRow& row : rows) Row(row, column);
 }
 
-// The caption stands beside the value's first line, whichever of the two is higher.
+// The caption is level with the value's first line, whichever of the two is higher.
 void ReportLines::Row(const ReportRow& row, float valueColumn) {
   Use(ReportFont::kBody);
   const std::string value = Printable(row.value);

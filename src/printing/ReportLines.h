@@ -27,10 +27,10 @@ class ReportLines {
   void Heading(std::string_view text) { Heading(text, LineHeight(ReportFont::kBody)); }
 
   // The columns of all rows from now on hold captions at least as wide as this one, so that the
-  // values of several sections stand below each other.
+  // values of several sections are aligned.
   void AlignTo(std::string_view caption);
 
-  // Captions in one column and their values in another, which begins behind the widest caption.
+  // Captions in one column and their values in another, which begins after the widest caption.
   void Rows(std::span<const ReportRow> rows);
 
   void Paragraph(std::string_view text, int font);

@@ -34,12 +34,12 @@ std::string Solution(const Project& project) {
 }  // namespace
 
 bool HasResult(const Project& project, const std::string& shown) {
-  return WhyWithoutResults(project, shown).empty() && AllSlotsAreFilled(project);
+  return WhyNoResult(project, shown).empty() && AllSlotsAreFilled(project);
 }
 
 std::string ResultInWords(const Project& project, const std::string& shown) {
   if (HasResult(project, shown)) return Solution(project);
-  const std::string why = WhyWithoutResults(project, shown);
+  const std::string why = WhyNoResult(project, shown);
   return "No result: " + (why.empty() ? Sentence({MessageId::NotCalculated}) : why);
 }
 

@@ -7,9 +7,9 @@
 
 namespace orvik {
 
-// One sentence that names every quantity with its unit in full and says which was found, or begins
-// with "No result:" and tells why. The numbers are the fields' own texts; `shown` is the message of
-// the error bar.
+// One sentence that names every quantity with its unit in full and says which was found, or "No
+// result:" and the reason. The numbers are the fields' own texts; `shown` is the message of the
+// error bar.
 std::string ResultInWords(const Project& project, const std::string& shown);
 
 // True where the project is solved: every quantity of the site has its value.

@@ -18,7 +18,7 @@ bool TakeKey(std::string_view& text) {
   return true;
 }
 
-// The part behind the last comma, which goes with it; a name may hold commas of its own.
+// Cuts off the part after the last comma, and the comma; a font's name may contain commas itself.
 std::optional<std::string_view> TakeLastPart(std::string_view& text) {
   const std::size_t comma = text.rfind(',');
   if (comma == std::string_view::npos) return std::nullopt;

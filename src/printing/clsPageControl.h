@@ -29,7 +29,7 @@ class clsPageControl {
  public:
   static constexpr int kFonts = 4;
 
-  // All headers of a document tell the time of its beginning.
+  // All headers of a document show the time at which it was begun.
   explicit clsPageControl(const ClockTime& time);
 
   // One of ReportFont. Throws SubscriptError.
@@ -62,7 +62,7 @@ class clsPageControl {
   // end of the free area, and y is then that page's.
   void PrintString(Printer& printer, float x, float& y, std::string_view text);
 
-  // Does something this high end before the free area does?
+  // True when something this high still fits in the free area.
   bool Fits(float y, float height) const;
 
   const clsMargins& PrintableMargins() const { return printableMargins_; }

@@ -7,7 +7,7 @@
 namespace orvik {
 namespace {
 
-// Reads a quoted field from the opening quote at `at`; `at` is then behind the closing quote.
+// Reads a quoted field whose opening quote is at `at`; moves `at` past the closing quote.
 bool ReadQuoted(std::string_view line, std::size_t& at, std::string& field) {
   for (++at; at < line.size(); ++at) {
     if (line[at] != '"') {

@@ -8,7 +8,7 @@
 
 namespace orvik {
 
-// Walks over the lines of a text; lines end at LF or CR LF.
+// Goes through the lines of a text, which end with LF or CR LF.
 class CsvLines {
  public:
   explicit CsvLines(std::string_view text) : rest_(text) {}
@@ -16,7 +16,7 @@ class CsvLines {
   // The next line without its end; nothing at the end of the text.
   std::optional<std::string_view> Next();
 
-  // Number of the line that Next gave last; 1 is the first.
+  // The number of the line that Next returned last, from 1.
   int LineNumber() const { return lineNumber_; }
 
  private:
@@ -24,9 +24,9 @@ class CsvLines {
   int lineNumber_ = 0;
 };
 
-// The fields of one line. A field may stand in double quotes, a doubled quote inside them is a
-// quote; blanks around a field are not part of it. `fields` is filled anew; its memory is kept
-// between calls. False for a quote that is not closed.
+// Splits a line into its fields. A field may be quoted ("), with a quote inside it doubled; blanks
+// around a field are dropped. `fields` is overwritten, and its memory reused from call to call.
+// False for a quote that is not closed.
 bool SplitCsvLine(std::string_view line, std::vector<std::string>& fields);
 
 }  // namespace orvik

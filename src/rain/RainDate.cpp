@@ -7,7 +7,7 @@
 namespace orvik {
 namespace {
 
-// A number of digits alone, at least `least` and at most `most` of them; negative when it is not.
+// The number that `least` to `most` digits and nothing else make; -1 for any other text.
 int ParseDigits(std::string_view text, std::size_t least, std::size_t most) {
   int value = -1;
   if (text.size() < least || text.size() > most || text.front() == '-') return -1;

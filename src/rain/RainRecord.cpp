@@ -18,14 +18,14 @@ namespace {
 
 constexpr std::size_t kMostErrorsShown = 5;
 
-// One line of the file that has a date.
+// A row of the file; each has a date.
 struct Row {
   std::chrono::sys_days date;
   std::optional<double> depth;  // in the file's unit
   int line;
 };
 
-// Where the columns stand in a line; 0 is the first.
+// The columns' positions in a line, from 0.
 struct ColumnPlaces {
   std::size_t date;
   std::size_t depth;
@@ -46,7 +46,7 @@ std::optional<std::size_t> FindColumn(const std::vector<std::string>& header,
   return static_cast<std::size_t>(found - header.begin());
 }
 
-// The column of the given name, or the first of the customary names.
+// The column with the given name; without one, the first that has a usual name.
 std::size_t RequireColumn(const std::vector<std::string>& header, const std::string& given,
                           std::initializer_list<const char*> customary, const std::string& what) {
   if (!given.empty()) {
@@ -57,7 +57,7 @@ std::size_t RequireColumn(const std::vector<std::string>& header, const std::str
   for (const char* name : customary) {
     if (const auto place = FindColumn(header, name)) return *place;
   }
-  throw FileError("The file has no column that is known to hold the " + what +
+  throw FileError("The file has no column with a known name for the " + what +
                   ". Its columns are: " + JoinNames(header) + ".");
 }
 
@@ -76,7 +76,7 @@ bool IsDigits(std::string_view text) {
   return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-// What follows the sentence that refuses a depth where it looks like "12,7"; empty elsewhere.
+// Added to the sentence that refuses a depth where it looks like "12,7"; else empty.
 std::string DecimalCommaHint(std::string_view depth) {
   const auto comma = std::min(depth.find(','), depth.size());
   const std::string whole(depth.substr(0, comma));
@@ -86,7 +86,7 @@ std::string DecimalCommaHint(std::string_view depth) {
          " is one number, write it with a decimal point: " + whole + "." + fraction;
 }
 
-// Collects the rows of a file and the sentences about those that cannot be read.
+// Reads the rows of a file, and collects a sentence about each that cannot be read.
 class RowReader {
  public:
   RowReader(const ColumnPlaces& places, std::size_t columns, RainFindings& findings)
@@ -106,8 +106,8 @@ class RowReader {
     const auto date = ParseRainDate(fields_[places_.date]);
     if (!date) return Refuse(lineNumber, "\"" + fields_[places_.date] + "\" is not a date");
     if (!KeepStation()) {
-      return Refuse(lineNumber, "the station is " + fields_[*places_.station] + ", above it was " +
-                                    station_ + "; keep the rows of one");
+      return Refuse(lineNumber, "the station is " + fields_[*places_.station] + ", but " +
+                                    station_ + " in the rows above; keep the rows of one station");
     }
     Row row{*date, std::nullopt, lineNumber};
     if (!ReadDepth(fields_[places_.depth], row)) {
@@ -123,7 +123,7 @@ class RowReader {
       if (more > 0) errors_ += "\n... and " + std::to_string(more) + " more.";
       throw FileError(errors_);
     }
-    if (rows_.empty()) throw FileError("The file has no rows with rainfall.");
+    if (rows_.empty()) throw FileError("The file has no rows of rainfall.");
     findings_.Rows = static_cast<int>(rows_.size());
     return std::move(rows_);
   }
@@ -135,13 +135,13 @@ class RowReader {
         (errors_.empty() ? "Line " : "\nLine ") + std::to_string(lineNumber) + ": " + why + ".";
   }
 
-  // A depth with a decimal comma that nothing quotes is two fields: "12,7" reads as 12.
+  // An unquoted depth with a decimal comma is two fields: "12,7" would be read as 12.
   std::string SplitNumberHint() const {
     if (places_.depth + 1 >= fields_.size()) return {};
     return DecimalCommaHint(fields_[places_.depth] + "," + fields_[places_.depth + 1]);
   }
 
-  // False for a row of another station than that of the rows above.
+  // False for a row whose station is not that of the rows above.
   bool KeepStation() {
     if (!places_.station || *places_.station >= fields_.size()) return true;
     if (station_.empty()) station_ = fields_[*places_.station];
@@ -166,7 +166,7 @@ class RowReader {
   }
 
   ColumnPlaces places_;
-  std::size_t columns_;  // that the header names
+  std::size_t columns_;  // as many as the header has
   RainFindings& findings_;
   std::vector<std::string> fields_;
   std::vector<Row> rows_;
@@ -175,7 +175,7 @@ class RowReader {
   std::size_t errorCount_ = 0;
 };
 
-// Appends the day of rows [first, last), which share one date: the first value counts.
+// Appends the day of rows [first, last), which have the same date: the first value counts.
 void AppendDay(const std::vector<Row>& rows, std::size_t first, std::size_t last,
                RainRecord& record) {
   RainFindings& findings = record.Findings;
@@ -219,7 +219,7 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
   std::vector<std::string> header;
   const auto first = lines.Next();
   if (!first || !SplitCsvLine(*first, header)) {
-    throw FileError("The file has no line that names its columns.");
+    throw FileError("The file has no header line with the names of its columns.");
   }
   RainRecord record;
   record.Unit = unit;
@@ -251,15 +251,16 @@ std::string DescribeFindings(const RainRecord& record) {
       count(found.Missing, " row", " rows") + " without, " + count(found.Gaps, " gap", " gaps") +
       " (" + count(found.GapDays, " day", " days") + " without a row).";
   if (found.Trace > 0) {
-    text += "\nA trace of rain counts as none: " + count(found.Trace, " row.", " rows.");
+    text += "\nTraces of rain, counted as zero: " + count(found.Trace, " row.", " rows.");
   }
   if (found.Duplicate > 0) {
-    text += "\nDates that stand twice: " + count(found.Duplicate, " row", " rows") +
+    text += "\nRepeated dates: " + count(found.Duplicate, " row", " rows") +
             "; the first value counts.";
   }
   if (found.Conflicting > 0) {
-    text += "\nOf these with another depth: " + count(found.Conflicting, " row", " rows") +
-            ", the first in line " + std::to_string(found.FirstConflictingLine) + ".";
+    text +=
+        "\nRepeated dates with a different depth: " + count(found.Conflicting, " row", " rows") +
+        ", the first in line " + std::to_string(found.FirstConflictingLine) + ".";
   }
   if (found.Negative > 0) {
     text += "\nNegative depths, taken as missing: " + count(found.Negative, " row", " rows") +

@@ -1,4 +1,4 @@
-// The units in which daily rainfall files carry their depths.
+// The units of depths in daily rainfall files.
 #pragma once
 
 #include <optional>

@@ -16,7 +16,7 @@ namespace {
 // The wettest day ever measured: 71.9 inches (Foc-Foc, La Reunion, 1966-01-07 to 08).
 constexpr double kWettestDayIn = 72;
 
-// Rain as heavy as this is not measured twice alike at one place.
+// Depths above this do not occur twice to the hundredth of an inch at one place.
 constexpr double kSuspectDayIn = 15;
 
 std::chrono::sys_days NewYear(int year) {
@@ -37,7 +37,7 @@ void NoteWettest(const RainDay& day, RainYears& years) {
   ++years.WettestDays;
 }
 
-// Appends the year if few enough of its days are missing. [begin, end) are its days with a value.
+// Appends the year, or notes that it is left out. [begin, end) are its days with a value.
 void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
                 std::vector<RainDay>::const_iterator end, RainYears& years) {
   const std::size_t days = DaysOfYear(year);
@@ -81,8 +81,8 @@ void RefuseImplausible(const RainYears& years, RainUnit unit) {
   }
   if (years.WettestDayIn > kWettestDayIn) {
     throw Refusal("The wettest day of the record has " + RoundedDepth(years.WettestDayIn) +
-                  " inches, more than was ever measured anywhere. If this is a code for a "
-                  "missing value, leave the depth empty.");
+                  " inches, more than has ever been measured anywhere. If this is a code "
+                  "for a missing value, leave the depth empty.");
   }
 }
 
@@ -106,9 +106,8 @@ RainYears SelectRainYears(const RainRecord& record) {
   const auto count = static_cast<int>(years.Years.size());
   if (count < kFewestYears) {
     throw Refusal("The record has " + std::to_string(count) + " usable years; at least " +
-                  std::to_string(kFewestYears) +
-                  " are needed. A calendar year that misses more than " +
-                  std::to_string(kMostMissingDays) + " days is not usable.");
+                  std::to_string(kFewestYears) + " are needed. A calendar year with more than " +
+                  std::to_string(kMostMissingDays) + " missing days is not usable.");
   }
   years.MeanAnnualIn = std::accumulate(years.Daily.begin(), years.Daily.end(), 0.0) / count;
   RefuseImplausible(years, record.Unit);
@@ -117,9 +116,9 @@ RainYears SelectRainYears(const RainRecord& record) {
 
 std::string DescribeSuspectedCode(const RainYears& years) {
   if (years.WettestDays < 2 || years.WettestDayIn <= kSuspectDayIn) return {};
-  return "The largest depth, " + FixedText(years.WettestDayIn, 2) + " inches, stands on " +
+  return "The largest depth, " + FixedText(years.WettestDayIn, 2) + " inches, occurs on " +
          std::to_string(years.WettestDays) + " days, first on " + IsoDate(years.WettestDay) +
-         ": a code for a missing value? If so, leave these depths empty.";
+         ". Is it a code for a missing value? If so, leave these depths empty.";
 }
 
 }  // namespace orvik

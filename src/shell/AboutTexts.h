@@ -1,4 +1,4 @@
-// What the about box tells.
+// The texts of the about box.
 #pragma once
 
 #include <string>

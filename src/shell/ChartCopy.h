@@ -16,8 +16,8 @@ std::string ChartPointText(const ctrlStormwaterReuse& chart);
 // The chart for a listener: named by its station, its value the point with units.
 Spoken SpokenChart(const ctrlStormwaterReuse& chart);
 
-// Puts the chart on the clipboard as picture and text. Nothing while no curves are loaded; a
-// beep where the clipboard cannot be had.
+// Puts the chart on the clipboard as picture and text. Nothing while no curves are loaded; a beep
+// where the clipboard is not available.
 void CopyChart(const ctrlStormwaterReuse& chart, Desktop& desktop);
 
 }  // namespace orvik

@@ -11,7 +11,7 @@ namespace orvik {
 // The inner size below which something would be cut off or covered.
 Size MinimumMainWindow(const TextMeasures& measures);
 
-// The inner size that shows everything at ease: the chart with its numbers at a size to read.
+// The inner size in which everything has ample room, and the chart's numbers can be read.
 Size ComfortableMainWindow(const TextMeasures& measures);
 
 // A place for every widget of both pages, whichever of them shows. The inner size counts as at

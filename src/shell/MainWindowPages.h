@@ -1,4 +1,4 @@
-// The toolbar, the two pages of which one shows, and what stands beside their fields.
+// The toolbar, the two pages of which one shows, and the labels beside their fields.
 #pragma once
 
 #include <array>

@@ -57,7 +57,7 @@ const Rows& AllRows() {
   return rows;
 }
 
-// It names the bar to a screen reader, which would take the last text before it otherwise.
+// It names the bar to a screen reader, which would otherwise read the last label before it.
 constexpr FieldRow kMessageRow{{"lblErrMsg", "Message"}, "txtErrMsg", FieldKind::Text};
 
 void AddRow(std::vector<WidgetDesign>& widgets, std::string_view page, const FieldRow& row) {

@@ -1,5 +1,5 @@
-// The rows of the main window: which widget lies where in the order of reading, and the captions
-// and units that only stand beside the fields.
+// The rows of the main window: the widgets in reading order, and the captions and units beside the
+// fields.
 #pragma once
 
 #include <array>

@@ -27,7 +27,7 @@ class MessageHelp {
   ~MessageHelp();
 
   // Opens the page of the shown message's topic; nothing where there is no topic or no page. A
-  // message box tells what kept an existing page from opening.
+  // message box says why an existing page could not be opened.
   void cmdErrorHelp_Click();
 
  private:

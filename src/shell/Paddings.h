@@ -1,4 +1,4 @@
-// What every window's widgets have round their text; lengths for 96 dots per inch.
+// The space around the texts of widgets, the same in every window; lengths for 96 dots per inch.
 #pragma once
 
 namespace orvik {

@@ -16,7 +16,7 @@ std::string StationMapPath(std::string_view dataFolder);
 
 class frmClimateStations {
  public:
-  // Loaded with the map, or with nothing where it cannot be had, and not yet shown. `toolkit` is
+  // Loaded with the map (or empty where its file cannot be read), and not yet shown. `toolkit` is
   // for this window alone.
   frmClimateStations(Toolkit& toolkit, Desktop& desktop, std::string_view dataFolder);
   frmClimateStations(const frmClimateStations&) = delete;

@@ -27,7 +27,7 @@ void SkipLineEnd(std::string_view text, std::size_t& position) {
   if (text[position - 1] == kCr && position < text.size() && text[position] == kLf) ++position;
 }
 
-// The characters up to the next CR; `position` moves behind the line end.
+// The characters up to the next CR; `position` moves past the line end.
 std::string_view TakeLine(std::string_view text, std::size_t& position) {
   const std::size_t begin = position;
   position = std::min(text.find(kCr, begin), text.size());
@@ -44,9 +44,9 @@ void SkipBlanks(std::string_view text, std::size_t& position) {
   while (position < text.size() && text[position] == ' ') ++position;
 }
 
-// The next field: blanks and line ends before it are skipped; the delimiter behind it is taken too,
-// so that a whole line can be read next. A blank is only a delimiter where no comma or line end
-// follows it.
+// The next field: blanks and line ends before it are skipped; the delimiter after it is consumed
+// too, so that a whole line can be read next. A blank is only a delimiter where no comma or line
+// end follows it.
 std::string_view TakeField(std::string_view text, std::size_t& position) {
   while (position < text.size() && (text[position] == ' ' || IsLineEnd(text[position]))) ++position;
   const std::size_t begin = position;

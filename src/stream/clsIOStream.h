@@ -18,10 +18,10 @@ enum class enumIOStreamMode : std::int16_t {
   AsciiBufferOutput = 4,  // appending to a text in memory
 };
 
-// Every operation answers True or False and reports nothing else. In the file modes a failed open,
-// read or write is swallowed and answered with True: ask EndOfFile before each read. A file that
-// could not be opened is at its end, and so is one that could not be read to its end: half a file
-// must not pass for the whole.
+// Every operation returns True or False and reports nothing else. In the file modes a failed open,
+// read or write is ignored and returns True: ask EndOfFile before each read. A file that could not
+// be opened is at its end, and so is one that could not be read to its end: half a file must not be
+// taken for the whole.
 //
 // Lines end at CR or CR LF; a lone LF is part of the line. Files are read as UTF-8 (a byte-order
 // mark is skipped) where their bytes are valid UTF-8, else as Windows-1252, and written as UTF-8
@@ -30,7 +30,7 @@ enum class enumIOStreamMode : std::int16_t {
 // The two input modes take numbers differently: from a file the next field (fields end at a comma,
 // a blank or a line end; several may share a line), from a buffer always one whole line.
 //
-// The file is closed when the object goes.
+// The destructor closes the file.
 class clsIOStream {
  public:
   clsIOStream() = default;
@@ -56,8 +56,8 @@ class clsIOStream {
   // The path given to OpenFile in a file mode, else empty.
   std::string FileName() const { return fileName_; }
 
-  // The next line, without its end. A file with nothing left leaves `TargetString` and answers
-  // True; a buffer answers False.
+  // The next line, without its end. A file with nothing left leaves `TargetString` and returns
+  // True; a buffer returns False.
   bool ScanString(std::string& TargetString);
 
   // `txt` and CR LF.

@@ -16,7 +16,7 @@ TEST(ModuleVersion, HasThreeNumbers) {
   EXPECT_EQ(kModuleVersion, "3.3.1");
 }
 
-TEST(ModuleVersion, WindowsWriteTheBuildNumberInFourDigits) {
+TEST(ModuleVersion, WindowsShowTheBuildNumberInFourDigits) {
   EXPECT_EQ(BuildVersionText(), "3.3.0001");
 }
 

@@ -80,7 +80,7 @@ TEST(ConvertToString, IsWithinHalfAUnitOfTheSeventhDigit) {
   }
 }
 
-TEST(ToDecimalText, LeavesTheLeadingZeroAway) {
+TEST(ToDecimalText, OmitsTheLeadingZero) {
   EXPECT_EQ(ToDecimalText(0.5F), ".5");
   EXPECT_EQ(ToDecimalText(-0.5), "-.5");
 }
@@ -131,7 +131,7 @@ TEST(ParseNumber, IsInfiniteBeyondADouble) {
   EXPECT_EQ(ParseNumber("0." + std::string(400, '0') + "1"), 0);
 }
 
-TEST(IsNumericText, WantsTheWholeText) {
+TEST(IsNumericText, RequiresTheWholeText) {
   for (const char* text : {"0", "-1", "+.5", "5.", " 12.5 ", "1e5", "1E-05", "00012"}) {
     EXPECT_TRUE(IsNumericText(text)) << text;
   }
@@ -141,7 +141,7 @@ TEST(IsNumericText, WantsTheWholeText) {
   }
 }
 
-TEST(IsWholeNumberText, WantsSignAndDigits) {
+TEST(IsWholeNumberText, RequiresSignAndDigits) {
   for (const char* text : {"0", "-1", "+25", " 7 ", "007"})
     EXPECT_TRUE(IsWholeNumberText(text)) << text;
   for (const char* text : {"", "-", "2.5", "1e3", "abc", "1 2", "--1"}) {

@@ -9,7 +9,7 @@
 namespace orvik {
 namespace {
 
-TEST(RoundHalfToEven, TakesTheEvenNeighbourAtHalves) {
+TEST(RoundHalfToEven, RoundsHalvesToTheEvenNeighbour) {
   EXPECT_EQ(RoundHalfToEven(0.5), 0);
   EXPECT_EQ(RoundHalfToEven(1.5), 2);
   EXPECT_EQ(RoundHalfToEven(2.5), 2);
@@ -19,14 +19,14 @@ TEST(RoundHalfToEven, TakesTheEvenNeighbourAtHalves) {
   EXPECT_EQ(RoundHalfToEven(-2.5), -2);
 }
 
-TEST(RoundHalfToEven, TakesTheNearestElsewhere) {
+TEST(RoundHalfToEven, RoundsEverythingElseToTheNearest) {
   EXPECT_EQ(RoundHalfToEven(2.4999999999999996), 2);
   EXPECT_EQ(RoundHalfToEven(2.5000000000000004), 3);
   EXPECT_EQ(RoundHalfToEven(-7.6), -8);
   EXPECT_EQ(RoundHalfToEven(0.49999999999999994), 0);  // floor(x + 0.5) gives 1 here
 }
 
-TEST(RoundHalfToEven, LeavesWholeAndHugeNumbers) {
+TEST(RoundHalfToEven, LeavesWholeAndHugeNumbersUnchanged) {
   EXPECT_EQ(RoundHalfToEven(-3), -3);
   EXPECT_EQ(RoundHalfToEven(4503599627370497.0), 4503599627370497.0);
   EXPECT_EQ(RoundHalfToEven(1e300), 1e300);

@@ -40,13 +40,13 @@ class WriteFileSafelyTest : public testing::Test {
   std::string path_ = folder_.Write("é.kav", "old and longer");
 };
 
-TEST_F(WriteFileSafelyTest, TakesTheOldOnesPlaceByteForByte) {
+TEST_F(WriteFileSafelyTest, ReplacesTheOldFileByteForByte) {
   EXPECT_FALSE(FindTargetFault(path_));
   EXPECT_FALSE(WriteFileSafely(path_, "new\r\n"));
   ExpectOnlyThe("new\r\n");
 }
 
-TEST_F(WriteFileSafelyTest, MakesAFileThatWasNotThere) {
+TEST_F(WriteFileSafelyTest, CreatesAFileThatDidNotExist) {
   fs::remove(PathFromUtf8(path_));
   EXPECT_FALSE(FindTargetFault(path_));
   EXPECT_FALSE(WriteFileSafely(path_, "new"));
@@ -54,7 +54,7 @@ TEST_F(WriteFileSafelyTest, MakesAFileThatWasNotThere) {
 }
 
 // Two windows, each with its own project, save into one folder again and again.
-TEST_F(WriteFileSafelyTest, TwoAtATimeInOneFolderEachWriteTheirOwn) {
+TEST_F(WriteFileSafelyTest, TwoWritersInOneFolderEachWriteTheirOwnFile) {
   constexpr int kRounds = 300;
   std::atomic<int> refused = 0;
   std::atomic<int> exchanged = 0;

@@ -28,7 +28,7 @@ TEST(WriteNewFile, HoldsTheBytesAsTheyAre) {
   EXPECT_EQ(test::ReadBytes(folder / "é.tmp"), bytes);
 }
 
-TEST(WriteNewFile, ANameThatIsTakenKeepsItsFile) {
+TEST(WriteNewFile, ANameThatIsTakenIsRefusedAndItsFileKept) {
   const test::TempFolder folder;
   const std::string path = folder.Write("mine", "mine");
   EXPECT_EQ(Write(path, "other"), NewFileOutcome::NameTaken);
@@ -40,7 +40,7 @@ TEST(WriteNewFile, FailsWhereThereIsNoFolder) {
   EXPECT_EQ(Write(folder / "none/a", "x"), NewFileOutcome::Failed);
 }
 
-TEST(WriteNewFile, OfTwoThatWantOneNameOneGetsIt) {
+TEST(WriteNewFile, OfTwoWritersWithOneNameOneGetsIt) {
   const test::TempFolder folder;
   for (int round = 0; round < 50; ++round) {
     const std::string path = folder / std::to_string(round);
@@ -56,7 +56,7 @@ TEST(WriteNewFile, OfTwoThatWantOneNameOneGetsIt) {
 }
 
 #ifndef _WIN32  // links and limits of a file's size are another matter there
-TEST(WriteNewFile, IsNotLedAwayByALink) {
+TEST(WriteNewFile, DoesNotFollowALink) {
   const test::TempFolder folder;
   std::filesystem::create_symlink("elsewhere", PathFromUtf8(folder / "link"));
   EXPECT_EQ(Write(folder / "link", "x"), NewFileOutcome::NameTaken);
@@ -97,7 +97,7 @@ TEST(WriteNewFile, LeavesNothingWhereTheDiskIsFull) {
 
 #ifndef _WIN32
 // A private project stays private while it is written, and its owner's where the superuser saves.
-TEST(WriteNewFile, TakesAfterTheFileBefore) {
+TEST(WriteNewFile, GetsPermissionsAndOwnerOfTheOldFile) {
   const test::TempFolder folder;
   const std::string old = folder.Write("old", "old");
   ASSERT_EQ(chmod(old.c_str(), 0600), 0);
@@ -112,7 +112,7 @@ TEST(WriteNewFile, TakesAfterTheFileBefore) {
 }
 #endif
 
-TEST(RenameOver, ARefusalLeavesBothFiles) {
+TEST(RenameOver, ARefusedRenameLeavesBothFiles) {
   const test::TempFolder folder;
   const std::string file = folder.Write("file", "mine");
   folder.Write("folder/inside", "x");

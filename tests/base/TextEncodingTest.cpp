@@ -12,7 +12,7 @@ TEST(IsUtf8, AcceptsWellFormedText) {
   }
 }
 
-TEST(IsUtf8, RefusesOverlongSurrogateAndCutForms) {
+TEST(IsUtf8, RefusesOverlongSurrogateAndTruncatedForms) {
   for (const char* text :
        {"\xE9", "\x80", "\xC0\xAF", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
         "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE4\xB8", "\xC3\x28"}) {

@@ -25,13 +25,13 @@ TEST(Utf8, ReadsTheCodePointOfEachLength) {
   }
 }
 
-TEST(Utf8, TheFirstByteTellsTheLength) {
+TEST(Utf8, TheFirstByteGivesTheLength) {
   for (const auto& row : kCharacters) {
     EXPECT_EQ(CharacterLength(row.text.front()), row.text.size()) << row.codePoint;
   }
 }
 
-TEST(Utf8, AByteThatBeginsNoCharacterIsTakenAlone) {
+TEST(Utf8, AByteThatBeginsNoCharacterCountsAlone) {
   EXPECT_EQ(CharacterLength('\x80'), 1U);
   EXPECT_EQ(CharacterLength('\xBF'), 1U);
 }
@@ -50,7 +50,7 @@ TEST(Utf8, CountsCharactersNotBytes) {
   EXPECT_EQ(CountCodePoints("a\xC3\xA9\xE4\xB8\xAD\xF0\x9F\x98\x80z"), 5U);
 }
 
-TEST(Utf8, ACutCharacterEndsWithTheText) {
+TEST(Utf8, ATruncatedCharacterEndsWithTheText) {
   EXPECT_EQ(CodePointAt("\xE2\x82", 0), 0x82U);  // 0x2 and the six bits 0x02
 }
 

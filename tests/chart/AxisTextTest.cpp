@@ -64,7 +64,7 @@ TEST_F(AxisText, BesideANarrowFrameTheNumbersThatFitRemain) {
   EXPECT_THAT(Texts(header, 900, 1400), ElementsAre("0", "7", kV));
 }
 
-TEST_F(AxisText, OneNumberAloneIsNoScale) {
+TEST_F(AxisText, ASingleNumberIsLeftOut) {
   EXPECT_THAT(Texts({"0", "7", "100", "0", "0.4", "0.4"}, 960, 640),
               ElementsAre(kV, "0", "0.4", kR));
 }

@@ -88,7 +88,7 @@ TEST_F(SetCurveData, AHotspotFarOffTheNewAxesIsHidden) {
   EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
 }
 
-TEST_F(SetCurveData, TakesDesignDataDirectoryAsItStands) {
+TEST_F(SetCurveData, UsesDesignDataDirectoryAsGiven) {
   folder_.Write("own/Tampa.crv", LogarithmicCurves().Text());
   chart_.DesignDataDirectory(folder_.Path() + "own" + kPathSeparator);
   chart_.SetCurveData(kTampa);

@@ -189,7 +189,7 @@ TEST_F(SetHotspot, APointOutsideEveryRegionStaysShown) {
   }
 }
 
-TEST_F(SetHotspot, AVolumeBesideTheCurveNamesTheEnd) {
+TEST_F(SetHotspot, AVolumeOffTheCurveNamesTheEnd) {
   EXPECT_FALSE(Ask(Pair::EV, "80", "1.7"));  // the curve of 80 begins at 1.75
   EXPECT_EQ(chart_.ErrMsg(),
             "The normalized storage volume is less than the minimum value for the specified "
@@ -207,7 +207,7 @@ TEST_F(SetHotspot, AVolumeBesideTheCurveNamesTheEnd) {
             "efficiency curve.");
 }
 
-TEST_F(SetHotspot, ARateBesideTheCurveIsOutOfItsRange) {
+TEST_F(SetHotspot, ARateOffTheCurveIsOutOfItsRange) {
   // The curve of 70 runs from 0.1797267 at V = 1.5 down to 0.1027045 at V = 7.
   for (const char* R : {"0.18", "0.1"}) {
     EXPECT_FALSE(Ask(Pair::ER, "70", R)) << R;

@@ -61,7 +61,7 @@ TEST_F(Calc, PrintsOneJsonObjectWithTheNamesOfTheForm) {
   EXPECT_EQ(fields["txtErrMsg"], "");
 }
 
-TEST_F(Calc, AMessageOnTheBarExitsOneAndStandsOnTheErrorStream) {
+TEST_F(Calc, AMessageOnTheBarIsPrintedAsAnErrorAndExitsOne) {
   auto lines = ProjectLines();
   lines[14] = "99.9";
   const KavRun run = Calculate(ProjectText(lines), true);
@@ -112,7 +112,7 @@ TEST_F(Calc, CurvesThatCannotBeReadExitThree) {
   EXPECT_EQ(damaged.err, "The curve file of Key West is damaged or cannot be read.\n");
 }
 
-TEST_F(Calc, AnUnixCopyOfACurveFileIsTold) {
+TEST_F(Calc, ACurveFileWithUnixLineEndsIsReportedAsSuch) {
   std::string curves = test::LogarithmicCurves().Text();
   std::erase(curves, '\r');
   folder_.Write("KAV Data/Tampa.crv", curves);

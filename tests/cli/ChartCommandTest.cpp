@@ -94,7 +94,7 @@ TEST_F(ChartCommand, DrawsAProjectWithItsDesignPoint) {
   EXPECT_THAT(ReadBytes(Out("a.svg")), HasSubstr("#ff0000"));
 }
 
-TEST_F(ChartCommand, ACalculationThatSaysNoWritesNoFile) {
+TEST_F(ChartCommand, WithoutAResultNoFileIsWritten) {
   const KavRun run =
       Run({"--station", "Tampa", "--efficiency", "99.9", "--rate", "0.1", "-o", Out("a.png")});
   EXPECT_EQ(run.exitCode, 1);

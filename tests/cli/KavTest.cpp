@@ -67,7 +67,7 @@ TEST_F(Kav, AFullDiskOnStandardOutputIsAFailure) {
   std::ostringstream err;
   out.setstate(std::ios::badbit);
   Console console{out, err, false, folder_.Path()};
-  EXPECT_EQ(RunKavToTheEnd({"stations"}, console), 3);
+  EXPECT_EQ(RunKavAndFlush({"stations"}, console), 3);
   EXPECT_EQ(err.str(), "Standard output cannot be written.\n");
 }
 
@@ -85,7 +85,7 @@ TEST_F(Kav, PrintsOneJsonObject) {
   EXPECT_EQ(object["helpTopic"], 0);
 }
 
-TEST_F(Kav, ACalculationThatSaysNoExitsOneWithItsMessage) {
+TEST_F(Kav, WithoutAResultTheMessageIsPrintedAndTheExitCodeIsOne) {
   WriteTampa(LogarithmicCurves().Text());
   const KavRun run = Run({"solve", "--station", "Tampa", "--efficiency", "99.9", "--rate", "0.1"});
   EXPECT_EQ(run.exitCode, 1);
@@ -134,7 +134,7 @@ TEST_F(Kav, ADamagedFileExitsThree) {
   EXPECT_EQ(run.err, "The curve file of Tampa is damaged or cannot be read.\n");
 }
 
-TEST_F(Kav, AFileWithoutCarriageReturnsIsToldApartFromADamagedOne) {
+TEST_F(Kav, AFileWithoutCarriageReturnsHasAMessageOfItsOwn) {
   std::string text = LogarithmicCurves().Text();
   std::erase(text, '\r');
   WriteTampa(text);

@@ -170,7 +170,7 @@ TEST_F(ReportCommand, ADescriptionOf10000CharactersIsWhole) {
   EXPECT_THAT(text, HasSubstr("Page 4"));
 }
 
-TEST_F(ReportCommand, LettersOfAllTonguesAreText) {
+TEST_F(ReportCommand, LettersOfAllLanguagesAreText) {
   auto lines = Solved();
   lines[2] = "\u0141\u00F3d\u017A \u0412\u043E\u0434\u0430 \u039D\u03B5\u03C1\u03CC";
   Run(Project(lines));
@@ -178,7 +178,7 @@ TEST_F(ReportCommand, LettersOfAllTonguesAreText) {
   EXPECT_THAT(PdfInfo(), HasSubstr("Report - " + lines[2]));
 }
 
-TEST_F(ReportCommand, WhatIsInTheWayIsAFault) {
+TEST_F(ReportCommand, AMissingProjectAndAMissingFolderExitThree) {
   const std::string project = Project(Solved());
   const KavRun missing = RunKavWith({"report", folder_ / "no.kav", "-o", Pdf()}, folder_.Path());
   EXPECT_EQ(missing.exitCode, 3);
@@ -223,7 +223,7 @@ TEST_F(ReportCommand, AFullDiskLeavesNoHalfFileAndTheOldOneAsItWas) {
   EXPECT_THAT(files, testing::UnorderedElementsAre("KAV Data", "project.kav", "report.pdf"));
 }
 
-TEST_F(ReportCommand, TheEndingMayBeInCapitals) {
+TEST_F(ReportCommand, TheExtensionMayBeInCapitals) {
   const std::string project = Project(Solved());
   for (const char* name : {"a.Pdf", "b.PDF", "c.pDf"}) {
     const std::string path = folder_ / name;

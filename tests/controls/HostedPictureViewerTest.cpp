@@ -52,11 +52,11 @@ TEST_F(HostedPictureViewerTest, TheLeftButtonDragsAndNoOther) {
 }
 
 TEST_F(HostedPictureViewerTest, AScreenReaderHearsItsTitleAndItsZoom) {
-  EXPECT_EQ(host_.Tell().name, "Map");
-  EXPECT_EQ(host_.Tell().value, "zoom 50 %");
-  EXPECT_TRUE(host_.Tell().isPicture);
+  EXPECT_EQ(host_.Announcement().name, "Map");
+  EXPECT_EQ(host_.Announcement().value, "zoom 50 %");
+  EXPECT_TRUE(host_.Announcement().isPicture);
   hosted_.Viewer().Show({});
-  EXPECT_EQ(host_.Tell().value, "no picture");
+  EXPECT_EQ(host_.Announcement().value, "no picture");
 }
 
 }  // namespace

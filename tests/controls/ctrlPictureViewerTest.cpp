@@ -63,7 +63,7 @@ TEST_F(PictureViewerTest, WithoutAPictureItIsEmpty) {
   EXPECT_EQ(viewer_.Pointer(), PointerShape::Arrow);
 }
 
-TEST_F(PictureViewerTest, APictureOfAnotherSizeThanItSaysIsRefused) {
+TEST_F(PictureViewerTest, APictureWhosePixelsDoNotMatchItsSizeIsRefused) {
   EXPECT_THROW(viewer_.Show({{3, 3}, {1, 2}}), std::invalid_argument);
   EXPECT_EQ(Place(), (Area{0, 25, 100, 75})) << "the one before is still shown";
 }

@@ -26,7 +26,7 @@ void ExpectNear(const std::optional<Vector>& x, const Vector& expected, double t
   for (std::size_t i = 0; i < 4; ++i) EXPECT_NEAR((*x)[i], expected[i], tolerance) << i;
 }
 
-TEST(BoundedLeastSquares, WithoutRequirementsIsTheFreeMinimum) {
+TEST(BoundedLeastSquares, WithoutRequirementsIsTheUnconstrainedMinimum) {
   ExpectNear(NearestTo({1, -2, 3, 4}).Solve(), {1, -2, 3, 4});
 }
 
@@ -44,7 +44,7 @@ TEST(BoundedLeastSquares, GoesToTheNearestPointOfACorner) {
   ExpectNear(problem.Solve(), {1, 2, 0, 0});
 }
 
-TEST(BoundedLeastSquares, LetsGoOfARequirementThatAnotherReplaces) {
+TEST(BoundedLeastSquares, DropsARequirementThatAnotherReplaces) {
   // x >= 1 is broken most and comes in first; x + y >= 4 then carries the point beyond it.
   BoundedLeastSquares problem = NearestTo({-5, 5, 0, 0});
   problem.Require({1, 0, 0, 0}, 1);
@@ -52,14 +52,14 @@ TEST(BoundedLeastSquares, LetsGoOfARequirementThatAnotherReplaces) {
   ExpectNear(problem.Solve(), {1, 11, 0, 0});
 }
 
-TEST(BoundedLeastSquares, SaysWhenRequirementsContradictEachOther) {
+TEST(BoundedLeastSquares, HasNoSolutionWhereRequirementsContradictEachOther) {
   BoundedLeastSquares problem = NearestTo({0, 0, 0, 0});
   problem.Require({1, 1, 0, 0}, 1);
   problem.Require({-1, -1, 0, 0}, 1);
   EXPECT_FALSE(problem.Solve());
 }
 
-TEST(BoundedLeastSquares, SaysWhenTargetsLeaveAnUnknownOpen) {
+TEST(BoundedLeastSquares, HasNoSolutionWhereTargetsLeaveAnUnknownOpen) {
   BoundedLeastSquares problem;
   problem.AddTarget({1, 0, 0, 0}, 1, 1);
   EXPECT_FALSE(problem.Solve());

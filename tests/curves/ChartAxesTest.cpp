@@ -16,7 +16,7 @@ TEST(RoundInterval, DividesTheRangeIntoRoundSteps) {
   EXPECT_EQ(RoundInterval(7.777), std::nullopt);
 }
 
-TEST(DividesRange, WantsWholeSteps) {
+TEST(DividesRange, RequiresWholeSteps) {
   EXPECT_TRUE(DividesRange(0.4, 0.05));
   EXPECT_TRUE(DividesRange(7, 7));
   EXPECT_FALSE(DividesRange(7, 2));

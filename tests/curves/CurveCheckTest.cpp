@@ -55,14 +55,15 @@ TEST(CheckCurves, NamesEachRuleThatIsBroken) {
       {"interval of the R axis", [](CurveSet& s) { s.RInterval = 0.07; }},
       {"Curve 2 (E = 60%) has numbers that are not finite",
        [=](CurveSet& s) { s.Curves[1].C = nan; }},
-      {"Curve 1 (E = 50%) does not end at a larger volume",
+      {"Curve 1 (E = 50%) must begin above V = 0 and end at a larger volume",
        [](CurveSet& s) { s.Curves[0].VEnd = 1; }},
-      {"Curve 3 (E = 170%) has no efficiency", [](CurveSet& s) { s.Curves[2].E = 170; }},
+      {"Curve 3 (E = 170%) has an efficiency that is not between 0 and 100%",
+       [](CurveSet& s) { s.Curves[2].E = 170; }},
       {"Curve 3 (E = 60%) does not have a higher efficiency",
        [](CurveSet& s) { s.Curves[2].E = 60; }},
       {"Curve 3 (E = 70%) does not fall everywhere", [](CurveSet& s) { s.Curves[2].D = 0.02; }},
-      {"Curve 1 (E = 50%) leaves the volumes", [](CurveSet& s) { s.Curves[0].VEnd = 7.1; }},
-      {"Curve 3 (E = 70%) leaves the reuse rates", [](CurveSet& s) { s.Curves[2].A = 0.45; }},
+      {"Curve 1 (E = 50%) goes beyond the V axis", [](CurveSet& s) { s.Curves[0].VEnd = 7.1; }},
+      {"Curve 3 (E = 70%) goes beyond the R axis", [](CurveSet& s) { s.Curves[2].A = 0.45; }},
       {"Curve 2 (E = 60%) crosses the curve before it", [](CurveSet& s) { s.Curves[1].B = -0.09; }},
       {"Curve 2 (E = 60%) comes too close", [](CurveSet& s) { s.Curves[1].A = 0.201; }},
       {"label \"E=50%\" lies outside", [](CurveSet& s) { s.Labels[0].R = 0.41; }},
@@ -74,14 +75,14 @@ TEST(CheckCurves, NamesEachRuleThatIsBroken) {
   }
 }
 
-TEST(CheckCurves, SeesACrossingBeforeTheUpperCurveBegins) {
+TEST(CheckCurves, FindsACrossingBeforeTheUpperCurveBegins) {
   // Curve 2 begins at 3 but is evaluated from 1 on, where it lies below curve 1.
   CurveSet set = GoodSet();
   set.Curves = {Curve(50, 1, 0.3, -0.1), Curve(60, 3, 0.27, -0.05)};
   EXPECT_THAT(Check(set), ElementsAre(HasSubstr("crosses the curve before it at V = 1.00 in")));
 }
 
-TEST(CheckCurves, KnowsThatNoPondUsesMoreThanArrives) {
+TEST(CheckCurves, RefusesACurveWithLessReuseThanItsEfficiencyNeeds) {
   // Curve 1 ends at 0.1027 in/day: enough for 50% of 0.2 in/day, not of 0.21.
   EXPECT_THAT(Check(GoodSet(), 0.2), IsEmpty());
   EXPECT_THAT(Check(GoodSet(), 0.21),

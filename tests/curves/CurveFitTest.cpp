@@ -30,7 +30,7 @@ std::vector<RateBand> BandsOf(Rate rate, double halfWidth) {
 
 const FitLimits kWide{.MostError = 1, .VStart = 1, .VEnd = 7, .MostR = 9, .LeastR = 0};
 
-TEST(FitCurve, FindsACubicInLnVAgain) {
+TEST(FitCurve, RecoversACubicInLnV) {
   const EfficiencyCurve cubic = Cubic(0.4, -0.2, 0.05, -0.006);
   const auto fitted = FitCurve(BandsOf([&](double V) { return CurveR(V, cubic); }, 0.01), kWide);
   ASSERT_TRUE(fitted);
@@ -72,7 +72,7 @@ TEST(FitCurve, StaysAboveItsNeighbourAlsoBeforeItsOwnStart) {
   EXPECT_LT(LargestSlope(*fitted, 0.5, 7), 0);
 }
 
-TEST(FitCurve, ObeysTheLimitsOfTheAxisAndOfTheRunoff) {
+TEST(FitCurve, KeepsTheLimitsOfTheAxisAndOfTheRunoff) {
   const EfficiencyCurve cubic = Cubic(0.4, -0.2, 0.05, -0.006);
   const auto bands = BandsOf([&](double V) { return CurveR(V, cubic); }, 0.02);
   FitLimits limits = kWide;

@@ -7,7 +7,7 @@
 namespace orvik {
 namespace {
 
-TEST(CurveLabels, StandOnceForEachCurveInsideTheChart) {
+TEST(CurveLabels, ArePlacedOnceForEachCurveInsideTheChart) {
   const CurveSet set = MakeCurves(BuildPondDays(test::IrregularRain(), {}), {}, "x").Set;
   ASSERT_EQ(set.Labels.size(), set.Curves.size());
   EXPECT_EQ(set.Labels[6].Text, "E=80%");
@@ -19,7 +19,7 @@ TEST(CurveLabels, StandOnceForEachCurveInsideTheChart) {
   }
 }
 
-TEST(CurveLabels, StandAboveTheirCurveAndBelowTheNext) {
+TEST(CurveLabels, ArePlacedAboveTheirCurveAndBelowTheNext) {
   const CurveSet set = MakeCurves(BuildPondDays(test::IrregularRain(), {}), {}, "x").Set;
   for (std::size_t i = 0; i < set.Labels.size(); ++i) {
     const CurveLabel& label = set.Labels[i];
@@ -30,7 +30,7 @@ TEST(CurveLabels, StandAboveTheirCurveAndBelowTheNext) {
   }
 }
 
-TEST(CurveLabels, ReplaceThoseThatStoodThere) {
+TEST(CurveLabels, ReplaceTheOldLabels) {
   CurveSet set;
   set.VMax = 7;
   set.RMax = 0.4;

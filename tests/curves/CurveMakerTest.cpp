@@ -131,7 +131,7 @@ Refused RefusalOf(const PondDays& days, const ChartAxes& axes) {
   return {"not refused", {}};
 }
 
-TEST(MakeCurves, RefusesAxesThatAreTooSmallAndSaysWhatHelps) {
+TEST(MakeCurves, RefusesAxesThatAreTooSmallAndSaysWhatWouldHelp) {
   const ChartAxes low{.RMax = 0.1, .RInterval = 0.02};
   const auto [sentence, remedy] = RefusalOf(SampleDays(), low);
   EXPECT_THAT(sentence, testing::HasSubstr("No curve for E = "));

@@ -47,7 +47,7 @@ TEST(ShippedRain, EveryStationHasARecord) {
   }
 }
 
-TEST(ShippedRain, IsReadAsItStandsInTheTable) {
+TEST(ShippedRain, MatchesTheTableOfChecksums) {
   for (const RecordSum& sum : ReadTable()) {
     const RainRecord record = ReadRainRecord(kRainFolder + sum.file, RainUnit::Inches);
     EXPECT_EQ(record.Findings.Rows, sum.rows) << sum.file;

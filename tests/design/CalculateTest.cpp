@@ -133,7 +133,7 @@ TEST_F(CalculateTest, AnInteractivePointGivesTheSiteValues) {
   EXPECT_EQ(found.Text(Field::SolveFor3), "1.25");
 }
 
-TEST_F(CalculateTest, APointBesideTheCurvesKeepsItsPlaceAndSaysSo) {
+TEST_F(CalculateTest, APointOutsideTheCurvesKeepsItsPlaceAndHasAMessage) {
   Project project = Site(SolveFor::Interactive);
   EXPECT_FALSE(PlaceUsingRV(project.point, &curves_, 0.39, 0.5));
   const Result result = Calculate(project, &curves_);
@@ -142,7 +142,7 @@ TEST_F(CalculateTest, APointBesideTheCurvesKeepsItsPlaceAndSaysSo) {
   EXPECT_EQ(WithResult(project, result).Text(Field::E), "");
 }
 
-TEST_F(CalculateTest, FollowingAPointWithoutASiteMissesData) {
+TEST_F(CalculateTest, FollowingAPointWithoutASiteLacksData) {
   Project project;
   ASSERT_TRUE(PlaceUsingRV(project.point, &curves_, 0.125, 3));
   const Result result = FollowPoint(project);
@@ -176,10 +176,10 @@ TEST_F(CalculateTest, DataAreDefinedWhenEveryGivenFieldIsANumber) {
 }
 
 TEST_F(CalculateTest, WithoutAResultThereIsAReason) {
-  EXPECT_EQ(WhyWithoutResults(Site(SolveFor::None), ""), "No solve-for mode is chosen.");
-  EXPECT_EQ(WhyWithoutResults(Site(SolveFor::Interactive), ""), "No point is placed on the chart.");
-  EXPECT_EQ(WhyWithoutResults(Site(SolveFor::Efficiency), "Out"), "Out");
-  EXPECT_EQ(WhyWithoutResults(Site(SolveFor::Efficiency), ""), "");
+  EXPECT_EQ(WhyNoResult(Site(SolveFor::None), ""), "No solve-for mode is chosen.");
+  EXPECT_EQ(WhyNoResult(Site(SolveFor::Interactive), ""), "No point is placed on the chart.");
+  EXPECT_EQ(WhyNoResult(Site(SolveFor::Efficiency), "Out"), "Out");
+  EXPECT_EQ(WhyNoResult(Site(SolveFor::Efficiency), ""), "");
 }
 
 // 0.875 in/week on 5 ac: 0.875 / 12 / 7 x 217800 x 7.480519 = 16971.4 gallons a day.

@@ -11,7 +11,7 @@ TEST(Conversions, OneInchPerWeekOnOneAcreInGallonsPerDay) {
   EXPECT_EQ(InchesPerWeek_To_GPD("1", "1"), "3879.183");
 }
 
-TEST(Conversions, GallonsPerDayOfATextThatIsNoNumberAreThoseOfZero) {
+TEST(Conversions, GallonsPerDayOfATextThatIsNotANumberAreThoseOfZero) {
   EXPECT_EQ(InchesPerWeek_To_GPD("", "1"), "0");
   EXPECT_EQ(InchesPerWeek_To_GPD("1", "acre"), "0");
   EXPECT_EQ(InchesPerWeek_To_GPD("1 in", "1 ac"), "3879.183") << "the numeric prefix counts";
@@ -60,7 +60,7 @@ TEST(Conversions, TheOrderOfOperationsIsPartOfTheResult) {
   EXPECT_EQ(InchesPerWeek_To_GPD("0.9", "28.6"), "99850.19");
 }
 
-TEST(Conversions, NoSignIsRefused) {
+TEST(Conversions, NegativeNumbersAreConverted) {
   std::string site;
   Message message;
   EXPECT_TRUE(NormalizedReuseToSiteReuse("-0.125", "5", "5", site, message));

@@ -40,7 +40,7 @@ TEST(Fields, HaveTheirCaptionsAndNames) {
   EXPECT_EQ(PlainCaption(ListField::SolveForMode), "Solve for");
 }
 
-TEST(Fields, StandInTheTableAtTheirOwnPlaces) {
+TEST(Fields, AreInTheTableAtTheirOwnPlaces) {
   for (std::size_t i = 0; i < kFields; ++i) {
     EXPECT_EQ(static_cast<std::size_t>(Fields()[i].id), i) << Fields()[i].control;
   }

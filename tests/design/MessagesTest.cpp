@@ -6,7 +6,7 @@
 namespace orvik {
 namespace {
 
-TEST(Messages, AValueStandsInItsPlace) {
+TEST(Messages, AValueReplacesItsPlaceholder) {
   EXPECT_EQ(Sentence({MessageId::VolumeAboveAxis, "7"}),
             "Normalized storage volume is greater than 7");
   EXPECT_EQ(Sentence({MessageId::EfficiencyBelowCurves, "50"}),
@@ -16,7 +16,7 @@ TEST(Messages, AValueStandsInItsPlace) {
             "Can't find data path:\r\nC:\\x\\");
 }
 
-TEST(Messages, AValueIsNotReadForPlaces) {
+TEST(Messages, AValueIsNotSearchedForPlaceholders) {
   EXPECT_EQ(Sentence({MessageId::CurveFileMissing, "{}"}), "Can't find data for {}");
 }
 
@@ -41,7 +41,7 @@ TEST(OutcomeMessage, LimitsOfTheCurvesAreShownInSinglePrecision) {
   EXPECT_EQ(MessageOf({OutcomeKind::RateAboveAxis, 0.4}).value, "0.4");
 }
 
-TEST(OutcomeMessage, OnlyAMissingFolderOrFileOfCurvesIsTold) {
+TEST(OutcomeMessage, OnlyAMissingFolderOrFileOfCurvesHasAMessage) {
   EXPECT_EQ(Sentence(MessageOf(LoadOutcome::FolderMissing, "/x/", 23)),
             "Can't find data path:\r\n/x/");
   EXPECT_EQ(Sentence(MessageOf(LoadOutcome::FileMissing, "/x/", 23)), "Can't find data for Tampa");

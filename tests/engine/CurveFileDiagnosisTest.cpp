@@ -6,13 +6,13 @@
 namespace orvik {
 namespace {
 
-TEST(DiagnoseCurveFile, KnowsLinesThatEndWithALineFeedAlone) {
+TEST(DiagnoseCurveFile, RecognisesLinesThatEndWithALineFeedAlone) {
   const test::TempFolder folder;
   EXPECT_EQ(DiagnoseCurveFile(folder.Write("a.crv", "title\n0\n7\n")),
             "its lines must end with CR LF");
 }
 
-TEST(DiagnoseCurveFile, SaysNothingOfOtherDamage) {
+TEST(DiagnoseCurveFile, IsEmptyForOtherDamage) {
   const test::TempFolder folder;
   for (const char* text : {"", "title", "title\r\n0\r\n", "title\r0\r", "title\r\n0\n"}) {
     EXPECT_EQ(DiagnoseCurveFile(folder.Write("a.crv", text)), "") << text;

@@ -55,7 +55,7 @@ TEST(FindPolygon, LeavesASinglePixelUnclosed) {
 
 const FramePolygon kSquare{{0, 10, 10, 0, 0}, {0, 0, 10, 10, 0}};
 
-TEST(IsPointInsidePolygon, KnowsTheInsideOfASquare) {
+TEST(IsPointInsidePolygon, FindsTheInsideOfASquare) {
   EXPECT_TRUE(IsPointInsidePolygon(5, 5, kSquare));
   EXPECT_FALSE(IsPointInsidePolygon(-1, 5, kSquare));
   EXPECT_FALSE(IsPointInsidePolygon(11, 5, kSquare));
@@ -63,7 +63,7 @@ TEST(IsPointInsidePolygon, KnowsTheInsideOfASquare) {
   EXPECT_FALSE(IsPointInsidePolygon(5, 11, kSquare));
 }
 
-TEST(IsPointInsidePolygon, TakesEdgesHalfOpenInY) {
+TEST(IsPointInsidePolygon, TreatsEdgesAsHalfOpenInY) {
   // The ray goes to the right and meets each edge with lower end <= Y < upper end. At X = 0 it
   // meets both sides of the square, at X = 1 only the right one, at X = 10 (on the right side) that
   // one too.

@@ -68,7 +68,7 @@ TEST_F(SolverTest, FindsTheRateOfACurveAtAVolume) {
   EXPECT_DOUBLE_EQ(answer.solution->R, 0.225 - 0.05 * std::log(3.0));
 }
 
-TEST_F(SolverTest, ARefusalNamesTheLimitThatItMet) {
+TEST_F(SolverTest, ARefusalNamesItsLimit) {
   EXPECT_EQ(solver_.FindE(0.1, -0.001).outcome, (Outcome{VolumeBelowAxis, 0}));
   EXPECT_EQ(solver_.FindE(0.1, 7.001).outcome, (Outcome{VolumeAboveAxis, 7}));
   EXPECT_EQ(solver_.FindE(-0.001, 3).outcome, (Outcome{RateBelowAxis, 0}));
@@ -102,7 +102,7 @@ TEST_F(SolverTest, VolumesBeyondTheEndOfACurveThatEndsEarlyAreRefused) {
   EXPECT_EQ(Solver(&curves).FindR(70, 5.5).outcome, (Outcome{VolumeAboveCurve, 5}));
 }
 
-TEST_F(SolverTest, APointBesideTheCurvesIsBetweenNoTwo) {
+TEST_F(SolverTest, APointOutsideTheCurvesIsBetweenNoTwo) {
   const Answer answer = solver_.FindE(0.39, 0.5);
   EXPECT_EQ(answer.outcome, (Outcome{PointOffCurves, 0}));
   EXPECT_FALSE(answer.solution);
@@ -125,7 +125,7 @@ TEST(Solver, WithoutCurvesNothingIsSolved) {
 }
 
 // Curves 2 and 3 leave the 16-bit pixels; whoever asks between curves 1 and 2 never meets them.
-TEST(Solver, OnlyAQuestionThatComesToUnusableCurvesIsAFault) {
+TEST(Solver, OnlyAQuestionThatNeedsTheUnusableCurvesIsAFault) {
   CurveSet set = Set();
   set.Curves.push_back(Curve(95, 1e6, 2));
   const FramedCurves curves = Framed(std::move(set));

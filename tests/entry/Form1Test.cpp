@@ -60,7 +60,7 @@ TEST_F(Form1Test, ListsTheFourModesAndSelectsInteractive) {
   EXPECT_EQ(form_->Chart().InteractiveMode(), kTrue16);
 }
 
-TEST_F(Form1Test, TheTitleTellsTheVersionWithFourDigitsOfBuildNumber) {
+TEST_F(Form1Test, TheTitleShowsTheVersionWithFourDigitsOfBuildNumber) {
   EXPECT_EQ(toolkit_.Caption("Form1"),
             "KAV - ORVIK 3.3 Stormwater Harvesting Module (Ver 3.3.0001)");
 }

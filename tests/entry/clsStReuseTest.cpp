@@ -118,7 +118,7 @@ TEST_F(clsStReuseTest, AnEmptyProjectTextOpensOnDefaultData) {
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(clsStReuseTest, NoiseAsAProjectIsToldAndTheWindowOpens) {
+TEST_F(clsStReuseTest, ForATextThatIsNotAProjectAnErrorIsShownAndTheWindowOpens) {
   p3_ = "noise";
   bool shown = false;
   EXPECT_EQ(Show(2, [&] { shown = true; }), 0);
@@ -129,7 +129,7 @@ TEST_F(clsStReuseTest, NoiseAsAProjectIsToldAndTheWindowOpens) {
   EXPECT_EQ(p3_, "noise");
 }
 
-TEST_F(clsStReuseTest, HalfAProjectIsToldAndTheWindowOpensEmpty) {
+TEST_F(clsStReuseTest, ForHalfAProjectAnErrorIsShownAndTheWindowOpensEmpty) {
   auto lines = ProjectLines();
   lines.pop_back();
   p3_ = ProjectText(lines);
@@ -159,7 +159,7 @@ TEST_F(clsStReuseTest, AnotherModeThanTheTwoReadsTheTextsAsAHostsProject) {
 
 // --- The host's basin ---
 
-TEST_F(clsStReuseTest, TheHostsBasinTakesThePlaceOfTheProjects) {
+TEST_F(clsStReuseTest, TheHostsBasinReplacesTheProjects) {
   for (const char* separator : {"\r\n", "\n", "\r"}) {
     p3_ = ProjectText();
     p2_ = std::string("20") + separator + "0.25" + separator;
@@ -194,7 +194,7 @@ TEST_F(clsStReuseTest, ASingleItemSetsNeitherBasinFieldNorCoefficient) {
   }
 }
 
-TEST_F(clsStReuseTest, ItemsThatAreNoNumbersStandInTheFieldsAndAreTold) {
+TEST_F(clsStReuseTest, ItemsThatAreNotNumbersAreShownInTheFieldsWithAMessage) {
   p2_ = "wide\r\nbig\r\nmore";
   p3_ = ProjectText();
   EXPECT_EQ(Show(2,
@@ -229,7 +229,7 @@ TEST_F(clsStReuseTest, StandAloneIgnoresAFileThatIsNotThere) {
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(clsStReuseTest, StandAloneTellsOfAFileThatCannotBeRead) {
+TEST_F(clsStReuseTest, StandAloneShowsAnErrorForAFileThatCannotBeRead) {
   p2_ = folder_.Write("pond.kav", "Dear Sir,\r\n");
   EXPECT_EQ(Show(1, [] {}), 0);
   ASSERT_FALSE(desktop_.Messages().empty());
@@ -280,7 +280,7 @@ TEST_F(clsStReuseTest, AWindowLeftFromPrintingOpensOnDefaultData) {
   EXPECT_EQ(Show(2, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
 }
 
-TEST_F(clsStReuseTest, AReturnCodeLeftFromBeforeIsNoAnswer) {
+TEST_F(clsStReuseTest, AReturnCodeFromBeforeDoesNotCount) {
   module_.Window().ReturnCode(1);
   EXPECT_EQ(Show(1, [this] { toolkit_.CloseByFrame("Form1"); }), 0);
   EXPECT_EQ(p3_, "");
@@ -336,13 +336,13 @@ TEST_F(clsStReuseTest, PrintsAnEmptyProjectForAnEmptyText) {
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(clsStReuseTest, ATextThatIsNoProjectIsTold) {
+TEST_F(clsStReuseTest, PrintingATextThatIsNotAProjectShowsAnError) {
   RecordingPrinter printer;
   entry_.Print_Remote(&printer, 2, "", "noise");
   EXPECT_EQ(desktop_.Messages().back().text, "Error reading data.");
 }
 
-TEST_F(clsStReuseTest, WithoutAPrinterTheUserIsTold) {
+TEST_F(clsStReuseTest, WithoutAPrinterAnErrorIsShown) {
   entry_.Print_Remote(nullptr, 2, "", ProjectText());
   ASSERT_EQ(desktop_.Messages().size(), 1U);
   EXPECT_EQ(desktop_.Messages()[0],

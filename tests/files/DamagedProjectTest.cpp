@@ -96,7 +96,7 @@ TEST_F(DamagedProject, NoiseIsRefused) {
   EXPECT_FALSE(Load("KAV3.3.01\r\n" + noise.substr(0, 3)));
 }
 
-TEST_F(DamagedProject, NoiseBehindAGoodFirstLineNeverCrashes) {
+TEST_F(DamagedProject, NoiseAfterAGoodFirstLineNeverCrashes) {
   std::mt19937 random(8);
   for (int round = 0; round < 200; ++round) {
     auto lines = ProjectLines(std::to_string(round % 5 - 1));

@@ -46,7 +46,7 @@ TEST_F(FileMenu, OpensAProject) {
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeavesTheWindowCleared) {
+TEST_F(FileMenu, AFileThatCannotBeReadShowsAnErrorAndLeavesTheWindowCleared) {
   SolveForEfficiency();
   Open(folder_ / "missing.kav");
   ASSERT_EQ(desktop_.Messages().size(), 1U);
@@ -55,7 +55,7 @@ TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeavesTheWindowCleared) {
   EXPECT_EQ(Text("txtBasinArea"), "");
 }
 
-TEST_F(FileMenu, AForeignFileIsToldTwice) {
+TEST_F(FileMenu, AForeignFileShowsTwoErrors) {
   Open(folder_.Write("letter.txt", "Dear Sir,\r\n"));
   ASSERT_EQ(desktop_.Messages().size(), 2U);
   EXPECT_EQ(desktop_.Messages()[0].text,
@@ -63,7 +63,7 @@ TEST_F(FileMenu, AForeignFileIsToldTwice) {
   EXPECT_EQ(desktop_.Messages()[1].text, "Error reading data file.");
 }
 
-TEST_F(FileMenu, AnotherVersionIsToldTwice) {
+TEST_F(FileMenu, AnotherVersionShowsTwoErrors) {
   Open(folder_.Write("new.kav", "KAV3.3.02\r\n"));
   ASSERT_EQ(desktop_.Messages().size(), 2U);
   EXPECT_EQ(desktop_.Messages()[0].text, "Invalid file version.");
@@ -173,14 +173,14 @@ TEST_F(FileMenu, AFailedSaveKeepsTheGoodFile) {
                                std::filesystem::perm_options::add);
 }
 
-TEST_F(FileMenu, AFolderOfTheNameIsLeftAlone) {
+TEST_F(FileMenu, AFolderWithTheNameIsLeftAlone) {
   folder_.Write("Pond.kav/inside", "x");
   SaveAs(folder_ / "Pond.kav");
   EXPECT_TRUE(FileExists(folder_ / "Pond.kav/inside"));
   EXPECT_EQ(CurrentPath(), "");
 }
 
-TEST_F(FileMenu, AFileThatHappensToLieBesideIsNotTouched) {
+TEST_F(FileMenu, AFileThatHappensToBeInTheFolderIsNotTouched) {
   folder_.Write("Projects/~saving1.kav", "the user's own");
   SaveAs(folder_ / "Projects/Pond.kav");
   EXPECT_TRUE(FileExists(folder_ / "Projects/Pond.kav"));
@@ -224,7 +224,7 @@ TEST_F(FileMenu, AFailedSaveStillMovesTheDialogs) {
   EXPECT_EQ(desktop_.FileDialogs().back().startFolder, FolderOf(folder_ / "Other/Pond.kav"));
 }
 
-TEST_F(FileMenu, AnUnknownDocumentsFolderIsEmptyAndSaysWhy) {
+TEST_F(FileMenu, AnUnknownDocumentsFolderIsEmptyWithAReason) {
   desktop_.DocumentsFolder(std::nullopt);
   std::string error;
   EXPECT_EQ(form_->Files().GetMyDocumentsFolder(error), "");

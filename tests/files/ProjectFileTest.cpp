@@ -142,7 +142,7 @@ TEST_F(ProjectFileTest, FourteenLinesInTheInteractiveModeFailWithoutAMessageOfTh
   EXPECT_EQ(Text("txtIrrigationArea"), "5") << "fields before the fault keep their values";
 }
 
-TEST_F(ProjectFileTest, AStationThatIsNoWholeNumberStopsAfterTheDescription) {
+TEST_F(ProjectFileTest, AStationThatIsNotAWholeNumberStopsAfterTheDescription) {
   for (const char* station : {"abc", "2.5", "", "99999", "1E1"}) {
     SCOPED_TRACE(station);
     auto lines = ProjectLines();
@@ -154,7 +154,7 @@ TEST_F(ProjectFileTest, AStationThatIsNoWholeNumberStopsAfterTheDescription) {
   }
 }
 
-TEST_F(ProjectFileTest, AModeThatIsNoWholeNumberStopsAfterTheStation) {
+TEST_F(ProjectFileTest, AModeThatIsNotAWholeNumberStopsAfterTheStation) {
   auto lines = ProjectLines();
   lines[10] = "two";
   EXPECT_FALSE(Read(ProjectText(lines)));
@@ -186,12 +186,12 @@ TEST_F(ProjectFileTest, AnyFlagThatIsNotZeroShowsThePoint) {
   EXPECT_FALSE(Read(ProjectText(ProjectLines("0", {"1", "0.125"}))));
 }
 
-TEST_F(ProjectFileTest, APointOutsideTheChartIsTold) {
+TEST_F(ProjectFileTest, APointOutsideTheChartShowsAMessage) {
   EXPECT_TRUE(Read(ProjectText(ProjectLines("0", {"1", "0.125", "30"}))));
   EXPECT_EQ(Message(), "Normalized storage volume is greater than 7");
 }
 
-TEST_F(ProjectFileTest, NumbersAreReadAsTheyStand) {
+TEST_F(ProjectFileTest, TextsOfNumbersAreReadUnchanged) {
   auto lines = ProjectLines();
   lines[11] = " ten ";
   EXPECT_TRUE(Read(ProjectText(lines)));

@@ -108,7 +108,7 @@ TEST(CairoImageSurface, CopiesAsMuchOfAPictureAsFits) {
   EXPECT_EQ(PixelAt(surface, 1, 1), 0x010203U);
 }
 
-TEST(CairoImageSurface, APictureThatCannotBeIsRefused) {
+TEST(CairoImageSurface, APictureThatCannotExistIsRefused) {
   EXPECT_THROW(CairoImageSurface({-1, 10}), std::runtime_error);
   EXPECT_THROW(CairoImageSurface({1 << 20, 1 << 20}), std::runtime_error);
   CairoImageSurface surface({4, 4});

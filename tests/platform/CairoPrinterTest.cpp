@@ -50,7 +50,7 @@ TEST(CairoPrinter, TheSameCallsAndDateMakeTheSameBytes) {
   EXPECT_THAT(TwoPages(PaperFormat::Letter, {{2026, 4, 17}, 9, 30, 6}), Ne(TwoPages()));
 }
 
-TEST(CairoPrinter, ADocumentThatIsGivenUpHasNoEnd) {
+TEST(CairoPrinter, ADiscardedDocumentHasNoEnd) {
   std::string bytes;
   {
     CairoPrinter printer(bytes, PaperFormat::Letter, kDate);

@@ -64,7 +64,7 @@ Area InkOf(const CairoImageSurface& surface) {
   return ink;
 }
 
-TEST(CairoText, StandsInItsCellWhicheverWayItReads) {
+TEST(CairoText, IsInItsCellWhicheverWayItReads) {
   const Size size = CairoText().Measure("Reuse", Arial(20));
   CairoImageSurface level({200, 200});
   level.WriteText({50, 60}, "Reuse", Arial(20), 0xFFFFFF);

@@ -22,7 +22,7 @@ std::string Svg(const std::function<void(Surface&)>& draw) {
   return MakePictureFile(PictureKind::Svg, {100, 50}, "A <title>", draw);
 }
 
-TEST(PictureFile, TheEndingOfTheNameSaysTheKind) {
+TEST(PictureFile, TheExtensionDecidesTheKind) {
   EXPECT_EQ(PictureKindOf("a.png"), PictureKind::Png);
   EXPECT_EQ(PictureKindOf("folder/b.SVG"), PictureKind::Svg);
   EXPECT_EQ(PictureKindOf("a.png.Pdf"), PictureKind::Pdf);

@@ -60,7 +60,7 @@ TEST(RecordingPrinter, KeepsTheUnprintableEdgesFree) {
   EXPECT_FALSE(printer.Supports(SurfaceFeature::ExclusiveOr));
 }
 
-TEST(RecordingPrinter, FailsWhenItIsToldTo) {
+TEST(RecordingPrinter, FailsOnTheChosenPage) {
   RecordingPrinter printer;
   printer.FailAfterPage(2);
   printer.NewPage();

@@ -49,7 +49,7 @@ TEST(RecordingSurface, MeasuresHalfTheHeightForEachCharacter) {
   EXPECT_THAT(surface.Calls(), ElementsAre());
 }
 
-TEST(RecordingSurface, AnswersWhetherItSupportsAFeatureAsItWasTold) {
+TEST(RecordingSurface, SupportsTheFeaturesThatItIsSetTo) {
   RecordingSurface surface;
   EXPECT_TRUE(surface.Supports(SurfaceFeature::ExclusiveOr));
   surface.Support(SurfaceFeature::ExclusiveOr, false);

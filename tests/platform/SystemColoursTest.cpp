@@ -7,7 +7,7 @@
 namespace orvik {
 namespace {
 
-TEST(SystemColours, AColourOfItsOwnChangesTheOrderOfItsBytes) {
+TEST(SystemColours, AnOrdinaryColourHasTheOrderOfItsBytesReversed) {
   EXPECT_EQ(RedGreenBlue(kRed), 0xFF0000U);
   EXPECT_EQ(RedGreenBlue(0x00123456), 0x563412U);
 }

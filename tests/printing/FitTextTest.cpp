@@ -39,7 +39,7 @@ TEST(WrapText, ACharacterThatIsTooWideGetsALineOfItsOwn) {
   EXPECT_THAT(WrapText("a\u00F1b", 0, Bytes), ElementsAre("a", "\u00F1", "b"));
 }
 
-TEST(WrapText, TearsNoCharacterAndNoAccentFromItsLetter) {
+TEST(WrapText, SplitsNoCharacterAndNoAccentFromItsLetter) {
   EXPECT_THAT(WrapText("\u00F1\u00F1\u00F1", 3, Bytes), ElementsAre("\u00F1", "\u00F1", "\u00F1"));
   EXPECT_THAT(WrapText("n\u0303o", 2, Bytes), ElementsAre("n\u0303", "o"));
   EXPECT_THAT(WrapText("\U0001F477\u200D\U0001F4A7x", 4, Bytes),

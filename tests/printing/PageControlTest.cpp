@@ -86,7 +86,7 @@ TEST_F(PageControl, TheBodyKeepsThreeQuartersOfAnInchOffThePapersSides) {
 
 // --- The header ---
 
-TEST_F(PageControl, TheHeaderTellsModuleDateTimeAndPage) {
+TEST_F(PageControl, TheHeaderShowsModuleDateTimeAndPage) {
   Begin();
   const auto calls = printer_.Calls();
   for (const char* text : {"\"ORVIK 3.3\" Arial 46 bold", "\"Stormwater Harvesting Module\"",

@@ -149,7 +149,7 @@ TEST_F(Report, BlanksAroundAValueAreNotPrinted) {
   EXPECT_THAT(texts, Contains("10 acres"));
 }
 
-TEST_F(Report, CaptionsAndValuesStandInTwoColumns) {
+TEST_F(Report, CaptionsAndValuesAreInTwoColumns) {
   TypeDescription();
   SolveForEfficiency();
   const auto pages = Print();
@@ -175,7 +175,7 @@ std::string Words(const std::vector<PrintedPage>& pages) {
   return words;
 }
 
-TEST_F(Report, SaysEachResultInASentenceWithUnits) {
+TEST_F(Report, NamesEachResultInASentenceWithUnits) {
   SolveForEfficiency();
   EXPECT_THAT(Words(Print()), HasSubstr("A pond that stores 1.25 acre-feet and irrigates 5 acres "
                                         "with 0.875 inches per week uses " +
@@ -422,7 +422,7 @@ TEST_F(PrintCommand, APrinterThatTakesNoDocumentIsNoPrinter) {
   EXPECT_TRUE(printer.Calls().empty());
 }
 
-TEST_F(PrintCommand, ADocumentThatTheUserCallsOffIsNoFault) {
+TEST_F(PrintCommand, ADocumentThatTheUserCancelsIsNoFault) {
   RecordingPrinter& printer = Connect();
   printer.AnswerStart(DocumentStart::CalledOff);
   toolkit_.ClickMenu("mnuFile_Print");

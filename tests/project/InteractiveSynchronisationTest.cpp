@@ -42,7 +42,7 @@ TEST_F(Interactive, AChangeFillsNormalizedAndSiteValues) {
   EXPECT_NEAR(Number("txtSolveFor(3)"), Number("txtV") / 2.4, 1e-6) << "acre-feet";
 }
 
-TEST_F(Interactive, WithoutAnIrrigationAreaThePointShowsAndMissingDataIsToldWithoutASound) {
+TEST_F(Interactive, WithoutAnIrrigationAreaThePointShowsAndMissingDataIsSilent) {
   TypeSite();
   TypeAndEnter("txtIrrigationArea", "");
   const int beeps = desktop_.Beeps();
@@ -76,7 +76,7 @@ TEST_F(Interactive, MissingDataLeaveTheBeepOffWhileThePointIsDragged) {
   EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kTrue16);
 }
 
-TEST_F(Interactive, AChangeTakesTheLastMessageAway) {
+TEST_F(Interactive, AChangeRemovesTheLastMessage) {
   TypeSite();
   PlaceAt(6.5, 0.38);
   ASSERT_EQ(Message(), "Out of range");
@@ -86,7 +86,7 @@ TEST_F(Interactive, AChangeTakesTheLastMessageAway) {
 }
 
 // R's site value fails before E does, V has nothing to say.
-TEST_F(Interactive, TheLastOfSeveralMessagesStands) {
+TEST_F(Interactive, TheLastOfSeveralMessagesRemains) {
   TypeSite();
   Type("txtIrrigationArea", "0");
   toolkit_.Leave("txtIrrigationArea");
@@ -99,7 +99,7 @@ TEST_F(Interactive, TheLastOfSeveralMessagesStands) {
   EXPECT_NEAR(Number("txtSolveFor(3)"), Number("txtV") / 2.4, 1e-6) << "does not need the area";
 }
 
-TEST_F(Interactive, APointOutsideTheCurvesHasNoEfficiencyAndSaysSo) {
+TEST_F(Interactive, APointOutsideTheCurvesHasAMessageAndNoEfficiency) {
   TypeSite();
   PlaceAt(6.5, 0.38);
   EXPECT_NE(Text("txtR"), "");
@@ -131,7 +131,7 @@ TEST_F(Interactive, AChangeInATypedModeLeavesTheSlots) {
   EXPECT_EQ(Text("txtR"), "0.125");
 }
 
-TEST_F(Interactive, AChangeInATypedModeTellsOfMissingDataToo) {
+TEST_F(Interactive, AChangeInATypedModeShowsMissingDataToo) {
   SolveForEfficiency();
   Type("txtIrrigationArea", "");
   form_->Chart().OnChange();
@@ -167,7 +167,7 @@ TEST_F(Interactive, ARecalculationFollowsThePoint) {
   EXPECT_NEAR(Number("txtSolveFor(3)"), Number("txtV") * 10 / 12, 1e-5);
 }
 
-TEST_F(Interactive, ARecalculationWithoutAPointSaysNothing) {
+TEST_F(Interactive, ARecalculationWithoutAPointShowsNoMessage) {
   TypeSite();
   PressReCalc();
   EXPECT_EQ(Message(), "");
@@ -323,7 +323,7 @@ TEST_F(Interactive, EnterPlacesThePointWhereTheSiteIsNotKnownYet) {
   EXPECT_EQ(Message(), "Missing data.");
 }
 
-TEST_F(Interactive, TypedNumbersOutOfRangeAreTold) {
+TEST_F(Interactive, TypedNumbersOutOfRangeShowAMessage) {
   TypeSite("Orlando");
   TypeNumbers("3", "", "27");
   PressReCalc();
@@ -357,7 +357,7 @@ TEST_F(Interactive, AnotherStationKeepsThePointAndGivesItItsOwnEfficiency) {
   EXPECT_EQ(Text("txtSolveFor(2)"), Text("txtE"));
 }
 
-TEST_F(Interactive, AStationWhoseChartDoesNotReachThePointSaysSo) {
+TEST_F(Interactive, AStationWhoseChartDoesNotReachThePointShowsAMessage) {
   TypeSite("Orlando");
   PlaceAt(12, 2);
   Choose("cmbClimateStation", "Tampa");
@@ -366,7 +366,7 @@ TEST_F(Interactive, AStationWhoseChartDoesNotReachThePointSaysSo) {
   EXPECT_EQ(Text("txtR") + Text("txtE") + Text("txtV"), "");
 }
 
-TEST_F(Interactive, AHotspotThatWasOnlyTakenAwayIsNoMessage) {
+TEST_F(Interactive, AHotspotThatWasOnlyHiddenShowsNoMessage) {
   SolveForEfficiency();
   TypeAndEnter("txtSolveFor(1)", "");
   Choose("cmbSolveFor", "Interactive");

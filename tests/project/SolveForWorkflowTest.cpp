@@ -58,7 +58,7 @@ TEST_F(SolveForWorkflowTest, FindsTheReuseRate) {
   EXPECT_NEAR(Number("txtSolveFor(3)"), R * 7, 7e-7);
 }
 
-TEST_F(SolveForWorkflowTest, AGivenEfficiencyIsShownAsANumberOfOurs) {
+TEST_F(SolveForWorkflowTest, AGivenEfficiencyIsShownInOurNumberFormat) {
   TypeSite();
   for (const char* mode : {"Storage Volume", "Reuse Rate"}) {
     Solve(mode, " 060.50 ", "0.875");
@@ -126,7 +126,7 @@ TEST_F(SolveForWorkflowTest, TheSolvedReuseRateIsCalculatedInSinglePrecision) {
 }
 
 // A solution of one mode does not stand, locked, as if it were the next mode's.
-TEST_F(SolveForWorkflowTest, AModeThatLacksNumbersShowsNothingOfTheLastOne) {
+TEST_F(SolveForWorkflowTest, AModeThatLacksNumbersShowsNothingOfThePreviousOne) {
   SolveForEfficiency();
   Type("txtSolveFor(1)", "");
   TypeAndEnter("txtSolveFor(2)", "5000");  // lacks the storage volume

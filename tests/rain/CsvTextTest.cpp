@@ -15,7 +15,7 @@ TEST(CsvLines, EndAtLfOrCrLf) {
   EXPECT_EQ(lines.Next(), std::nullopt);
 }
 
-TEST(SplitCsvLine, TakesQuotedFieldsApart) {
+TEST(SplitCsvLine, SeparatesQuotedFields) {
   struct Case {
     const char* line;
     std::vector<std::string> fields;

@@ -19,7 +19,7 @@ TEST(ParseRainDate, ReadsIsoAndUsDates) {
   }
 }
 
-TEST(ParseRainDate, RefusesWhatIsNoDate) {
+TEST(ParseRainDate, RefusesWhatIsNotADate) {
   for (const char* text : {"", "1960", "1960-13-01", "1960-02-30", "1900-02-29", "1/2/60",
                            "31/12/1999", "1960/05/01", "1960-5-1", "5-1-1960", "May 1, 1960",
                            "1960-05-01T00:00", "0/1/1960", "//", "1960-0x-01"}) {

@@ -64,11 +64,12 @@ TEST(RainRecord, TakesTheColumnsThatTheUserNames) {
 }
 
 TEST(RainRecord, ColumnsThatAreNotFoundAreNamed) {
-  EXPECT_THAT(ErrorOf("when,prcp\n"), HasSubstr("hold the date. Its columns are: when, prcp."));
-  EXPECT_THAT(ErrorOf("date,snow\n"), HasSubstr("hold the rainfall depth"));
+  EXPECT_THAT(ErrorOf("when,prcp\n"),
+              HasSubstr("no column with a known name for the date. Its columns are: when, prcp."));
+  EXPECT_THAT(ErrorOf("date,snow\n"), HasSubstr("a known name for the rainfall depth"));
   EXPECT_THAT(ErrorOf("date,prcp\n", {.Date = "", .Depth = "rain"}),
               HasSubstr("no column \"rain\""));
-  EXPECT_THAT(ErrorOf(""), HasSubstr("no line that names its columns"));
+  EXPECT_THAT(ErrorOf(""), HasSubstr("no header line"));
   EXPECT_THAT(ErrorOf("date,prcp\n"), HasSubstr("no rows"));
 }
 
@@ -103,7 +104,7 @@ TEST(RainRecord, ADecimalCommaIsRefusedAndExplained) {
               HasSubstr("Line 2: \"12,7\" is not a rainfall depth" + hint));
 }
 
-TEST(RainRecord, EmptyColumnsBehindTheOthersAreColumns) {
+TEST(RainRecord, EmptyColumnsAfterTheOthersAreColumns) {
   const RainRecord record = ParseRainRecord("date,prcp,\n2001-01-01,1,\n", RainUnit::Inches);
   EXPECT_EQ(record.Days.at(0).DepthIn, 1);
 }
@@ -115,8 +116,10 @@ TEST(RainRecord, OnlyTheFirstBadRowsAreListed) {
 }
 
 TEST(RainRecord, StationsAreNotMixed) {
-  EXPECT_THAT(ErrorOf("STATION,DATE,PRCP\nA,2001-01-01,1\nB,2001-01-01,2\n"),
-              HasSubstr("Line 3: the station is B, above it was A; keep the rows of one."));
+  EXPECT_THAT(
+      ErrorOf("STATION,DATE,PRCP\nA,2001-01-01,1\nB,2001-01-01,2\n"),
+      HasSubstr(
+          "Line 3: the station is B, but A in the rows above; keep the rows of one station."));
 }
 
 TEST(RainRecord, CountsWhatItDoesNotUse) {
@@ -152,7 +155,7 @@ TEST(RainRecord, CountsWhatItDoesNotUse) {
   EXPECT_THAT(text, HasSubstr("the first in line 7."));
 }
 
-TEST(RainRecord, AFileThatIsNotThereIsNamed) {
+TEST(RainRecord, AMissingFileIsNamed) {
   try {
     ReadRainRecord("nowhere/rain.csv", RainUnit::Inches);
     FAIL();

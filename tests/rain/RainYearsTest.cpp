@@ -87,7 +87,7 @@ std::vector<std::string> UnitsFor(const RainRecord& record) {
   return units;
 }
 
-TEST(RainYears, ADepthThatNoPlaceHasIsRefusedWithTheUnitsThatMakeSense) {
+TEST(RainYears, AnImplausibleDepthIsRefusedWithTheUnitsThatMakeSense) {
   RainRecord record = FullYears(2001, 2005, 30);  // 30 tenths of a millimetre, read as inches
   EXPECT_EQ(RefusalOf(record),
             "Read as \"in\", the mean annual rainfall is 10956 inches; 5 to 200 inches are "
@@ -112,7 +112,7 @@ TEST(RainYears, LimitsOfTheMeanDepthAreAllowed) {
 TEST(RainYears, ACodeForAMissingValueIsNotRain) {
   RainRecord record = FullYears(2001, 2005, 0.1);
   record.Days[100].DepthIn = 99.99;
-  EXPECT_THAT(RefusalOf(record), HasSubstr("has 100 inches, more than was ever measured"));
+  EXPECT_THAT(RefusalOf(record), HasSubstr("has 100 inches, more than has ever been measured"));
 }
 
 TEST(RainYears, KnowTheirWettestDay) {
@@ -144,8 +144,8 @@ TEST(RainYears, TheSameLargestDepthAboveFifteenInchesTwiceIsSuspect) {
   RainRecord record = FullYears(2001, 2005, 0.1);
   for (const std::size_t day : {59U, 400U, 500U}) record.Days[day].DepthIn = 999.9 / 25.4;
   EXPECT_EQ(DescribeSuspectedCode(SelectRainYears(record)),
-            "The largest depth, 39.37 inches, stands on 3 days, first on 2001-03-01: a code for a "
-            "missing value? If so, leave these depths empty.");
+            "The largest depth, 39.37 inches, occurs on 3 days, first on 2001-03-01. Is it a code "
+            "for a missing value? If so, leave these depths empty.");
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ TEST_F(ChartCopyTest, NothingIsCopiedWhileThereAreNoCurves) {
   EXPECT_FALSE(desktop_.Clipboard());
 }
 
-TEST_F(ChartCopyTest, AClipboardThatCannotBeHadIsHeard) {
+TEST_F(ChartCopyTest, AnUnavailableClipboardBeeps) {
   Choose("cmbClimateStation", "Tampa");
   CopyChart(form_->Chart(), desktop_);
   EXPECT_EQ(desktop_.Beeps(), 0);

@@ -191,7 +191,7 @@ TEST(MainWindowLayout, TheExitButtonsStayAtTheRight) {
   }
 }
 
-TEST(MainWindowLayout, ALabelStandsLevelWithItsFieldAndDirectlyLeftOfIt) {
+TEST(MainWindowLayout, ALabelIsLevelWithItsFieldAndDirectlyLeftOfIt) {
   const auto places = Places({{1100, 700}, 96});
   for (const FieldGroup& group : DataGroups()) {
     for (const FieldRow& row : group.rows) {

@@ -62,7 +62,7 @@ TEST_F(MessageHelpTest, AMissingPageShowsNothing) {
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(MessageHelpTest, TellsWhatKeptThePageFromOpening) {
+TEST_F(MessageHelpTest, ShowsWhyThePageCouldNotBeOpened) {
   folder_.Write("Help/Topic012.htm", "<html>");
   Bar().SetErrMsg("Something", 12);
   const struct {

@@ -24,7 +24,7 @@ Picture SmallPicture() {
 class SmallWindowsTest : public FormFixture {
  protected:
   std::string ViewerTells() {
-    return toolkit_.Find<HeadlessControlHost>("ctrlPictureViewer1").Tell().value;
+    return toolkit_.Find<HeadlessControlHost>("ctrlPictureViewer1").Announcement().value;
   }
   // How the work in the window of this name ends is told.
   int Shown(std::string_view window) const {

@@ -24,7 +24,7 @@ std::vector<std::string> LinesOf(std::string_view text) {
 
 using Strings = std::vector<std::string>;
 
-TEST(ANewStream, IsClosedAndAnswersFalse) {
+TEST(ANewStream, IsClosedAndReturnsFalse) {
   clsIOStream stream;
   std::string line = "kept";
   float single = 1.5F;

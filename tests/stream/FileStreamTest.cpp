@@ -48,7 +48,7 @@ TEST_F(FileInput, ReadsWholeLines) {
   EXPECT_TRUE(stream_.EndOfFile());
 }
 
-TEST_F(FileInput, AnswersTrueBehindTheEndAndLeavesTheTarget) {
+TEST_F(FileInput, ReturnsTrueBeyondTheEndAndLeavesTheTarget) {
   Open("only");
   NextLine();
   EXPECT_EQ(NextLine(), "<unread>");
@@ -101,7 +101,7 @@ TEST_F(FileInput, RoundsFractionsOfIntegersHalfToEven) {
   EXPECT_EQ(NextInteger(), 0);
 }
 
-TEST_F(FileInput, AnOverflowIsSwallowedAndTheFieldConsumed) {
+TEST_F(FileInput, AnOverflowIsIgnoredAndTheFieldConsumed) {
   Open("40000 1e39 7");
   EXPECT_EQ(NextInteger(), -999);
   EXPECT_EQ(NextSingle(), -999);
@@ -171,7 +171,7 @@ TEST_F(FileOutput, EmptiesAnExistingFile) {
   EXPECT_EQ(ReadBytes(path), "");
 }
 
-TEST_F(FileOutput, AFileThatCannotBeMadeIsSwallowed) {
+TEST_F(FileOutput, AFileThatCannotBeMadeIsIgnored) {
   EXPECT_TRUE(stream_.OpenFile(folder_ / "no folder/out.txt", AsciiFileOutput));
   EXPECT_TRUE(stream_.WriteString("lost"));
   EXPECT_TRUE(stream_.CloseFile());

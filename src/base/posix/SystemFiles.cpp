@@ -13,10 +13,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t kCommonMode = 0666;   // less what the user's mask takes away
-constexpr mode_t kPrivateMode = 0600;  // until the file gets the permissions of the one before
+constexpr mode_t kCommonMode = 0666;   // less the process's umask
+constexpr mode_t kPrivateMode = 0600;  // until the file gets the permissions of the old one
 constexpr mode_t kPermissions = 07777;
-constexpr int kMostLinks = 40;  // one to the next; more are a circle
+constexpr int kMostLinks = 40;  // a longer chain of links is taken for a circle
 
 // An open file or folder, closed when this goes.
 class Descriptor {
@@ -28,7 +28,7 @@ class Descriptor {
 
   int Get() const { return file_; }
 
-  // False where the system tells only now that something was not written.
+  // False where the system reports only now that something was not written.
   bool Close() {
     const int file = file_;
     file_ = -1;
@@ -54,8 +54,8 @@ std::optional<struct stat> StatusOf(const fs::path& path) {
   return stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
-// The owner first: giving a file away takes some of its permissions. Only the superuser can do
-// that, so the file stays the writer's own elsewhere.
+// The owner first, since changing it clears some permission bits (set-user-ID). Only the superuser
+// may change it; otherwise the file stays the writer's own.
 bool TakeAfter(int file, const struct stat& like) {
   struct stat mine {};
   if (fstat(file, &mine) != 0) return false;
@@ -65,8 +65,8 @@ bool TakeAfter(int file, const struct stat& like) {
   return fchmod(file, like.st_mode & kPermissions) == 0;
 }
 
-// Best effort: the renamed file is whole on the disk, only its name may be the old one after a
-// power failure.
+// Best effort: without it the rename itself can be lost in a power failure; the old file is then
+// still there, whole.
 void FlushFolder(const fs::path& folder) {
   const Descriptor opened(
       open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

@@ -44,7 +44,7 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
   return true;
 }
 
-// Other reparse points (files that lie in a cloud, say) are files of this folder.
+// Other reparse points (files kept in a cloud, for example) are files of this folder.
 bool IsSymbolicLink(const fs::path& path) {
   WIN32_FIND_DATAW found{};
   const HANDLE search = FindFirstFileW(path.c_str(), &found);
@@ -56,7 +56,7 @@ bool IsSymbolicLink(const fs::path& path) {
 
 }  // namespace
 
-// A new file gets the permissions of its folder, as the file before got them.
+// `like` is not needed: a new file inherits the permissions of its folder, as the old file did.
 NewFileOutcome WriteNewFile(const fs::path& path, std::string_view bytes, const fs::path&) {
   FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                               FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -72,7 +72,7 @@ NewFileOutcome WriteNewFile(const fs::path& path, std::string_view bytes, const 
   return NewFileOutcome::Failed;
 }
 
-// The system flushes the folder with the move.
+// MOVEFILE_WRITE_THROUGH flushes the folder too.
 bool RenameOver(const fs::path& from, const fs::path& to) {
   return MoveFileExW(from.c_str(), to.c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;

@@ -1,4 +1,4 @@
-// kav on Windows: the arguments come in UTF-16 and the console is told that our text is UTF-8.
+// kav on Windows: the arguments come in UTF-16, and the console is switched to UTF-8 for our text.
 #include <io.h>
 #include <windows.h>
 
@@ -32,5 +32,5 @@ int wmain(int argc, wchar_t** argv) {
   std::vector<std::string> arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(orvik::PathToUtf8(argv[i]));
   orvik::Console console{std::cout, std::cerr, _isatty(_fileno(stderr)) != 0, ProgramFolder()};
-  return orvik::RunKavToTheEnd(arguments, console);
+  return orvik::RunKavAndFlush(arguments, console);
 }

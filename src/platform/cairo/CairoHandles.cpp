@@ -4,7 +4,7 @@
 #include <string>
 
 namespace orvik {
-// Cairo, which calls this, is C: no exception may run through it.
+// Cairo, which calls this, is C: no exception may pass through it.
 cairo_status_t AppendBytes(void* bytes, const unsigned char* data, unsigned int length) {
   try {
     static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);

@@ -22,11 +22,11 @@ template <typename Object>
 using CairoHandle = std::unique_ptr<Object, ReleaseCairo>;
 
 // A write function of Cairo's that puts the bytes at the end of the std::string `bytes`;
-// CAIRO_STATUS_NO_MEMORY where they find no room.
+// CAIRO_STATUS_NO_MEMORY where memory runs out.
 cairo_status_t AppendBytes(void* bytes, const unsigned char* data, unsigned int length);
 
-// Throws std::runtime_error with Cairo's own words unless what it answered is success, or the
-// context or surface is in order.
+// Throws std::runtime_error with Cairo's own text unless the status, or that of the context or
+// surface, is success.
 void CheckCairo(cairo_status_t status);
 void CheckCairo(cairo_t* context);
 void CheckCairo(cairo_surface_t* surface);

@@ -10,13 +10,13 @@ namespace orvik {
 
 class CairoImageSurface final : public Surface {
  public:
-  // Black at first. Throws std::runtime_error where there can be no such picture.
+  // Black at first. Throws std::runtime_error for a size that Cairo refuses.
   explicit CairoImageSurface(Size size);
 
   // What has been drawn.
   Picture Pixels() const;
 
-  // For what Cairo itself can draw upon it.
+  // For drawing directly with Cairo.
   cairo_surface_t* Image() const { return image_.get(); }
 
   // The picture as the bytes of a PNG file.

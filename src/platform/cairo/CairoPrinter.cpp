@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kResolution = 1200;  // pixels per inch
 constexpr double kPointsPerPixel = 72.0 / kResolution;
-constexpr int kUnprintable = kResolution / 4;  // as the usual printers have it
+constexpr int kUnprintable = kResolution / 4;  // a quarter of an inch, as on common printers
 
 Size PixelsOf(PaperFormat paper) {
   constexpr double kMillimetresPerInch = 25.4;

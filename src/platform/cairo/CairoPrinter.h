@@ -16,8 +16,8 @@ enum class PaperFormat : std::uint8_t { Letter, A4 };
 
 class CairoPrinter final : public PagePrinter {
  public:
-  // `date` is what the document calls its date of creation. `bytes` outlives the printer and is
-  // whole after EndDocument. Throws std::runtime_error where there can be no such document.
+  // `date` becomes the document's creation date. `bytes` outlives the printer and is complete after
+  // EndDocument. Throws std::runtime_error where Cairo refuses the document.
   CairoPrinter(std::string& bytes, PaperFormat paper, const ClockTime& date);
 
   int Resolution() const override;

@@ -96,7 +96,7 @@ void CairoSurface::CopyPicture(const Picture& picture, const Area& area) {
                 std::min(area.bottom, area.top + picture.size.height)});
   cairo_fill(Context());
   cairo_restore(Context());
-  // A page that is kept for later still reads the pixels: it takes its own copy now.
+  // A page that is rendered later would still read the pixels: this makes it take its own copy now.
   cairo_surface_finish(view.get());
 }
 

@@ -1,7 +1,7 @@
 // A surface on a Cairo context: a page of a PDF, and what the image surface shares with it.
 //
-// A level or upright line fills exactly the pixels of its pen; any other line is smoothed. Pens do
-// not flip what lies under them.
+// A level or upright line fills exactly the pixels of its pen; any other line is smoothed.
+// Exclusive-or pens are not supported.
 #pragma once
 
 #include "platform/Surface.h"

@@ -1,6 +1,6 @@
 // Text by Pango, the same on every machine: sizes in pixels whatever the screen's resolution, no
-// hinting, no dependence on the user's language, and Arial by the free face of the same measures,
-// Liberation Sans.
+// hinting, no dependence on the user's language, and Arial replaced by Liberation Sans, the free
+// face with the same metrics.
 #pragma once
 
 #include <string_view>

@@ -12,12 +12,12 @@ namespace orvik {
 
 enum class PictureKind : std::uint8_t { Png, Svg, Pdf };
 
-// What the ending of the file's name says, in any case of letters.
+// The kind that the file name's extension says, in upper or lower case.
 std::optional<PictureKind> PictureKindOf(std::string_view path);
 
-// Has the drawing drawn on a surface of this size. A PDF's page is as large as the pixels are at 96
-// to the inch. `title` is what a viewer calls the picture. Throws std::runtime_error where there
-// can be no such picture.
+// Runs the drawing on a surface of this size. A PDF's page is as large as the pixels are at 96 to
+// the inch. `title` is what a viewer calls the picture. Throws std::runtime_error where Cairo
+// refuses it.
 std::string MakePictureFile(PictureKind kind, Size size, std::string_view title,
                             const std::function<void(Surface&)>& draw);
 

@@ -1,5 +1,5 @@
 // A surface that writes SVG: lines and areas as shapes, text as text. Text is measured as Cairo
-// measures it, and carries its length, so that it fits its place in any face that shows it.
+// measures it, and carries its length, so that it fits its place whatever face it is shown in.
 #pragma once
 
 #include <string>

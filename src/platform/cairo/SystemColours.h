@@ -1,4 +1,4 @@
-// Colours as red, green and blue, for back ends that have no system to ask.
+// Colours as red, green and blue, for back ends without a system to ask.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 namespace orvik {
 
 // 0x00RRGGBB. System colours are those of a plain, light desktop. Throws std::invalid_argument for
-// one that Colour.h does not name: black in its place would pass for a colour that was meant.
+// one that Colour.h does not name: black in its place could be mistaken for the intended colour.
 std::uint32_t RedGreenBlue(Colour colour);
 
 }  // namespace orvik

@@ -1,5 +1,5 @@
-// A desktop without a screen or a user: it keeps what was shown, for the command line to print, and
-// nobody answers what it is asked.
+// A desktop without a screen or a user: it keeps what was shown, and answers what it is asked as a
+// user who cancels.
 #pragma once
 
 #include <optional>
@@ -32,7 +32,7 @@ class HeadlessDesktop : public Desktop {
   ClockTime Now() override { return now_; }
   std::unique_ptr<Printer> OpenPrinter() override { return nullptr; }
 
-  // The time that it is from now on.
+  // Sets the time that Now and Today answer.
   void Now(const ClockTime& time) { now_ = time; }
 
   // In the order shown, questions included.

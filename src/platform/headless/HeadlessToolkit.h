@@ -1,4 +1,4 @@
-// The toolkit without a screen: widgets in memory, for forms that only the program itself works.
+// The toolkit without a screen: widgets in memory, for forms that only code operates.
 #pragma once
 
 #include <memory>

@@ -99,13 +99,13 @@ class HeadlessPanel : public HeadlessWidget<Panel> {
   }
 };
 
-// Nobody is there to look: a modal showing is over at once.
+// No user is there to close it: ShowModally returns at once.
 class HeadlessWindow : public HeadlessCaptioned<Window> {
  public:
   void ShowModally() override;
 };
 
-// Shows nothing; a drawn control is worked through its events.
+// Shows nothing; tests operate a drawn control through its events.
 class HeadlessControlHost : public HeadlessWidget<ControlHost> {
  public:
   void Invalidate() override {}
@@ -114,7 +114,7 @@ class HeadlessControlHost : public HeadlessWidget<ControlHost> {
   Surface* DrawNow() override { return nullptr; }
 };
 
-// Ticks when it is told to, never by itself.
+// Ticks only when a test raises OnTick.
 class HeadlessTimer final : public Timer {
  public:
   bool Running() const override { return running_; }

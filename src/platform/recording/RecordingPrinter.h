@@ -29,10 +29,10 @@ class RecordingPrinter final : public PagePrinter {
   const std::vector<std::string>& Calls() const { return surface_.Calls(); }
   std::vector<std::string> Take() { return surface_.Take(); }
 
-  // What StartDocument will answer.
+  // What StartDocument answers from now on.
   void AnswerStart(DocumentStart answer) { answer_ = answer; }
 
-  // The printer fails when this page is to be ejected; 0 for never.
+  // The page at whose ejection the printer fails; 0 for none.
   void FailAfterPage(int page) { failsAfter_ = page; }
 
   bool HasEnded() const { return hasEnded_; }

@@ -9,7 +9,7 @@
 //   clip 0,0 to 80,24
 //   unclip
 //
-// A style or an angle that is not there is not written. Measuring draws nothing and writes nothing.
+// Absent styles and an angle of 0 are not written. Measuring draws nothing and writes nothing.
 #pragma once
 
 #include <string>
@@ -41,8 +41,8 @@ class RecordingSurface final : public Surface {
   void FillPolygon(std::span<const Point> corners, Colour colour) override;
   void WriteText(Point at, std::string_view text, const Font& font, Colour colour) override;
 
-  // Every character (code point) is half as wide as the font is high, rounded down, and one pixel
-  // more when bold; the text is as high as the font.
+  // Each character (code point) is half as wide as the font is high, rounded down, plus one pixel
+  // when bold; the text is as high as the font.
   Size MeasureText(std::string_view text, const Font& font) override;
   void CopyPicture(const Picture& picture, const Area& area) override;
   void PushClip(const Area& area) override;

@@ -14,9 +14,9 @@ std::optional<LRESULT> AccessibleWindow::AnswerObject(HWND window, WPARAM wParam
   return reference > 0 ? std::optional(reference) : std::nullopt;
 }
 
-void AccessibleWindow::TellChanges(HWND window) {
-  const Spoken now = control_.Tell();
-  const auto before = std::exchange(told_, now);
+void AccessibleWindow::RaiseEvents(HWND window) {
+  const Spoken now = control_.Announcement();
+  const auto before = std::exchange(announced_, now);
   if (!before) return;
   if (now.name != before->name) {
     ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);

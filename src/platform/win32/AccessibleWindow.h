@@ -1,5 +1,5 @@
-// What the window of a drawn control has for assistive programs: the object by which they ask, and
-// the events by which they hear of a change.
+// What the window of a drawn control offers to assistive programs: the object that they query, and
+// the events that report a change to them.
 #pragma once
 
 #include <windows.h>
@@ -17,21 +17,21 @@ class AccessibleWindow {
   AccessibleWindow& operator=(const AccessibleWindow&) = delete;
   ~AccessibleWindow() { Close(); }
 
-  // The answer to WM_GETOBJECT; nothing where the system's own is to be given. The object is made
-  // for the first who asks.
+  // The answer to WM_GETOBJECT; nothing where the system's own applies. The object is made for the
+  // first caller.
   std::optional<LRESULT> AnswerObject(HWND window, WPARAM wParam, LPARAM object);
 
-  // Raises the events for what the control tells otherwise than when this was last called; at the
-  // first time none.
-  void TellChanges(HWND window);
+  // Raises an event for everything in which the control describes itself differently than at the
+  // call before. The first call raises none.
+  void RaiseEvents(HWND window);
 
-  // The window goes.
+  // The window is being destroyed.
   void Close();
 
  private:
   const ControlHost& control_;
   ComPtr<ControlAccessible> object_;
-  std::optional<Spoken> told_;
+  std::optional<Spoken> announced_;
 };
 
 }  // namespace orvik

@@ -1,4 +1,4 @@
-// Pages of the help in the user's browser.
+// Opens help pages in the user's browser.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@
 
 namespace orvik {
 
-// Opens the file with the program that the system names for it. Boxes of the system stand over
+// Opens the file with the program registered for it. The system's own message boxes are owned by
 // `owner`.
 PageOpening OpenInBrowser(HWND owner, const std::string& path);
 

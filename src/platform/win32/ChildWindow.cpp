@@ -21,7 +21,7 @@ ChildWindow::ChildWindow(HINSTANCE module, HWND parent, const ChildStyle& style)
 
 ChildWindow::~ChildWindow() {
   if (!window_) return;
-  ::SetWindowLongPtrW(window_, GWLP_USERDATA, 0);  // its last messages concern nobody
+  ::SetWindowLongPtrW(window_, GWLP_USERDATA, 0);  // messages that still arrive are not for us
   ::SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_));
   ::DestroyWindow(window_);
 }

@@ -1,4 +1,4 @@
-// A control of the system as a widget stands on it: owns the window, and sees its messages first.
+// A control of the system that a widget wraps: owns its window and sees its messages first.
 #pragma once
 
 #include <windows.h>
@@ -13,7 +13,7 @@ namespace orvik {
 // How a control's window is made.
 struct ChildStyle {
   const wchar_t* className;
-  DWORD style;  // besides child and visible
+  DWORD style;  // in addition to child and visible
   DWORD exStyle = 0;
 };
 
@@ -42,7 +42,7 @@ class ChildWindow {
   WNDPROC system_ = nullptr;  // the control's own procedure
 };
 
-// What every widget on a control has, over one of the widget interfaces.
+// What all widgets on a control share, as a layer over one of the widget interfaces.
 template <typename Interface>
 class NativeWidget : public Interface, public ChildWindow {
  public:

@@ -94,7 +94,7 @@ GdiObject<HBITMAP> BitmapOf(const ClipboardContent& content) {
   return bitmap;
 }
 
-// What the clipboard takes belongs to the system from then on.
+// From then on the system owns what was put on the clipboard.
 template <typename Owner>
 void Put(UINT format, Owner owner) {
   if (owner && ::SetClipboardData(format, owner.get())) static_cast<void>(owner.release());

@@ -5,9 +5,8 @@
 
 namespace orvik {
 
-// Puts the text, the picture as an enhanced metafile and the picture as pixels there, in place of
-// all that it held. False where another program keeps the clipboard to itself for longer than a
-// moment.
+// Replaces its content with the text, the picture as an enhanced metafile and the picture as
+// pixels. False where another program keeps the clipboard open for longer than a moment.
 bool PutOnClipboard(const ClipboardContent& content);
 
 }  // namespace orvik

@@ -38,7 +38,7 @@ class ComPtr {
   Interface* operator->() const { return pointer_; }
   explicit operator bool() const { return pointer_ != nullptr; }
 
-  // For out arguments: lets go of the present object and shows the empty place.
+  // For out arguments: releases the present object and returns the address of the empty pointer.
   Interface** Out() {
     Reset();
     return &pointer_;

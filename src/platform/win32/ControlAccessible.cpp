@@ -25,14 +25,14 @@ std::wstring WithoutMnemonic(const std::wstring& caption) {
   return text;
 }
 
-// Linked to, so it is loaded.
+// We link to it, so it is loaded.
 std::wstring SystemLibraryPath() {
   std::array<wchar_t, MAX_PATH> path{};
   ::GetModuleFileNameW(::GetModuleHandleW(L"oleacc.dll"), path.data(), MAX_PATH - 1);
   return path.data();
 }
 
-// Every call from outside: nothing is thrown through it.
+// The wall around every call from outside: no exception passes through it.
 template <typename Body>
 HRESULT Guarded(Body&& body) noexcept {
   try {
@@ -89,7 +89,7 @@ STDMETHODIMP_(ULONG) ControlAccessible::Release() {
 
 // --- Questions to the system's object ---
 
-// The answer may take the window away, and with it the object that is asked.
+// The call may destroy the window, and with it the object that is asked.
 template <typename Operation, typename... Arguments>
 HRESULT ControlAccessible::Forward(Operation operation, Arguments... arguments) const {
   const ComPtr<IAccessible> standard = standard_;
@@ -185,12 +185,12 @@ HRESULT ControlAccessible::AnswerText(const VARIANT& child, BSTR* place, Body&& 
 }
 
 STDMETHODIMP ControlAccessible::get_accName(VARIANT child, BSTR* name) {
-  return AnswerText(child, name,
-                    [this] { return WithoutMnemonic(WideFromUtf8(control_->Tell().name)); });
+  return AnswerText(
+      child, name, [this] { return WithoutMnemonic(WideFromUtf8(control_->Announcement().name)); });
 }
 
 STDMETHODIMP ControlAccessible::get_accValue(VARIANT child, BSTR* value) {
-  return AnswerText(child, value, [this] { return WideFromUtf8(control_->Tell().value); });
+  return AnswerText(child, value, [this] { return WideFromUtf8(control_->Announcement().value); });
 }
 
 STDMETHODIMP ControlAccessible::get_accDefaultAction(VARIANT child, BSTR* action) {
@@ -205,15 +205,15 @@ STDMETHODIMP ControlAccessible::get_accRole(VARIANT child, VARIANT* role) {
   if (!IsConnected()) return CO_E_OBJNOTCONNECTED;
   if (!IsItself(child)) return E_INVALIDARG;
   return Guarded([&] {
-    role->lVal = control_->OnMnemonic         ? ROLE_SYSTEM_PUSHBUTTON
-                 : control_->Tell().isPicture ? ROLE_SYSTEM_GRAPHIC
-                                              : ROLE_SYSTEM_CHART;
+    role->lVal = control_->OnMnemonic                 ? ROLE_SYSTEM_PUSHBUTTON
+                 : control_->Announcement().isPicture ? ROLE_SYSTEM_GRAPHIC
+                                                      : ROLE_SYSTEM_CHART;
     role->vt = VT_I4;
     return S_OK;
   });
 }
 
-// Over a window that waits for a dialog or a message box nothing can be pressed.
+// While a dialog or a message box is open over the window, nothing in it can be pressed.
 bool ControlAccessible::CanBePressed() const {
   return ::IsWindowVisible(window_) && ::IsWindowEnabled(window_) &&
          ::IsWindowEnabled(::GetAncestor(window_, GA_ROOT));
@@ -235,7 +235,7 @@ STDMETHODIMP ControlAccessible::GetTypeInfoCount(UINT* count) {
   return S_OK;
 }
 
-// The description of IAccessible lies in the library that implements it for the system.
+// The type library of IAccessible is in the system library that implements it.
 STDMETHODIMP ControlAccessible::GetTypeInfo(UINT index, LCID, ITypeInfo** type) {
   if (!type) return E_POINTER;
   *type = nullptr;

@@ -15,7 +15,7 @@ namespace orvik {
 // its neighbours; name, value, role and the press of a button are the control's. A button has the
 // role of a push button, a picture that of a graphic, any other drawn control that of a chart.
 //
-// Clients may keep it for longer than the window lives: every question then fails with
+// Clients may keep it longer than the window exists: every call then fails with
 // CO_E_OBJNOTCONNECTED. The module stays loaded as long as it is kept.
 class ControlAccessible final : public IAccessible, public IOleWindow {
  public:
@@ -26,7 +26,8 @@ class ControlAccessible final : public IAccessible, public IOleWindow {
   ControlAccessible(const ControlAccessible&) = delete;
   ControlAccessible& operator=(const ControlAccessible&) = delete;
 
-  // The window goes: clients in other processes and threads are cut off, those in this one fail.
+  // The window is being destroyed: clients in other processes and threads are disconnected, calls
+  // from this one fail.
   void Disconnect();
 
   // --- IUnknown ---
@@ -49,8 +50,8 @@ class ControlAccessible final : public IAccessible, public IOleWindow {
   STDMETHODIMP get_accValue(VARIANT child, BSTR* value) override;
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override;
   STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override;
-  // The press follows once the caller has its answer: it may open a dialog or end the window.
-  // E_ACCESSDENIED while a user could not press the button either.
+  // The press happens after this call has returned, since it may open a dialog or close the window.
+  // E_ACCESSDENIED while the user could not press the button.
   STDMETHODIMP accDoDefaultAction(VARIANT child) override;
 
   // --- IAccessible: the system's answers ---
@@ -78,7 +79,7 @@ class ControlAccessible final : public IAccessible, public IOleWindow {
 
  private:
   ControlAccessible(const ControlHost& control, HWND window, ComPtr<IAccessible> standard);
-  ~ControlAccessible() = default;  // it goes with its last reference
+  ~ControlAccessible() = default;  // deleted by its last Release
 
   bool IsConnected() const { return control_ != nullptr; }
   bool CanBePressed() const;

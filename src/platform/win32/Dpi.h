@@ -1,4 +1,4 @@
-// Scaling of the screen. Systems that lack a call get what was there before it.
+// The screen's scaling. Systems without a newer call are served by the older one.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// What an exception says to the user.
+// What the user is shown of an exception.
 #pragma once
 
 #include <string>

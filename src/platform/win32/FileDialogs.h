@@ -9,8 +9,8 @@
 
 namespace orvik {
 
-// The chosen path in UTF-8, empty when the dialog was cancelled. The open dialog lets a user choose
-// only a file that is there. The process keeps its current folder.
+// The chosen path in UTF-8, empty when the dialog was cancelled. The open dialog accepts only
+// existing files. The process keeps its current folder.
 std::string ShowOpenDialog(HWND owner, const FileDialog& dialog);
 std::string ShowSaveDialog(HWND owner, const FileDialog& dialog);
 

@@ -1,4 +1,4 @@
-// The controls of a window at the places that its design gives them.
+// Puts the controls of a window where its design has them.
 #pragma once
 
 #include <windows.h>
@@ -15,19 +15,19 @@ namespace orvik {
 // the design does not have.
 std::optional<int> ControlNumber(const FormDesign& design, std::string_view name);
 
-// The control of a widget; null while it is not made.
+// The control of a widget; null before it is made.
 HWND FindControl(HWND window, const FormDesign& design, std::string_view name);
 
-// The window that a widget is to be a child of.
+// The window that becomes the widget's parent.
 HWND ParentOf(HWND window, const FormDesign& design, std::string_view name);
 
-// Each control into the font of its style.
+// Gives each control the font of its style.
 void ApplyFont(HWND window, const FormDesign& design, const MessageFont& font);
 
-// The controls into the order of the Tab key.
+// Puts the controls into Tab order.
 void ApplyOrder(HWND window, const FormDesign& design);
 
-// Each control to its place in the window's present size.
+// Moves each control to its place in the window at its present size.
 void ApplyLayout(HWND window, const FormDesign& design, const MessageFont& font);
 
 }  // namespace orvik

@@ -7,8 +7,8 @@
 namespace orvik {
 namespace {
 
-// What the ANSI calls carry alike whatever the machine's code page: the characters of ASCII. All
-// other text goes through the wide form of the same call.
+// ASCII text means the same in every code page, so the ANSI calls are used for it. All other text
+// goes through the wide form of the same call.
 bool IsCarriedByAnsi(std::string_view text) {
   constexpr unsigned char kFirstOther = 0x80;
   return std::ranges::all_of(text,

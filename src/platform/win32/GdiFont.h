@@ -1,4 +1,4 @@
-// A font that is made for one text: selected while this lives, deleted after.
+// A font made for one text: selected while this lives, then deleted.
 #pragma once
 
 #include "platform/Surface.h"

@@ -1,4 +1,4 @@
-// Owners of GDI's handles: each gives back what it holds.
+// Owners of GDI handles: each releases what it holds.
 #pragma once
 
 #include <windows.h>
@@ -23,7 +23,7 @@ struct MemoryDcDeleter {
 // A device context in memory.
 using MemoryDc = std::unique_ptr<std::remove_pointer_t<HDC>, MemoryDcDeleter>;
 
-// An object is selected while this lives; after it the one before is again.
+// Selects an object while this lives, then the previous one again.
 class Selection {
  public:
   Selection(HDC dc, HGDIOBJ object) : dc_(dc), before_(::SelectObject(dc, object)) {}

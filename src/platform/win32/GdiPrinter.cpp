@@ -71,7 +71,7 @@ DocumentStart GdiPrinter::StartDocument(std::string_view title) {
   return fault == ERROR_CANCELLED ? DocumentStart::CalledOff : DocumentStart::Unreachable;
 }
 
-// Only a document that its owner has begun takes a page now.
+// A page can only be started here where the caller has started a document.
 bool GdiPrinter::JoinDocument() {
   pageIsOpen_ = dc_.IsBorrowed() && ::StartPage(dc_.Get()) > 0;
   return pageIsOpen_;

@@ -13,9 +13,9 @@ namespace orvik {
 // says.
 class GdiPrinter final : public PagePrinter {
  public:
-  // The device context is not empty. One that somebody lends is left in the state in which it came;
-  // where its owner has begun a document on it (and no page), the pages join that document, which
-  // the owner ends.
+  // The device context is not empty. One that the caller lends is left in the state that it came
+  // in; where the caller has started a document on it (and no page), the pages are added to that
+  // document, which the caller ends.
   explicit GdiPrinter(PrinterDc dc);
   ~GdiPrinter() override;
 

@@ -44,7 +44,7 @@ class GdiPen {
  private:
   static HPEN MakeWide(const Pen& pen) {
     const LOGBRUSH brush{BS_SOLID, DeviceColour(pen.colour), 0};
-    // Bevelled: round joins take longer and look the same on lines as thin and smooth as ours.
+    // Bevelled: round joins are slower and look the same on lines as thin and smooth as ours.
     return ::ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_FLAT | PS_JOIN_BEVEL,
                           static_cast<DWORD>(pen.width), &brush, 0, nullptr);
   }
@@ -112,7 +112,7 @@ GdiSurface::~GdiSurface() {
   ::RestoreDC(dc_, state_);
 }
 
-// Ink stays on paper, and a metafile is for paper, too.
+// Not on paper, where ink cannot be flipped, nor in a metafile, which is played on paper too.
 bool GdiSurface::Supports(SurfaceFeature feature) const {
   return feature == SurfaceFeature::ExclusiveOr && DrawsAtOnce(dc_);
 }

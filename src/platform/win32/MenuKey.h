@@ -1,4 +1,4 @@
-// The key that works a menu item from anywhere in the window, as the item's caption names it.
+// The shortcut key of a menu item, as the item's caption names it.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// The windows of the host's thread while one of ours is shown over them.
+// The windows of the host's thread while one of ours is shown modally over them.
 #pragma once
 
 #include <windows.h>
@@ -19,11 +19,11 @@ class ModalHost {
   // The window that was active, null where the thread has none.
   HWND Owner() const { return owner_; }
 
-  // The windows work again. To be called before ours hides, so that the system activates the host
-  // and no other program.
+  // Enables the windows again. To be called before ours hides, so that the system activates the
+  // host and not another program.
   void Release();
 
-  // The host has its focus back. To be called once ours is hidden.
+  // Gives the host its focus back. To be called once ours is hidden.
   void RestoreFocus() const;
 
  private:

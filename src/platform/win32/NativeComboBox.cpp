@@ -11,7 +11,7 @@ NativeComboBox::NativeComboBox(HINSTANCE module, HWND parent)
 
 void NativeComboBox::Clear() {
   ::SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
-  told_ = -1;
+  raisedFor_ = -1;
 }
 
 void NativeComboBox::AddItem(std::string_view text) {
@@ -46,11 +46,11 @@ void NativeComboBox::ListIndex(std::int16_t index) {
   RaiseChange();  // also of the item that an open list only marked until now
 }
 
-// However a list came to its item, it is told once.
+// OnClick is raised once, whichever way the list came to its item.
 void NativeComboBox::RaiseChange() {
   const std::int16_t index = ListIndex();
-  if (index == told_) return;
-  told_ = index;
+  if (index == raisedFor_) return;
+  raisedFor_ = index;
   if (OnClick) OnClick();
 }
 
@@ -58,7 +58,7 @@ bool NativeComboBox::IsDropped() const {
   return ::SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
-// The item that an open list marks counts as chosen: what follows reads its index.
+// The item marked in an open list counts as chosen: the command that follows reads its index.
 void NativeComboBox::CommitOpenList() {
   if (!IsDropped()) return;
   ::SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
@@ -67,7 +67,7 @@ void NativeComboBox::CommitOpenList() {
 
 LRESULT NativeComboBox::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == kReflectedCommand) {
-    // What the user passes on the way through an open list is not chosen yet.
+    // Items that the user passes in an open list are not chosen yet.
     const WORD notification = HIWORD(wParam);
     const bool isChosen = notification == CBN_SELCHANGE && !IsDropped();
     if (isChosen || notification == CBN_CLOSEUP) RaiseChange();
@@ -77,7 +77,7 @@ LRESULT NativeComboBox::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     CommitOpenList();
     return 0;
   }
-  // A turn of the wheel over a closed list would change a number without being meant to.
+  // Turning the wheel over a closed list would change the choice by accident.
   if (message == WM_MOUSEWHEEL && !IsDropped()) return 0;
   return NativeWidget::Answer(message, wParam, lParam);
 }

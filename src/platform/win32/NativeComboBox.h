@@ -25,7 +25,7 @@ class NativeComboBox final : public NativeWidget<ComboBox> {
   void CommitOpenList();
   bool IsDropped() const;
 
-  std::int16_t told_ = -1;  // the index that OnClick was last raised for
+  std::int16_t raisedFor_ = -1;  // the index that OnClick was last raised for
 };
 
 // Puts the closed list, whose height the system derives from its font, in the middle of the area;

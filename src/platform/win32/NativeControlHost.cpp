@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int16_t kRightButton = 2;
 constexpr std::int16_t kMiddleButton = 4;
-constexpr UINT kTellChanges = WM_USER;
+constexpr UINT kRaiseEvents = WM_USER;
 
 SIZE InnerSize(HWND window) {
   RECT inner{};
@@ -24,7 +24,7 @@ SIZE InnerSize(HWND window) {
 }
 
 // A control that cannot paint itself says why in its place. (A message box would uncover the
-// control when it goes, and so come again.)
+// control when it closes, which would paint again, fail again, and show the box again.)
 void PaintException(HDC dc, const SIZE& size) {
   RECT area{0, 0, size.cx, size.cy};
   ::FillRect(dc, &area, ::GetSysColorBrush(COLOR_WINDOW));
@@ -49,7 +49,7 @@ NativeControlHost::NativeControlHost(HINSTANCE module, HWND parent) : class_(Des
 
 NativeControlHost::~NativeControlHost() {
   if (!window_) return;
-  ::SetWindowLongPtrW(window_, GWLP_USERDATA, 0);  // its last messages concern nobody
+  ::SetWindowLongPtrW(window_, GWLP_USERDATA, 0);  // messages that still arrive are not for us
   accessible_.Close();
   screen_.reset();
   ::DestroyWindow(window_);
@@ -82,7 +82,7 @@ bool NativeControlHost::Enabled() const {
   return IsEnabled(window_);
 }
 
-// The keyboard goes on first: with a disabled window it would be nowhere.
+// The focus moves on first: a disabled window would keep it and no key would reach anything.
 void NativeControlHost::Enabled(bool enabled) {
   if (!enabled && window_ && ::GetFocus() == window_) {
     ::SendMessageW(::GetAncestor(window_, GA_ROOT), WM_NEXTDLGCTL, FALSE, FALSE);
@@ -129,7 +129,7 @@ LRESULT CALLBACK NativeControlHost::Procedure(HWND window, UINT message, WPARAM 
 }
 
 LRESULT NativeControlHost::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
-  const HWND window = window_;  // the answer may take the host away
+  const HWND window = window_;  // the handler may destroy the host
   switch (message) {
     case WM_PAINT:
       Paint();
@@ -154,8 +154,8 @@ LRESULT NativeControlHost::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case BM_CLICK:
       Click();
       return 0;
-    case kTellChanges:
-      TellChanges();
+    case kRaiseEvents:
+      RaiseEvents();
       return 0;
     case WM_GETOBJECT:
       if (const auto object = accessible_.AnswerObject(window_, wParam, lParam)) return *object;
@@ -240,7 +240,7 @@ void NativeControlHost::AnswerMouse(UINT message, LPARAM position) {
   }
 }
 
-// To a control that knows no double click, two quick presses are two presses.
+// For a control without a double-click handler, two quick presses are two presses.
 void NativeControlHost::PressAgain(double x, double y) {
   ::SetFocus(window_);
   if (OnDoubleClick) {
@@ -250,7 +250,7 @@ void NativeControlHost::PressAgain(double x, double y) {
   }
 }
 
-// The message has its place on the screen.
+// The message carries screen coordinates.
 bool NativeControlHost::AnswerWheel(WPARAM turn, LPARAM position) {
   if (!OnMouseWheel) return false;
   POINT at{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
@@ -260,7 +260,7 @@ bool NativeControlHost::AnswerWheel(WPARAM turn, LPARAM position) {
   return true;
 }
 
-// The pointer of a control that has an opinion of it.
+// The pointer, for a control that chooses its own.
 bool NativeControlHost::ShowPointer() const {
   if (!Pointer) return false;
   const bool isHand = Pointer() == PointerShape::Hand;
@@ -294,7 +294,7 @@ LRESULT NativeControlHost::AnswerKeyQuestion(const MSG* key) const {
   return code;
 }
 
-// A button takes a key that is held down as one press; moving by keys goes on with it.
+// A key that is held down presses a button once, but keeps moving a point.
 void NativeControlHost::AnswerKeyDown(WPARAM keyCode, LPARAM details) {
   const bool isRepeated = (details & (LPARAM{KF_REPEAT} << 16)) != 0;
   if (isRepeated && OnMnemonic) return;
@@ -310,7 +310,8 @@ bool NativeControlHost::Wants(WPARAM keyCode) const {
   return WantsKey && WantsKey(static_cast<std::int16_t>(keyCode));
 }
 
-// A press without the mouse is one all the same: what the field that is left holds counts before.
+// A press without the mouse takes the focus as well, so that the field that loses it is processed
+// first.
 void NativeControlHost::Click() {
   if (!OnMnemonic || !Enabled()) return;
   ::SetFocus(window_);
@@ -319,14 +320,14 @@ void NativeControlHost::Click() {
 
 // --- For listeners ---
 
-// Drawn anew, the control may tell something else; once all is drawn is soon enough.
+// Repainted, the control may describe itself differently; it is enough to ask once all is painted.
 void NativeControlHost::HasChanged() {
-  if (window_ && !isTellPosted_) isTellPosted_ = ::PostMessageW(window_, kTellChanges, 0, 0);
+  if (window_ && !isRaisingPosted_) isRaisingPosted_ = ::PostMessageW(window_, kRaiseEvents, 0, 0);
 }
 
-void NativeControlHost::TellChanges() {
-  isTellPosted_ = false;
-  accessible_.TellChanges(window_);
+void NativeControlHost::RaiseEvents() {
+  isRaisingPosted_ = false;
+  accessible_.RaiseEvents(window_);
 }
 
 // --- Texts ---
@@ -335,17 +336,17 @@ void NativeControlHost::AnswerFont(HFONT font) {
   font_ = font;
   LOGFONTW description{};
   if (!OnFont || ::GetObjectW(font, sizeof description, &description) == 0) return;
-  Font told;
-  told.face = Utf8FromWide(description.lfFaceName);
-  told.pixelHeight = description.lfHeight < 0 ? -description.lfHeight : description.lfHeight;
-  OnFont(told);
+  Font reported;
+  reported.face = Utf8FromWide(description.lfFaceName);
+  reported.pixelHeight = description.lfHeight < 0 ? -description.lfHeight : description.lfHeight;
+  OnFont(reported);
 }
 
-// The search for mnemonics reads the text of the window, and who knows no more of it than that.
+// Read by the search for mnemonics, and by programs that know no more of the window than its text.
 LRESULT NativeControlHost::AnswerText(UINT message, WPARAM size, LPARAM buffer) const {
-  const Spoken told = Tell();
+  const Spoken spoken = Announcement();
   const std::wstring text =
-      WideFromUtf8(told.value.empty() ? told.name : told.name + ": " + told.value);
+      WideFromUtf8(spoken.value.empty() ? spoken.name : spoken.name + ": " + spoken.value);
   if (message == WM_GETTEXTLENGTH) return static_cast<LRESULT>(text.size());
   if (size == 0) return 0;
   auto* place = reinterpret_cast<wchar_t*>(buffer);
@@ -356,7 +357,7 @@ LRESULT NativeControlHost::AnswerText(UINT message, WPARAM size, LPARAM buffer) 
 
 // --- Painting ---
 
-// Always the whole control: transient marks outside the part that the system asks for would stay.
+// Always the whole control: transient marks outside the update region would stay.
 void NativeControlHost::Paint() {
   Invalidate();
   const PaintScope paint(window_);
@@ -380,7 +381,7 @@ void NativeControlHost::PaintOn(HDC dc, const SIZE& size) {
   DrawFocus(dc, size);
 }
 
-// Inside the two rings of a control's edge, where the user works with keys. What is alone in its
+// Inside the two rings of a control's edge, where the user works with keys. A control alone in its
 // window needs no mark.
 void NativeControlHost::DrawFocus(HDC dc, const SIZE& size) const {
   constexpr int kEdge = 2;

@@ -12,7 +12,7 @@ namespace orvik {
 
 class NativeControlHost final : public ControlHost {
  public:
-  // A visible child window of no size, a stop of the Tab key. `module` is the module whose code
+  // A visible child window of no size, reached by the Tab key. `module` is the module whose code
   // this is. Throws std::system_error where the window cannot be made.
   NativeControlHost(HINSTANCE module, HWND parent);
   NativeControlHost(const NativeControlHost&) = delete;
@@ -55,15 +55,15 @@ class NativeControlHost final : public ControlHost {
   void AnswerFont(HFONT font);
   LRESULT AnswerText(UINT message, WPARAM size, LPARAM buffer) const;
   void HasChanged();
-  void TellChanges();
+  void RaiseEvents();
 
   WindowClass class_;
   HWND window_ = nullptr;
   HFONT font_ = nullptr;              // the window's, which outlives its use here
   std::optional<GdiSurface> screen_;  // on the window's own device context
   AccessibleWindow accessible_{*this};
-  bool isReleasing_ = false;   // the mouse is being given back by ourselves
-  bool isTellPosted_ = false;  // listeners will hear of what has changed
+  bool isReleasing_ = false;      // the mouse is being given back by ourselves
+  bool isRaisingPosted_ = false;  // kRaiseEvents is on its way to the window
 };
 
 }  // namespace orvik

@@ -16,7 +16,7 @@ int NativeDesktop::ShowBox(std::string_view text, std::string_view title, UINT s
   const ThreadDpiScope scaling;
   const VisualStyles look(module_);
   const HWND owner = ::GetActiveWindow();
-  // Without a window of ours to stand over, the thread's others must not be worked meanwhile.
+  // Without a window of ours to own it, the thread's other windows must be disabled meanwhile.
   if (!owner) style |= MB_TASKMODAL | MB_SETFOREGROUND;
   return ::MessageBoxW(owner, WideFromUtf8(text).c_str(), WideFromUtf8(title).c_str(), style);
 }

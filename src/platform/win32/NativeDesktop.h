@@ -7,7 +7,7 @@
 
 namespace orvik {
 
-// Boxes and dialogs stand over the thread's active window.
+// Message boxes and dialogs are owned by the thread's active window.
 class NativeDesktop final : public Desktop {
  public:
   // `module` is the module whose code this is.

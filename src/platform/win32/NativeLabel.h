@@ -1,5 +1,5 @@
-// Texts that stand beside fields. A label leads its mnemonic into the field after it, and names
-// that field to a screen reader.
+// Texts beside fields. A label's mnemonic leads to the field after it, and the label names that
+// field to a screen reader.
 #pragma once
 
 #include "platform/Toolkit.h"

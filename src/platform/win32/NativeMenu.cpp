@@ -119,7 +119,7 @@ bool NativeMenuBar::Run(WORD command) const {
   const std::vector<Row> rows = Rows();
   for (const Row& row : rows) {
     if (row.command != command || !IsReachable(row, rows)) continue;
-    const std::function<void()> click = row.item->OnClick;  // the answer may take the item away
+    const std::function<void()> click = row.item->OnClick;  // the handler may destroy the item
     if (click) click();
     return true;
   }

@@ -24,7 +24,7 @@ class NativeMenuBar {
   NativeMenuBar& operator=(const NativeMenuBar&) = delete;
   ~NativeMenuBar();
 
-  // Items name themselves in and out.
+  // Items register themselves, and unregister.
   void Add(NativeMenuItem& item) { items_.push_back(&item); }
   void Remove(NativeMenuItem& item);
 
@@ -32,13 +32,15 @@ class NativeMenuBar {
   void Rebuild();
   void UpdateState(const NativeMenuItem& item) const;
 
-  // Calls the item of a command's number. False where there is none that can be reached now.
+  // Raises OnClick of the item with this command number. False where there is none that the user
+  // can reach now.
   bool Run(WORD command) const;
 
-  // The number of the item that this key message works, which can be reached now; 0 for none.
+  // The command number of the item whose shortcut key this message is, where the user can reach it
+  // now; 0 for none.
   WORD CommandOfKey(const MSG& message) const;
 
-  // The window goes, or can show its menu now.
+  // The window is being destroyed, or can show its menu now.
   void Detach();
   void Attach();
 

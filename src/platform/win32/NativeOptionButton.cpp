@@ -15,15 +15,15 @@ void NativeOptionButton::Value(bool value) {
   if (value != Value()) {
     ::SendMessageW(Handle(), BM_SETCHECK, value ? BST_CHECKED : BST_UNCHECKED, 0);
   }
-  // The Tab key comes to the one that is down; the arrow keys reach the others.
+  // The Tab key reaches the button that is down; the arrow keys reach the others.
   const LONG_PTR style = ::GetWindowLongPtrW(Handle(), GWL_STYLE);
   ::SetWindowLongPtrW(Handle(), GWL_STYLE,
                       value ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});
   if (value) TakeFocusFromOtherOption();
 }
 
-// A button of this kind that is up counts as clicked as soon as the focus comes to it, also when
-// only the window does: the focus must not stay on one that was let up.
+// The system clicks a button of this kind that is up as soon as it gets the focus, also when only
+// its window is activated: so the focus must not stay on a button that was released.
 void NativeOptionButton::TakeFocusFromOtherOption() const {
   const HWND focus = ::GetFocus();
   if (!focus || focus == Handle() || ::GetParent(focus) != ::GetParent(Handle())) return;

@@ -45,7 +45,7 @@ bool NativePanel::Visible() const {
 void NativePanel::Visible(bool visible) {
   if (visible == Visible()) return;
   Show(window_, visible);
-  HandFocusOn(visible);  // none comes back into a page that is hidden already
+  HandFocusOn(visible);  // no focus returns to a page that is hidden already
   if (visible && OnShow) OnShow();
 }
 

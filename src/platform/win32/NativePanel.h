@@ -17,7 +17,7 @@ class NativePanel final : public Panel {
   HWND Handle() const { return window_; }
 
   bool Visible() const override;
-  // The keyboard follows: out of a panel that hides, into one that shows.
+  // The focus follows: out of a panel that is hidden, into one that is shown.
   void Visible(bool visible) override;
   bool Enabled() const override;
   void Enabled(bool enabled) override;

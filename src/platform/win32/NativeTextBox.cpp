@@ -122,7 +122,7 @@ LRESULT NativeTextBox::AnswerFramePaint(WPARAM wParam, LPARAM lParam) {
   return answer;
 }
 
-// A bar that has nothing to scroll would only take room.
+// A scroll bar with nothing to scroll would only take room.
 void NativeTextBox::ShowScrollBarAsNeeded() const {
   RECT inner{};
   ::GetClientRect(Handle(), &inner);
@@ -168,7 +168,7 @@ LRESULT NativeTextBox::AnswerSingle(UINT message, WPARAM wParam, LPARAM lParam) 
   if (message == WM_NCCALCSIZE) return AnswerFrameSize(wParam, lParam);
   if (message == WM_NCPAINT) return AnswerFramePaint(wParam, lParam);
   const LRESULT answer = NativeWidget::Answer(message, wParam, lParam);
-  if (message == WM_NCHITTEST) return HTCLIENT;  // the frame's room is the field's
+  if (message == WM_NCHITTEST) return HTCLIENT;  // its frame is part of the field
   if (message == WM_SETFONT) {
     // Its text begins where a label's would.
     if (bare_) ::SendMessageW(Handle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
@@ -178,7 +178,8 @@ LRESULT NativeTextBox::AnswerSingle(UINT message, WPARAM wParam, LPARAM lParam) 
   return answer;
 }
 
-// False where the control must not see the character. Enter that nobody takes is the window's.
+// False where the control must not see the character. An Enter that no handler takes is the
+// window's.
 bool NativeTextBox::AnswerCharacter(WPARAM& character) {
   if (OnKeyPress) {
     auto key = static_cast<std::int16_t>(character);

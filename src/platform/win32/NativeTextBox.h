@@ -37,8 +37,7 @@ class NativeTextBox final : public NativeWidget<TextBox> {
   void ShowScrollBarAsNeeded() const;
   void Repaint() const;
 
-  // The line of text stands in the middle of a higher field: the room above and below it counts
-  // to the frame.
+  // In a field higher than its line the text is centred: the space above and below counts as frame.
   LRESULT AnswerFrameSize(WPARAM wParam, LPARAM lParam);
   LRESULT AnswerFramePaint(WPARAM wParam, LPARAM lParam);
   int LineHeight() const;
@@ -48,7 +47,7 @@ class NativeTextBox final : public NativeWidget<TextBox> {
   GdiObject<HBRUSH> background_;
   bool wrapped_;
   bool bare_;
-  bool isSetting_ = false;  // the text is being assigned: the control's own notice is not the news
+  bool isSetting_ = false;  // the text is being assigned: the control's own notification is ignored
 };
 
 }  // namespace orvik

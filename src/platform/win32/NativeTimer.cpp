@@ -38,7 +38,7 @@ LRESULT CALLBACK NativeTimer::Procedure(HWND window, UINT message, WPARAM wParam
   auto* timer = reinterpret_cast<NativeTimer*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
   if (!timer || message != WM_TIMER) return ::DefWindowProcW(window, message, wParam, lParam);
   return WindowWall(window, [&]() -> LRESULT {
-    const std::function<void()> tick = timer->OnTick;  // the answer may take the timer away
+    const std::function<void()> tick = timer->OnTick;  // the handler may destroy the timer
     if (tick) tick();
     return 0;
   });

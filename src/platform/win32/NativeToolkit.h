@@ -10,8 +10,9 @@
 namespace orvik {
 
 // All calls, and those on the widgets, belong to one thread. The window is made first; every other
-// widget lies in the window made last, and may outlive it only to be destroyed. Making a widget
-// throws std::system_error where the system refuses, and std::logic_error without a window.
+// widget belongs to the window made last; of a widget that outlives it only the destructor may be
+// called. Making a widget throws std::system_error where the system refuses, and std::logic_error
+// without a window.
 class NativeToolkit final : public Toolkit {
  public:
   // `module` is the module whose code this is; its resources may hold an icon (1) and a manifest

@@ -26,13 +26,13 @@ RECT WorkAreaOf(HWND window) {
   return monitor.rcWork;
 }
 
-// What a user wants of the window. While a box stands over it, another program can still send this;
-// the box has to be answered first.
-bool IsWish(UINT message) {
+// What a user asks of the window. Another program can send it too while a message box is open over
+// the window; the box has to be answered first.
+bool IsUserRequest(UINT message) {
   return message == WM_COMMAND || message == WM_CLOSE || message == WM_DROPFILES;
 }
 
-BOOL CALLBACK Tell(HWND child, LPARAM message) {
+BOOL CALLBACK Forward(HWND child, LPARAM message) {
   ::SendMessageW(child, static_cast<UINT>(message), 0, 0);
   return TRUE;
 }
@@ -99,7 +99,7 @@ bool NativeWindow::Visible() const {
   return IsShown(window_);
 }
 
-// Hiding ends a modal showing: the host works again before ours goes, and the loop is woken.
+// Hiding ends ShowModally: the host's windows are enabled before ours hides, and the loop is woken.
 void NativeWindow::Visible(bool visible) {
   if (!visible && host_) host_->Release();
   ::ShowWindow(window_, visible ? SW_SHOW : SW_HIDE);
@@ -196,7 +196,7 @@ void NativeWindow::Loop() {
   MSG message{};
   while (window_ && Visible()) {
     const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
-    if (got <= 0) {  // the thread is told to end: that is its own loop's business
+    if (got <= 0) {  // WM_QUIT: left to the thread's own loop
       Visible(false);
       if (got == 0) ::PostQuitMessage(static_cast<int>(message.wParam));
       return;
@@ -227,7 +227,7 @@ LRESULT CALLBACK NativeWindow::Procedure(HWND window, UINT message, WPARAM wPara
 
 LRESULT NativeWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = Reflect(message, wParam, lParam)) return *answer;
-  if (IsWish(message) && !Enabled()) return Refuse(message, wParam);
+  if (IsUserRequest(message) && !Enabled()) return Refuse(message, wParam);
   switch (message) {
     case WM_COMMAND:
       AnswerCommand(LOWORD(wParam));
@@ -245,7 +245,8 @@ LRESULT NativeWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
       if (AnswerActivation(LOWORD(wParam) != WA_INACTIVE)) return 0;  // else the system takes it
       break;
     case WM_SETFOCUS:
-      // From one of ours, as when its page hides, it is no return from another window.
+      // From one of our own controls, as when its page is hidden, this is no return from another
+      // window.
       if (!::IsChild(window_, reinterpret_cast<HWND>(wParam))) AnswerActivation(true);
       return 0;
     case WM_NEXTDLGCTL:
@@ -259,7 +260,7 @@ LRESULT NativeWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
       LayOut();
       break;
     case WM_SYSCOLORCHANGE:
-      TellDescendants(message);
+      ForwardToDescendants(message);
       break;
     case WM_DROPFILES:
       AnswerDrop(wParam);
@@ -275,12 +276,12 @@ LRESULT NativeWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
   return ::DefWindowProcW(window_, message, wParam, lParam);
 }
 
-// What the system tells of itself reaches top-level windows only.
-void NativeWindow::TellDescendants(UINT message) const {
-  ::EnumChildWindows(window_, &Tell, static_cast<LPARAM>(message));
+// The system sends such notices to top-level windows only.
+void NativeWindow::ForwardToDescendants(UINT message) const {
+  ::EnumChildWindows(window_, &Forward, static_cast<LPARAM>(message));
 }
 
-// Dropped names are the receiver's to free, also where it has no use for them.
+// The receiver frees the names of dropped files, even if it has no use for them.
 LRESULT NativeWindow::Refuse(UINT message, WPARAM wParam) {
   if (message == WM_DROPFILES) ::DragFinish(reinterpret_cast<HDROP>(wParam));
   return 0;
@@ -299,15 +300,14 @@ void NativeWindow::AnswerCommand(WORD command) {
   menu_->Run(command);
 }
 
-// A command works on what the fields say, also on what was typed last: the field that is being
-// edited counts as left.
+// A command uses the fields' texts, including what was typed last: the field being edited counts as
+// left.
 void NativeWindow::CommitEdit() const {
   const HWND focus = ::GetFocus();
   if (::IsChild(window_, focus)) ::SendMessageW(focus, kCommitEdit, 0, 0);
 }
 
-// A closed window is hidden; it goes with this object, since its fields hold the project until
-// then.
+// Closing only hides the window, since its fields hold the project; the destructor destroys it.
 void NativeWindow::AnswerClose() {
   CommitEdit();
   bool cancel = false;
@@ -315,7 +315,7 @@ void NativeWindow::AnswerClose() {
   if (!cancel) Visible(false);
 }
 
-// True where the focus has gone back to where it was.
+// True where the focus was returned to the control that had it.
 bool NativeWindow::AnswerActivation(bool active) {
   if (!active) {
     const HWND focus = ::GetFocus();
@@ -328,8 +328,8 @@ bool NativeWindow::AnswerActivation(bool active) {
   return canReturn;
 }
 
-// A mnemonic goes to its label, and on to the field after it. `target` is a control, or whether to
-// go backwards.
+// A mnemonic moves the focus to its label, and from there to the field after it. `target` is a
+// control, or whether to go backwards.
 void NativeWindow::MoveFocus(WPARAM target, bool isControl) const {
   const HWND control = isControl ? reinterpret_cast<HWND>(target)
                                  : ::GetNextDlgTabItem(window_, ::GetFocus(), target != 0);
@@ -359,7 +359,7 @@ void NativeWindow::AnswerScaling(int dpi, const RECT& suggested) {
   LayOut();
 }
 
-// The controls have the new font before the old one goes.
+// The controls get the new font before the old one is deleted.
 void NativeWindow::SetFont(int dpi) {
   MessageFont next(dpi);
   ApplyFont(window_, design_, next);

@@ -49,7 +49,7 @@ class NativeWindow final : public Window {
   void AnswerDrop(WPARAM drop);
   void AnswerScaling(int dpi, const RECT& suggested);
   void LimitSize(MINMAXINFO& limits) const;
-  void TellDescendants(UINT message) const;
+  void ForwardToDescendants(UINT message) const;
   void SetFont(int dpi);
   void LayOut() const;
 
@@ -66,7 +66,7 @@ class NativeWindow final : public Window {
   MessageFont font_;
   std::shared_ptr<NativeMenuBar> menu_;
   std::unique_ptr<ModalHost> host_;  // while it is shown modally
-  HWND lastFocus_ = nullptr;         // of ours, while another window is active
+  HWND lastFocus_ = nullptr;         // our control to return to, while another window is active
 };
 
 }  // namespace orvik

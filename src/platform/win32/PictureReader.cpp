@@ -13,8 +13,7 @@ namespace {
 constexpr UINT kBytesOfPixel = 4;
 constexpr std::uint64_t kMostPixels = 64'000'000;
 
-// The file's first picture with its colours already weakened by its transparency; null where it
-// cannot be had.
+// The file's first picture with premultiplied alpha; null where it cannot be read.
 ComPtr<IWICFormatConverter> OpenPicture(const std::string& path) {
   ComPtr<IWICImagingFactory> factory;
   ComPtr<IWICBitmapDecoder> decoder;
@@ -34,7 +33,7 @@ ComPtr<IWICFormatConverter> OpenPicture(const std::string& path) {
   return isOpen ? converter : ComPtr<IWICFormatConverter>();
 }
 
-// 0xAARRGGBB, weakened colours, over white.
+// 0xAARRGGBB with premultiplied alpha, over white.
 std::uint32_t OverWhite(std::uint32_t pixel) {
   const std::uint32_t white = 0xFF - (pixel >> 24);
   return (pixel & 0xFFFFFF) + (white << 16 | white << 8 | white);

@@ -1,4 +1,4 @@
-// Picture files by the system's own imaging component.
+// Reads picture files with the system's imaging component.
 #pragma once
 
 #include <optional>

@@ -29,10 +29,10 @@ class SpoolerHandle {
   HANDLE handle_ = nullptr;
 };
 
-// A device mode with what the driver keeps behind it.
+// A DEVMODE with the driver's private data behind it.
 using DeviceMode = std::vector<std::byte>;
 
-// The settings as the driver makes them agree with one another; as they are where it does not.
+// The settings, made consistent by the driver; unchanged where it fails.
 DeviceMode Merged(DeviceMode wanted, HANDLE printer, std::wstring& name) {
   DeviceMode merged(wanted.size());
   const LONG answer = ::DocumentPropertiesW(
@@ -41,7 +41,7 @@ DeviceMode Merged(DeviceMode wanted, HANDLE printer, std::wstring& name) {
   return answer == IDOK ? merged : wanted;
 }
 
-// The user's settings of the printer, in portrait; empty where the driver does not tell them.
+// The user's settings of the printer, in portrait; empty where the driver does not report them.
 DeviceMode PortraitMode(std::wstring& name) {
   const SpoolerHandle printer(name);
   if (!printer.Get()) return {};

@@ -7,7 +7,7 @@
 
 namespace orvik {
 
-// A printer's device context: our own, which goes with this, or one that somebody lends.
+// A printer's device context: our own, which is deleted with this, or one that the caller lends.
 class PrinterDc {
  public:
   // The printer of this name (UTF-8), printing in portrait; empty where there is no such printer or

@@ -1,4 +1,4 @@
-// Notifications that Windows sends to a control's parent, handed on to the control itself.
+// Passes on to a control the notifications that Windows sends to its parent.
 #pragma once
 
 #include <windows.h>

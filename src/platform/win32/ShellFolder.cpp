@@ -21,7 +21,7 @@ struct FreeString {
 };
 using OwnedString = std::unique_ptr<OLECHAR, FreeString>;
 
-// COM on this thread while it lives; a host that has it already keeps its own.
+// Initialises COM on this thread while it lives; a host that has done so already keeps its own.
 class ComScope {
  public:
   ComScope() : result_(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}

@@ -1,4 +1,4 @@
-// The user's folders as the shell's automation object tells them.
+// The user's folders, asked of the shell's automation object.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// The look of the system's present controls in a host that has not asked for it itself.
+// The system's current visual styles, in a host that has not asked for them itself.
 #pragma once
 
 #include <windows.h>

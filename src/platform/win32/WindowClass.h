@@ -1,5 +1,5 @@
-// A window class of a module. It is gone with the last window that used it, so that the module can
-// be unloaded and loaded again.
+// A window class of a module, unregistered with the last window that uses it, so that the module
+// can be unloaded and loaded again.
 #pragma once
 
 #include <windows.h>
@@ -10,8 +10,8 @@ namespace orvik {
 
 class WindowClass {
  public:
-  // Takes the class that is there under this name and module, or registers it. Throws
-  // std::system_error where there can be none.
+  // Uses the class registered under this name and module, or registers it. Throws std::system_error
+  // where that fails.
   explicit WindowClass(const WNDCLASSEXW& description);
   ~WindowClass();
   WindowClass(const WindowClass&) = delete;

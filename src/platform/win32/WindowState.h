@@ -1,5 +1,5 @@
-// What a widget's window is and does, whichever kind of widget stands on it. Of no window (null)
-// each reads as false and does nothing.
+// State and position of a widget's window, whatever kind of widget it is. Of no window (null) each
+// reads as false and does nothing.
 #pragma once
 
 #include <windows.h>
@@ -10,7 +10,7 @@ inline bool HasStyle(HWND window, LONG_PTR style) {
   return (::GetWindowLongPtrW(window, GWL_STYLE) & style) != 0;
 }
 
-// Shown or hidden for itself, whatever its parents are.
+// Whether the window itself is shown, whatever its parents are.
 inline bool IsShown(HWND window) {
   return HasStyle(window, WS_VISIBLE);
 }

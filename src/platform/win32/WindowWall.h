@@ -1,4 +1,4 @@
-// The wall around every window procedure: nothing is thrown through it.
+// The wall around every window procedure: no exception passes through it.
 #pragma once
 
 #include <windows.h>
