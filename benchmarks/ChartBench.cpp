@@ -54,7 +54,7 @@ void MouseMove(benchmark::State& state) {
   MemoryHost host;
   Chart chart;
   chart.control.AttachHost(&host);
-  chart.control.InteractiveMode(kTrue16);
+  chart.control.InteractiveMode(true);
   int changes = 0;
   chart.control.OnChange = [&] { ++changes; };
   chart.control.MouseDown(kLeftButton, 300, 400);

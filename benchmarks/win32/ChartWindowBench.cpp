@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "chart/HostedChart.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "platform/win32/NativeControlHost.h"
 
 namespace orvik {
@@ -101,10 +100,9 @@ void Run() {
   const HWND parent =
       ::CreateWindowExW(0, L"STATIC", L"Benchmark", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 1100,
                         800, nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr);
-  HeadlessDesktop desktop;
   ctrlStormwaterReuse chart(ORVIK_DATA);
   chart.SetCurveData(kTampa);
-  chart.InteractiveMode(kTrue16);
+  chart.InteractiveMode(true);
   OneWindow toolkit(parent);
   HostedChart hosted(toolkit, "chart", chart);
   hosted.Place().Move(0, 0, kWidth, kHeight);

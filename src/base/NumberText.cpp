@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <utility>
 
 #include "base/RuntimeErrors.h"
 #include "base/Text.h"
@@ -38,6 +40,41 @@ Decimal ToDecimal(Number value, int significantDigits) {
   return result;
 }
 
+// Single precision in seven digits, the form of nearly every number that is shown: scaled to a
+// whole number of seven digits in double precision. The scaled value is off by less than 1E-9, so
+// where it is not near the middle between two whole numbers its rounding is that of the exact
+// value. Nothing where that is not certain, and for magnitudes that are far from 1.
+std::optional<Decimal> SevenDigits(float value) {
+  constexpr double kLeast = 1e6;  // of seven digits
+  constexpr double kMost = 1e7;
+  constexpr double kUncertain = 1e-6;
+  constexpr std::array kPowersOfTen{1e0, 1e1, 1e2, 1e3,  1e4,  1e5,  1e6,
+                                    1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13};
+  const double magnitude = std::fabs(static_cast<double>(value));
+  if (!(magnitude >= 1e-6 && magnitude < 1e6)) return std::nullopt;
+  std::size_t power = 1;  // by which the value is scaled; the first that gives seven digits
+  while (magnitude * kPowersOfTen[power] < kLeast - kUncertain) ++power;
+  const double scaled = magnitude * kPowersOfTen[power];
+  const double whole = std::floor(scaled);
+  const double fraction = scaled - whole;
+  if (scaled < kLeast + kUncertain || std::fabs(fraction - 0.5) < kUncertain) return std::nullopt;
+  const double rounded = whole + (fraction > 0.5 ? 1 : 0);
+  if (rounded >= kMost) return std::nullopt;
+  std::array<char, 7> digits{};
+  auto rest = static_cast<std::uint32_t>(rounded);
+  for (std::size_t i = digits.size(); i-- > 0; rest /= 10) {
+    digits[i] = static_cast<char>('0' + rest % 10);
+  }
+  std::size_t count = digits.size();
+  while (digits[count - 1] == '0') --count;
+  return Decimal{std::signbit(value), std::string(digits.data(), count),
+                 6 - static_cast<int>(power)};
+}
+
+std::optional<Decimal> SevenDigits(double) {
+  return std::nullopt;
+}
+
 std::string ExponentForm(const Decimal& number) {
   std::string text = number.digits.substr(0, 1);
   if (number.digits.size() > 1) text += "." + number.digits.substr(1);
@@ -63,7 +100,8 @@ template <typename Number>
 std::string Format(Number value, int significantDigits) {
   if (!std::isfinite(value)) throw OverflowError();
   if (value == 0) return "0";
-  const Decimal number = ToDecimal(value, significantDigits);
+  const auto quick = SevenDigits(value);
+  const Decimal number = quick ? *quick : ToDecimal(value, significantDigits);
   const bool plain =
       number.exponent >= kSmallestDecimalExponent && number.exponent < significantDigits;
   return (number.negative ? "-" : "") + (plain ? DecimalForm(number) : ExponentForm(number));
@@ -75,6 +113,12 @@ std::string Shortest(Number value) {
   std::array<char, 32> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
   return {buffer.data(), end};
+}
+
+// For the text of a number.
+std::string WithZeroBeforePeriod(std::string text) {
+  if (text.front() == '.') text.insert(0, 1, '0');
+  return text;
 }
 
 bool IsDigit(char c) {
@@ -141,7 +185,33 @@ bool IsHuge(std::string_view number) {
   return exponent > 0;
 }
 
+// The value of a plain decimal with few digits: a whole number below 2^53 and a power of ten are
+// both exact, so their quotient is the nearest double, as std::from_chars gives it.
+std::optional<double> ShortDecimal(std::string_view number) {
+  constexpr std::size_t kMostCharacters = 16;  // 15 digits and a period
+  constexpr std::array kPowersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                    1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (number.size() > kMostCharacters) return std::nullopt;
+  std::int64_t digits = 0;
+  std::size_t decimals = 0;
+  std::size_t period = number.size();
+  for (std::size_t i = 0; i < number.size(); ++i) {
+    if (IsDigit(number[i])) {
+      digits = digits * 10 + (number[i] - '0');
+    } else if (number[i] == '.') {
+      period = i;
+    } else {
+      return std::nullopt;  // an exponent
+    }
+  }
+  const bool hasPeriod = period < number.size();
+  if (hasPeriod) decimals = number.size() - period - 1;
+  if (!hasPeriod && number.size() == kMostCharacters) return std::nullopt;
+  return static_cast<double>(digits) / kPowersOfTen[decimals];
+}
+
 double ValueOf(const Prefix& prefix) {
+  if (const auto value = ShortDecimal(prefix.number)) return prefix.negative ? -*value : *value;
   double value = 0;
   const auto* end = prefix.number.data() + prefix.number.size();
   const auto result = std::from_chars(prefix.number.data(), end, value);
@@ -162,16 +232,15 @@ std::string ToDecimalText(double value) {
 }
 
 std::string AddZeroPrefix(std::string text) {
-  if (!text.empty() && text.front() == '.' && IsNumericText(text)) text.insert(0, 1, '0');
-  return text;
+  return IsNumericText(text) ? WithZeroBeforePeriod(std::move(text)) : text;
 }
 
 std::string ConvertToString(float value) {
-  return AddZeroPrefix(ToDecimalText(value));
+  return WithZeroBeforePeriod(ToDecimalText(value));
 }
 
 std::string ConvertToString(double value) {
-  return AddZeroPrefix(ToDecimalText(value));
+  return WithZeroBeforePeriod(ToDecimalText(value));
 }
 
 std::string ToShortestText(float value) {
@@ -197,10 +266,15 @@ double ParseNumber(std::string_view text) {
   return prefix.number.empty() ? 0.0 : ValueOf(prefix);
 }
 
-bool IsNumericText(std::string_view text) {
+std::optional<double> ParseNumericText(std::string_view text) {
   const Prefix prefix = NumericPrefix(text);
-  if (prefix.number.empty() || !Trim(text.substr(prefix.consumed)).empty()) return false;
-  return std::isfinite(ValueOf(prefix));
+  if (prefix.number.empty() || !Trim(text.substr(prefix.consumed)).empty()) return std::nullopt;
+  const double value = ValueOf(prefix);
+  return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+bool IsNumericText(std::string_view text) {
+  return ParseNumericText(text).has_value();
 }
 
 bool IsWholeNumberText(std::string_view text) {

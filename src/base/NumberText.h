@@ -44,6 +44,9 @@ double ParseNumber(std::string_view text);
 // period, an exponent.
 bool IsNumericText(std::string_view text);
 
+// The value of such a text; nothing where it is none.
+std::optional<double> ParseNumericText(std::string_view text);
+
 // True when the whole text is a sign (optional) and decimal digits, blanks around them allowed.
 bool IsWholeNumberText(std::string_view text);
 

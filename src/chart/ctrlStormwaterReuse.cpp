@@ -184,8 +184,8 @@ ChartScene ctrlStormwaterReuse::Scene() const {
           .heights = {}};
 }
 
-void ctrlStormwaterReuse::UserMode(Boolean16 on) {
-  userMode_ = on != kFalse16;
+void ctrlStormwaterReuse::UserMode(bool on) {
+  userMode_ = on;
   Refresh();
 }
 
@@ -205,10 +205,9 @@ void ctrlStormwaterReuse::PrintDesignChart(Printer& printer, std::int16_t Left, 
 
 // --- Mouse and keys ---
 
-void ctrlStormwaterReuse::InteractiveMode(Boolean16 on) {
-  const bool interactive = on != kFalse16;
-  if (interactive == input_.InteractiveMode()) return;
-  input_.InteractiveMode(interactive);
+void ctrlStormwaterReuse::InteractiveMode(bool on) {
+  if (on == input_.InteractiveMode()) return;
+  input_.InteractiveMode(on);
   Refresh();  // the background differs
 }
 

@@ -10,7 +10,6 @@
 #include <string_view>
 #include <utility>
 
-#include "base/Boolean16.h"
 #include "chart/ChartPrinting.h"
 #include "chart/ChartScene.h"
 #include "chart/ChartState.h"
@@ -111,7 +110,7 @@ class ctrlStormwaterReuse {
     return std::forward<Work>(work)(state_.point, InFrame());
   }
 
-  Boolean16 HotSpotVisibile() const { return ToBoolean16(state_.point.isShown); }
+  bool HotSpotVisibile() const { return state_.point.isShown; }
   void HideHotSpot();
 
   // The hotspot's values in single precision; 0 and False while it is hidden (E: also while it is
@@ -134,8 +133,8 @@ class ctrlStormwaterReuse {
 
   // True while the control works for a user; False where a host only lays it out, which shows no
   // chart. True at first.
-  Boolean16 UserMode() const { return ToBoolean16(userMode_); }
-  void UserMode(Boolean16 on);
+  bool UserMode() const { return userMode_; }
+  void UserMode(bool on);
 
   // Lies under the chart while InteractiveMode is False, from the upper left corner on, unscaled.
   void BackgroundPicture(std::optional<Picture> picture);
@@ -149,11 +148,11 @@ class ctrlStormwaterReuse {
   // --- Mouse and keys ---
 
   // True: the mouse places the hotspot.
-  Boolean16 InteractiveMode() const { return ToBoolean16(input_.InteractiveMode()); }
-  void InteractiveMode(Boolean16 on);
+  bool InteractiveMode() const { return input_.InteractiveMode(); }
+  void InteractiveMode(bool on);
 
   // True during a drag.
-  Boolean16 MouseCaptured() const { return ToBoolean16(input_.MouseCaptured()); }
+  bool MouseCaptured() const { return input_.MouseCaptured(); }
 
   // What the window's messages say. Button 1 is the left one; x and y are pixels of the control,
   // and any value is allowed. Arrow keys (37...40) move a visible hotspot by a pixel; the Space bar
@@ -169,7 +168,7 @@ class ctrlStormwaterReuse {
   bool WantsKey(std::int16_t keyCode) const { return input_.WantsKey(keyCode); }
   void GotFocus() { input_.GotFocus(); }
   void LostFocus() { input_.LostFocus(); }
-  Boolean16 HasFocus() const { return ToBoolean16(input_.HasFocus()); }
+  bool HasFocus() const { return input_.HasFocus(); }
 
  private:
   void LayOut(std::shared_ptr<const CurveSet> curves);

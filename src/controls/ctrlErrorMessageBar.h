@@ -8,7 +8,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/Boolean16.h"
 #include "platform/Desktop.h"
 #include "platform/Toolkit.h"
 
@@ -29,11 +28,11 @@ class ctrlErrorMessageBar {
   void Clear();
 
   // A message is shown.
-  Boolean16 IsSet() const { return ToBoolean16(isSet_); }
+  bool IsSet() const { return isSet_; }
   std::string Text() const { return Text1_->Text(); }
 
-  Boolean16 BeepOn() const { return ToBoolean16(beepOn_); }
-  void BeepOn(Boolean16 on) { beepOn_ = on != kFalse16; }
+  bool BeepOn() const { return beepOn_; }
+  void BeepOn(bool on) { beepOn_ = on; }
   std::int16_t ExtendedHelpTopic() const { return extendedHelpTopic_; }
   void ExtendedHelpTopic(std::int16_t topic) { extendedHelpTopic_ = topic; }
 

@@ -46,8 +46,9 @@ std::optional<float> CheckQuantity(std::string_view text, const QuantityCheck& c
     return std::nullopt;
   };
   if (trimmed.empty()) return refuse(check.empty);
-  if (!IsNumericText(trimmed)) return refuse(check.notNumeric);
-  const float value = ToSingle(ParseNumber(trimmed));
+  const auto number = ParseNumericText(trimmed);
+  if (!number) return refuse(check.notNumeric);
+  const float value = ToSingle(*number);
   if (!IsInRange(value, check.range)) return refuse(check.outOfRange);
   return Held(value);
 }

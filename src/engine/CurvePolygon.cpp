@@ -1,6 +1,7 @@
 #include "engine/CurvePolygon.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvik {
 namespace {
@@ -9,20 +10,6 @@ void Append(FramePolygon& polygon, std::int16_t X, std::int16_t Y) {
   if (polygon.Count() > 0 && polygon.X.back() == X && polygon.Y.back() == Y) return;
   polygon.X.push_back(X);
   polygon.Y.push_back(Y);
-}
-
-// True when the horizontal ray to the right of (X, Y) crosses the edge from (X1, Y1) to (X2, Y2).
-bool CrossesEdge(std::int16_t X, std::int16_t Y, std::int16_t X1, std::int16_t Y1, std::int16_t X2,
-                 std::int16_t Y2) {
-  if (Y1 == Y2 || Y < std::min(Y1, Y2) || Y >= std::max(Y1, Y2) || X > std::max(X1, X2)) {
-    return false;
-  }
-  if (X1 == X2) return true;  // upright, and X is not to its right
-  // Where the edge crosses row Y, in double precision: the product exceeds 16 bits.
-  const double rise = static_cast<double>(Y) - Y1;
-  const double crossing =
-      rise * (static_cast<double>(X2) - X1) / (static_cast<double>(Y2) - Y1) + X1;
-  return X <= crossing;
 }
 
 }  // namespace
@@ -45,12 +32,24 @@ FramePolygon FindPolygonInPlotCoordinates(const EfficiencyCurve& A, const Effici
   return polygon;
 }
 
+std::optional<std::int16_t> LastCrossingColumn(std::int16_t Y, std::int16_t X1, std::int16_t Y1,
+                                               std::int16_t X2, std::int16_t Y2) {
+  if (Y1 == Y2 || Y < std::min(Y1, Y2) || Y >= std::max(Y1, Y2)) return std::nullopt;
+  if (X1 == X2) return X1;
+  const double rise = static_cast<double>(Y) - Y1;
+  const double crossing =
+      rise * (static_cast<double>(X2) - X1) / (static_cast<double>(Y2) - Y1) + X1;
+  // A whole column is not right of the crossing where it is not right of the crossing's own column.
+  const double column = std::floor(crossing);
+  return static_cast<std::int16_t>(std::min(column, static_cast<double>(std::max(X1, X2))));
+}
+
 bool IsPointInsidePolygon(std::int16_t X, std::int16_t Y, const FramePolygon& polygon) {
   bool inside = false;
   for (std::size_t k = 0; k + 1 < polygon.Count(); ++k) {
-    if (CrossesEdge(X, Y, polygon.X[k], polygon.Y[k], polygon.X[k + 1], polygon.Y[k + 1])) {
-      inside = !inside;
-    }
+    const auto last =
+        LastCrossingColumn(Y, polygon.X[k], polygon.Y[k], polygon.X[k + 1], polygon.Y[k + 1]);
+    if (last && X <= *last) inside = !inside;
   }
   return inside;
 }

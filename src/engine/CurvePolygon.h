@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "engine/EfficiencyCurve.h"
@@ -34,6 +35,11 @@ struct FramePolygon {
 // pixels.
 FramePolygon FindPolygonInPlotCoordinates(const EfficiencyCurve& A, const EfficiencyCurve& B,
                                           const PlotToFrame& mapping);
+
+// The last column from which a horizontal ray to the right crosses the edge from (X1, Y1) to (X2,
+// Y2) in row Y; nothing where no ray of this row does.
+std::optional<std::int16_t> LastCrossingColumn(std::int16_t Y, std::int16_t X1, std::int16_t Y1,
+                                               std::int16_t X2, std::int16_t Y2);
 
 // Even-odd crossing test in whole pixels. Edges are half-open in y, so that a vertex counts once.
 bool IsPointInsidePolygon(std::int16_t X, std::int16_t Y, const FramePolygon& polygon);

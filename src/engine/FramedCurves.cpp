@@ -18,32 +18,50 @@ FramedCurves::FramedCurves(std::shared_ptr<const CurveSet> curves, const PlotGeo
 
 std::optional<FramedCurves::Region> FramedCurves::MakeRegion(const EfficiencyCurve& A,
                                                              const EfficiencyCurve& B,
-                                                             const PlotToFrame& mapping) {
+                                                             const PlotGeometry& geometry) {
   try {
     Region region;
-    region.polygon = FindPolygonInPlotCoordinates(A, B, mapping);
-    if (region.polygon.Count() == 0) return region;
-    const auto [left, right] = std::ranges::minmax(region.polygon.X);
-    const auto [top, bottom] = std::ranges::minmax(region.polygon.Y);
-    region.left = left;
-    region.right = right;
-    region.top = top;
-    region.bottom = bottom;
+    region.polygon = FindPolygonInPlotCoordinates(A, B, geometry);
+    FindCrossings(region, geometry.Frame());
     return region;
   } catch (const OverflowError&) {
     return std::nullopt;  // only a question that comes so far is refused
   }
 }
 
-// Outside the vertices' extent every ray crosses the closed polygon an even number of times.
+void FramedCurves::FindCrossings(Region& region, const clsRectangle_Integer& frame) {
+  region.top = frame.Top;
+  std::vector<std::vector<std::int16_t>> rows(
+      static_cast<std::size_t>(std::max(0, frame.Bottom - frame.Top + 1)));
+  const FramePolygon& polygon = region.polygon;
+  for (std::size_t k = 0; k + 1 < polygon.Count(); ++k) {
+    const int first = std::max<int>(std::min(polygon.Y[k], polygon.Y[k + 1]), frame.Top);
+    const int end = std::min<int>(std::max(polygon.Y[k], polygon.Y[k + 1]), frame.Bottom + 1);
+    for (int Y = first; Y < end; ++Y) {
+      const auto last = LastCrossingColumn(static_cast<std::int16_t>(Y), polygon.X[k], polygon.Y[k],
+                                           polygon.X[k + 1], polygon.Y[k + 1]);
+      if (last) rows[static_cast<std::size_t>(Y - frame.Top)].push_back(*last);
+    }
+  }
+  region.rowBegins.push_back(0);
+  for (const auto& row : rows) {
+    region.crossings.insert(region.crossings.end(), row.begin(), row.end());
+    region.rowBegins.push_back(region.crossings.size());
+  }
+}
+
 bool FramedCurves::IsBetweenCurves(std::size_t i, FramePixel pixel) const {
   const std::optional<Region>& region = regions_[i];
   if (!region) throw OverflowError();
-  if (pixel.X < region->left || pixel.X > region->right || pixel.Y < region->top ||
-      pixel.Y >= region->bottom) {
-    return false;
+  const int row = pixel.Y - region->top;
+  const bool isInFrame = 0 <= row && row + 1 < static_cast<int>(region->rowBegins.size());
+  if (!isInFrame) return IsPointInsidePolygon(pixel.X, pixel.Y, region->polygon);
+  const auto at = static_cast<std::size_t>(row);
+  bool isInside = false;
+  for (std::size_t c = region->rowBegins[at]; c < region->rowBegins[at + 1]; ++c) {
+    if (pixel.X <= region->crossings[c]) isInside = !isInside;
   }
-  return IsPointInsidePolygon(pixel.X, pixel.Y, region->polygon);
+  return isInside;
 }
 
 clsPlotWindow PlotWindowOf(const CurveSet& curves) {

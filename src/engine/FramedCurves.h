@@ -31,15 +31,18 @@ class FramedCurves {
   bool IsBetweenCurves(std::size_t i, FramePixel pixel) const;
 
  private:
+  // A region between two curves, row by row of the frame: the columns at which a ray to the right
+  // stops to cross one more of the polygon's edges. A pixel lies inside where an odd number of them
+  // is not left of it.
   struct Region {
-    FramePolygon polygon;
-    std::int16_t left = 0;  // of the vertices
-    std::int16_t right = 0;
-    std::int16_t top = 0;
-    std::int16_t bottom = 0;
+    FramePolygon polygon;                 // for pixels outside of the frame's rows
+    std::int16_t top = 0;                 // the first row
+    std::vector<std::size_t> rowBegins;   // in `crossings`; one more than rows
+    std::vector<std::int16_t> crossings;  // row by row
   };
   static std::optional<Region> MakeRegion(const EfficiencyCurve& A, const EfficiencyCurve& B,
-                                          const PlotToFrame& mapping);
+                                          const PlotGeometry& geometry);
+  static void FindCrossings(Region& region, const clsRectangle_Integer& frame);
 
   std::shared_ptr<const CurveSet> curves_;
   PlotGeometry geometry_;

@@ -140,9 +140,8 @@ double PlotGeometry::YFrameToYPlot(std::int16_t Y) const {
          window_.YMin;
 }
 
-Boolean16 PlotGeometry::IsPointInFrame(std::int16_t X, std::int16_t Y) const {
-  return ToBoolean16(frame_.Left <= X && X <= frame_.Right && frame_.Top <= Y &&
-                     Y <= frame_.Bottom);
+bool PlotGeometry::IsPointInFrame(std::int16_t X, std::int16_t Y) const {
+  return frame_.Left <= X && X <= frame_.Right && frame_.Top <= Y && Y <= frame_.Bottom;
 }
 
 }  // namespace orvik

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 
-#include "base/Boolean16.h"
 #include "engine/ChartShape.h"
 #include "engine/CurvePolygon.h"
 #include "engine/PlotRecords.h"
@@ -65,8 +64,8 @@ class PlotGeometry final : public PlotToFrame {
   double XFrameToXPlot(std::int16_t X) const;
   double YFrameToYPlot(std::int16_t Y) const;
 
-  // True (-1) when the pixel lies in the frame or on its lines.
-  Boolean16 IsPointInFrame(std::int16_t X, std::int16_t Y) const;
+  // True when the pixel lies in the frame or on its lines.
+  bool IsPointInFrame(std::int16_t X, std::int16_t Y) const;
 
   const clsPlotWindow& Window() const { return window_; }
   const clsRectangle_Integer& Frame() const { return frame_; }

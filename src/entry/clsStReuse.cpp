@@ -24,6 +24,12 @@ class UnloadAtEnd {
   ReuseModule& module_;
 };
 
+// The host's project, handed over as text. Half a project must not pass for the host's, neither in
+// the window nor in print: one that cannot be read to its end leaves cleared data.
+void LoadProjectText(Form1& window, const std::string& text) {
+  if (!window.Files().ReadFile(text)) window.Files().New();
+}
+
 }  // namespace
 
 std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& ParamString2,
@@ -56,8 +62,7 @@ void clsStReuse::Load(Form1& window, const std::string& ParamString2,
     if (FileExists(ParamString2)) window.Files().OpenProject(ParamString2);
     return;
   }
-  // Half a project must not pass for the host's.
-  if (!ParamString3.empty() && !window.Files().ReadFile(ParamString3)) window.Files().New();
+  if (!ParamString3.empty()) LoadProjectText(window, ParamString3);
   const auto items = SplitLines(ParamString2);
   if (items.size() >= 2) window.TakeBasin(items[0], items[1]);
 }
@@ -67,7 +72,7 @@ void clsStReuse::Print_Remote(Printer* printer, std::int16_t Mode, const std::st
   const ReuseModule::Use use(module_);
   Form1& window = module_.Window();
   window.Mode(Mode);
-  window.Files().ReadFile(ParamString2);
+  LoadProjectText(window, ParamString2);
   window.PrintOn(printer);
 }
 

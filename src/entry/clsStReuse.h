@@ -28,8 +28,9 @@ class clsStReuse {
                     std::string& ParamString3);
 
   // Prints the report of the project text ParamString2 and shows no window; `printer` is null where
-  // none can be reached, which is told. Takes Mode and ParamString1 as Show does. The window stays
-  // loaded and hidden. Throws WindowBusyError while the window is open.
+  // none can be reached, which is told. A text that cannot be read to its end is told too, and the
+  // report is that of cleared data; so is that of an empty text. Takes Mode and ParamString1 as
+  // Show does. The window stays loaded and hidden. Throws WindowBusyError while the window is open.
   void Print_Remote(Printer* printer, std::int16_t Mode, const std::string& ParamString1,
                     const std::string& ParamString2);
 

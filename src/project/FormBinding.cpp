@@ -10,7 +10,7 @@ Project FormBinding::Snapshot() const {
   for (const FieldDesign& field : Fields()) project.Text(field.id) = form_.Box(field.id).Text();
   project.station = form_.cmbClimateStation->ListIndex();
   project.mode = form_.Mode();
-  project.takesPointByHand = chart_.InteractiveMode() != kFalse16;
+  project.takesPointByHand = chart_.InteractiveMode();
   project.point = chart_.Point();
   return project;
 }
@@ -30,8 +30,8 @@ void FormBinding::Empty(std::initializer_list<Field> fields) {
 }
 
 void ShowOnBar(ctrlErrorMessageBar& bar, const Message& message) {
-  const Boolean16 beepOn = bar.BeepOn();
-  if (message.id == MessageId::MissingData) bar.BeepOn(kFalse16);
+  const bool beepOn = bar.BeepOn();
+  if (message.id == MessageId::MissingData) bar.BeepOn(false);
   bar.SetErrMsg(Sentence(message), HelpTopic(message.id));
   bar.BeepOn(beepOn);
 }

@@ -23,11 +23,11 @@ InteractiveSynchronisation::~InteractiveSynchronisation() {
 }
 
 void InteractiveSynchronisation::AnswerMousePressed() {
-  form_.txtErrMsg.BeepOn(kFalse16);
+  form_.txtErrMsg.BeepOn(false);
 }
 
 void InteractiveSynchronisation::AnswerMouseReleased() {
-  form_.txtErrMsg.BeepOn(kTrue16);
+  form_.txtErrMsg.BeepOn(true);
 }
 
 std::int16_t InteractiveSynchronisation::GuessBestInteractiveSolution() const {

@@ -21,7 +21,7 @@ void ModeChange::Apply() {
   if (mode != SolveFor::None) FillSlots(mode, texts);
   SetLocks(mode);
   const bool isInteractive = mode == SolveFor::Interactive;
-  chart_.InteractiveMode(ToBoolean16(isInteractive));
+  chart_.InteractiveMode(isInteractive);
   // The normalized numbers still stand in their fields: the user finds the point where they were.
   const bool placed = isInteractive && interactive_.PlaceHotspotByNumbers();
   if (workflow_.IsDataDefined()) {

@@ -1,8 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
 #include <clocale>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
+#include <random>
 
 #include "base/NumberText.h"
 #include "base/RuntimeErrors.h"
@@ -155,6 +160,42 @@ TEST(ParseWholeNumber, HoldsSixteenBits) {
   EXPECT_EQ(ParseWholeNumber("32768"), std::nullopt);
   EXPECT_EQ(ParseWholeNumber(std::string(500, '9')), std::nullopt);
   EXPECT_EQ(ParseWholeNumber("x"), std::nullopt);
+}
+
+// The C library's printing rounds the exact binary value; its digits are ours.
+TEST(NumberText, SingleNumbersHaveTheDigitsOfTheExactValue) {
+  std::mt19937 random(7);
+  std::uniform_int_distribution<std::uint32_t> bits;
+  std::uniform_real_distribution<double> exponents(-8, 8);
+  const auto check = [](float value) {
+    std::array<char, 32> printed{};
+    std::snprintf(printed.data(), printed.size(), "%.6e", static_cast<double>(value));
+    // Both texts are the same seven digits, so they are the same double.
+    EXPECT_EQ(std::strtod(printed.data(), nullptr), ParseNumber(ToDecimalText(value)))
+        << printed.data();
+  };
+  for (int i = 0; i < 200000; ++i) {
+    const float value = std::bit_cast<float>(bits(random));
+    if (std::isfinite(value)) check(value);
+    check(static_cast<float>(std::pow(10, exponents(random))));
+    // Halves of the seventh digit: exact ties where single precision holds them.
+    check(static_cast<float>(i) * 0.5F + 100000.0F);
+    check(static_cast<float>(i % 9999) * 0.0009765625F);
+  }
+}
+
+// The C library reads every decimal exactly rounded.
+TEST(ParseNumber, ReadsShortDecimalsExactlyRounded) {
+  std::mt19937_64 random(7);
+  for (int i = 0; i < 300000; ++i) {
+    std::string text = std::to_string(random() % 10000000000000000ULL >> random() % 50);
+    text.insert(random() % (text.size() + 1), ".");
+    EXPECT_EQ(ParseNumber(text), std::strtod(text.c_str(), nullptr)) << text;
+    EXPECT_EQ(ParseNumericText(text), std::strtod(text.c_str(), nullptr)) << text;
+  }
+  EXPECT_EQ(ParseNumericText("1 acre"), std::nullopt);
+  EXPECT_EQ(ParseNumericText("1e999"), std::nullopt);
+  EXPECT_EQ(ParseNumericText(" -2.50 "), -2.5);
 }
 
 TEST(NumberText, DoesNotFollowTheLocale) {

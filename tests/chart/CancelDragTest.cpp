@@ -33,7 +33,7 @@ TEST_F(CancelDrag, PutsThePointBackAndRaisesChangeThenMouseReleased) {
   DragAndCancel();
   EXPECT_THAT(host_.Take(),
               ElementsAre("release", "invalidate", "invalidate", "Change", "MouseReleased"));
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
+  EXPECT_FALSE(chart_.MouseCaptured());
   ExpectPixel(480, 434);
   EXPECT_EQ(chart_.Point().V, 3.5);
   float again = 0;
@@ -61,7 +61,7 @@ TEST_F(CancelDrag, HidesAPointThatWasNotThere) {
   const std::string message = chart_.ErrMsg();
   ASSERT_FALSE(message.empty());
   DragAndCancel();
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
   EXPECT_EQ(chart_.ErrMsg(), message);
   EXPECT_EQ(chart_.HelpTopicIndex(), 1);
   EXPECT_EQ(host_.Take().back(), "MouseReleased");
@@ -106,7 +106,7 @@ TEST_F(CancelDrag, OnNewCurvesItOnlyEndsTheDrag) {
   chart_.MouseDown(kLeft, 500, 450);
   chart_.Clear();
   chart_.KeyDown(kEscape);
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
 }
 
 TEST_F(CancelDrag, EscIsWantedOnlyDuringADrag) {

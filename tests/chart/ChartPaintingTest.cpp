@@ -103,12 +103,12 @@ TEST_F(ChartPainting, WithoutCurvesOnlyTheBorderIsDrawn) {
 
 TEST_F(ChartPainting, OutsideUserModeOnlyTheBackgroundAndTheBorderAreDrawn) {
   Load(TwoShortCurves());
-  chart_.UserMode(kFalse16);
+  chart_.UserMode(false);
   EXPECT_EQ(Paint().size(), 9U);
   chart_.BackgroundPicture(Picture{{2, 1}, {0x112233, 0x445566}});
   EXPECT_EQ(Paint()[1], "picture 2x1 in 0,0 to 960,640");
   EXPECT_EQ(Paint().size(), 10U);
-  chart_.UserMode(kTrue16);
+  chart_.UserMode(true);
   EXPECT_GT(Paint().size(), 30U);
 }
 
@@ -116,7 +116,7 @@ TEST_F(ChartPainting, TheBackgroundLiesUnderAChartThatIsNotInteractive) {
   Load(TwoShortCurves());
   chart_.BackgroundPicture(Picture{{2, 1}, {0x112233, 0x445566}});
   EXPECT_EQ(Paint()[1], "picture 2x1 in 0,0 to 960,640");
-  chart_.InteractiveMode(kTrue16);
+  chart_.InteractiveMode(true);
   EXPECT_THAT(Paint(), Not(Contains(StartsWith("picture"))));
 }
 

@@ -13,7 +13,7 @@ class HostedChartTest : public ChartFixture {
  protected:
   void SetUp() override {
     Load(LogarithmicCurves());
-    chart_.InteractiveMode(kTrue16);
+    chart_.InteractiveMode(true);
   }
 
   test::UserToolkit toolkit_;
@@ -30,12 +30,12 @@ TEST_F(HostedChartTest, KeepsTheSizeOfAControlWithoutAWindowUntilItGetsOne) {
 
 TEST_F(HostedChartTest, TheMouseDragsTheHotspot) {
   host_.OnMouseDown(2, 480, 434);
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
   host_.OnMouseDown(1, 480, 434);
   host_.OnMouseMove(500, 440);
-  EXPECT_EQ(chart_.MouseCaptured(), kTrue16);
+  EXPECT_TRUE(chart_.MouseCaptured());
   host_.OnMouseUp(1, 500, 440);
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
+  EXPECT_FALSE(chart_.MouseCaptured());
   EXPECT_EQ(chart_.Point().pixel.X, 500);
   EXPECT_EQ(chart_.Point().pixel.Y, 440);
 }
@@ -43,25 +43,25 @@ TEST_F(HostedChartTest, TheMouseDragsTheHotspot) {
 TEST_F(HostedChartTest, AnyButtonReleasedEndsTheDrag) {
   host_.OnMouseDown(1, 480, 434);
   host_.OnMouseUp(2, 480, 434);
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
+  EXPECT_FALSE(chart_.MouseCaptured());
 }
 
 TEST_F(HostedChartTest, LosingTheMouseEndsTheDrag) {
   host_.OnMouseDown(1, 480, 434);
   host_.OnCaptureLost();
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
+  EXPECT_FALSE(chart_.MouseCaptured());
 }
 
 TEST_F(HostedChartTest, KeysAndFocusArrive) {
   host_.OnMouseDown(1, 480, 434);
   host_.OnMouseUp(1, 480, 434);
   host_.OnGotFocus();
-  EXPECT_EQ(chart_.HasFocus(), kTrue16);
+  EXPECT_TRUE(chart_.HasFocus());
   host_.OnKeyDown(39);
   host_.OnKeyUp(39);
   EXPECT_EQ(chart_.Point().pixel.X, 481);
   host_.OnLostFocus();
-  EXPECT_EQ(chart_.HasFocus(), kFalse16);
+  EXPECT_FALSE(chart_.HasFocus());
   EXPECT_TRUE(host_.WantsKey(39));
   EXPECT_FALSE(host_.WantsKey(9));
 }

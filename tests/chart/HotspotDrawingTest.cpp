@@ -228,7 +228,7 @@ TEST_F(HotspotDrawing, WithoutCurvesThereIsNoMarkToEraseOrHighlight) {
   chart_.KeyUp(kSpace);
   chart_.HideHotSpot();
   EXPECT_THAT(host_.Take(), IsEmpty());
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
   EXPECT_THAT(PaintedMarks(), IsEmpty());
 }
 

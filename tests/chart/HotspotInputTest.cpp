@@ -26,8 +26,8 @@ TEST_F(HotspotInput, FrameLiesWhereTheHandCalculationPutsIt) {
 TEST_F(HotspotInput, APressPlacesTheHotspotAndRaisesChangeThenMousePressed) {
   chart_.MouseDown(kLeft, 480, 434);
   EXPECT_THAT(host_.Take(), ElementsAre("capture", "invalidate", "Change", "MousePressed"));
-  EXPECT_EQ(chart_.HotSpotVisibile(), kTrue16);
-  EXPECT_EQ(chart_.MouseCaptured(), kTrue16);
+  EXPECT_TRUE(chart_.HotSpotVisibile());
+  EXPECT_TRUE(chart_.MouseCaptured());
   ExpectPixel(480, 434);
   EXPECT_DOUBLE_EQ(chart_.Point().V, 3.5);              // 7 * 372 / 744
   EXPECT_DOUBLE_EQ(chart_.Point().R, 0.4 * 158 / 558);  // 592 - 434 rows up
@@ -63,12 +63,12 @@ TEST_F(HotspotInput, OnlyTheLeftButtonInInteractiveModePlaces) {
     chart_.MouseDown(button, 480, 434);
     EXPECT_THAT(host_.Take(), IsEmpty()) << button;
   }
-  chart_.InteractiveMode(kFalse16);
+  chart_.InteractiveMode(false);
   host_.Take();
   chart_.MouseDown(kLeft, 480, 434);
   EXPECT_THAT(host_.Take(), IsEmpty());
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
+  EXPECT_FALSE(chart_.MouseCaptured());
 }
 
 TEST_F(HotspotInput, APressOnTheFrameLineCountsAsInside) {
@@ -78,7 +78,7 @@ TEST_F(HotspotInput, APressOnTheFrameLineCountsAsInside) {
                              {107.6, 592.4},
                              {852.5, 300.0}}) {  // 852.5 rounds to even
     PressAndRelease(x, y);
-    EXPECT_EQ(chart_.HotSpotVisibile(), kTrue16) << x << ", " << y;
+    EXPECT_TRUE(chart_.HotSpotVisibile()) << x << ", " << y;
     chart_.HideHotSpot();
   }
 }
@@ -101,7 +101,7 @@ TEST_F(HotspotInput, APressOutsideTheFrameDoesNothing) {
     chart_.MouseDown(kLeft, x, y);
     EXPECT_THAT(host_.Take(), IsEmpty()) << x << ", " << y;
   }
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
 }
 
 TEST_F(HotspotInput, ADragRaisesChangeForEachMoveAndMouseReleasedAtItsEnd) {
@@ -113,7 +113,7 @@ TEST_F(HotspotInput, ADragRaisesChangeForEachMoveAndMouseReleasedAtItsEnd) {
   chart_.MouseUp();
   EXPECT_THAT(host_.Take(), ElementsAre("invalidate", "invalidate", "Change", "invalidate",
                                         "invalidate", "Change", "release", "MouseReleased"));
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
+  EXPECT_FALSE(chart_.MouseCaptured());
 }
 
 TEST_F(HotspotInput, ADragThatLeavesTheFrameFreezesAndResumesInside) {
@@ -149,8 +149,8 @@ TEST_F(HotspotInput, LosingTheMouseEndsTheDragOnce) {
   chart_.CaptureLost();
   chart_.MouseUp();
   EXPECT_THAT(host_.Take(), ElementsAre("MouseReleased"));
-  EXPECT_EQ(chart_.MouseCaptured(), kFalse16);
-  EXPECT_EQ(chart_.HotSpotVisibile(), kTrue16);
+  EXPECT_FALSE(chart_.MouseCaptured());
+  EXPECT_TRUE(chart_.HotSpotVisibile());
 }
 
 // Giving the mouse back makes the system report its loss before ReleaseMouse returns.
@@ -205,7 +205,7 @@ TEST_F(HotspotInput, OnTheFramesEdgeTheArrowThatLeadsOutDoesNothing) {
 
 TEST_F(HotspotInput, ArrowKeysWorkWithoutInteractiveMode) {
   PressAndRelease(480, 434);
-  chart_.InteractiveMode(kFalse16);
+  chart_.InteractiveMode(false);
   chart_.KeyDown(kArrowUp);
   ExpectPixel(480, 433);
 }
@@ -243,7 +243,7 @@ TEST_F(HotspotInput, ResizingKeepsThePlotPosition) {
 TEST_F(HotspotInput, HidingTwiceIsHidingOnce) {
   PressAndRelease(480, 434);
   chart_.HideHotSpot();
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
   host_.Take();
   chart_.HideHotSpot();
   EXPECT_THAT(host_.Take(), IsEmpty());
@@ -299,11 +299,11 @@ TEST_F(HotspotInput, PlacingFromTwoValuesAsksForPainting) {
 }
 
 TEST_F(HotspotInput, FocusIsKept) {
-  EXPECT_EQ(chart_.HasFocus(), kFalse16);
+  EXPECT_FALSE(chart_.HasFocus());
   chart_.GotFocus();
-  EXPECT_EQ(chart_.HasFocus(), kTrue16);
+  EXPECT_TRUE(chart_.HasFocus());
   chart_.LostFocus();
-  EXPECT_EQ(chart_.HasFocus(), kFalse16);
+  EXPECT_FALSE(chart_.HasFocus());
 }
 
 TEST_F(HotspotInput, WorksWithoutAWindowAndWithoutAnswers) {
@@ -344,7 +344,7 @@ TEST_F(HotspotInput, UnusableCurvesLeaveEUndefinedAndTheDragAlive) {
   EXPECT_NO_THROW(chart_.MouseMove(481, 434));
   EXPECT_NO_THROW(chart_.KeyDown(kArrowUp));
   ExpectPixel(481, 433);
-  EXPECT_EQ(chart_.MouseCaptured(), kTrue16);
+  EXPECT_TRUE(chart_.MouseCaptured());
   float E = 1;
   EXPECT_FALSE(chart_.GetE(E));
   EXPECT_EQ(chart_.ErrMsg(), "Out of range");

@@ -29,7 +29,7 @@ class InteractiveFixture : public ChartFixture {
  protected:
   void SetUp() override {
     Load(LogarithmicCurves());
-    chart_.InteractiveMode(kTrue16);
+    chart_.InteractiveMode(true);
     chart_.AttachHost(&host_);
     chart_.OnChange = [this] { host_.Log("Change"); };
     chart_.OnMousePressed = [this] { host_.Log("MousePressed"); };

@@ -85,7 +85,7 @@ TEST_F(SetCurveData, AHotspotFarOffTheNewAxesIsHidden) {
                  "0", "0.4",   "0.1"};  // V = 3 would lie 3,000 frame widths to the right
   Load(tiny);
   EXPECT_TRUE(chart_.IsLoaded());
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
 }
 
 TEST_F(SetCurveData, UsesDesignDataDirectoryAsGiven) {
@@ -103,7 +103,7 @@ TEST_F(SetCurveData, ZeroClears) {
   EXPECT_FALSE(chart_.IsLoaded());
   EXPECT_EQ(chart_.ErrMsg(), "");
   EXPECT_EQ(chart_.HelpTopicIndex(), 0);
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
 }
 
 TEST_F(SetCurveData, RefusesAStationOutsideTheTable) {

@@ -38,7 +38,7 @@ class SetHotspot : public test::ChartFixture {
     ASSERT_TRUE(Ask(pair, first, second)) << first << ", " << second << ": " << chart_.ErrMsg();
     EXPECT_NEAR(ParseNumber(result_), expected, tolerance) << first << ", " << second;
     EXPECT_EQ(chart_.HelpTopicIndex(), 0);
-    EXPECT_EQ(chart_.HotSpotVisibile(), kTrue16);
+    EXPECT_TRUE(chart_.HotSpotVisibile());
   }
 
   std::string result_;
@@ -145,7 +145,7 @@ TEST_F(SetHotspot, ReportsEveryRangeInItsOrder) {
     EXPECT_FALSE(Ask(pair, first, second)) << message;
     EXPECT_EQ(chart_.ErrMsg(), message);
     EXPECT_EQ(chart_.HelpTopicIndex(), 1) << message;
-    EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16) << message;
+    EXPECT_FALSE(chart_.HotSpotVisibile()) << message;
     EXPECT_EQ(result_, "") << message;
   }
 }
@@ -181,7 +181,7 @@ TEST_F(SetHotspot, APointOutsideEveryRegionStaysShown) {
     EXPECT_EQ(chart_.ErrMsg(),
               "The specified point is out of range of the design efficiency curves.");
     EXPECT_EQ(chart_.HelpTopicIndex(), 1);
-    EXPECT_EQ(chart_.HotSpotVisibile(), kTrue16);
+    EXPECT_TRUE(chart_.HotSpotVisibile());
     float value = 0;
     EXPECT_FALSE(chart_.GetE(value));
     EXPECT_TRUE(chart_.GetR(value));
@@ -195,7 +195,7 @@ TEST_F(SetHotspot, AVolumeOffTheCurveNamesTheEnd) {
             "The normalized storage volume is less than the minimum value for the specified "
             "efficiency curve.");
   EXPECT_EQ(chart_.HelpTopicIndex(), 1);
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
   EXPECT_TRUE(Ask(Pair::EV, "80", "1.75"));
 
   CurveFileText file = LogarithmicCurves();
@@ -214,7 +214,7 @@ TEST_F(SetHotspot, ARateOffTheCurveIsOutOfItsRange) {
     EXPECT_EQ(chart_.ErrMsg(),
               "The normalized reuse rate is out of range of the specified efficiency curve.");
     EXPECT_EQ(chart_.HelpTopicIndex(), 1);
-    EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+    EXPECT_FALSE(chart_.HotSpotVisibile());
   }
 }
 

@@ -20,8 +20,8 @@ class ErrorMessageBar : public testing::Test {
 };
 
 TEST_F(ErrorMessageBar, IsSilentEmptyAndReadyToBeepAtFirst) {
-  EXPECT_EQ(bar_.IsSet(), kFalse16);
-  EXPECT_EQ(bar_.BeepOn(), kTrue16);
+  EXPECT_FALSE(bar_.IsSet());
+  EXPECT_TRUE(bar_.BeepOn());
   EXPECT_EQ(bar_.ExtendedHelpTopic(), 0);
   EXPECT_TRUE(toolkit_.Find<HeadlessTextBox>("txtErrMsg").Locked());
 }
@@ -29,7 +29,7 @@ TEST_F(ErrorMessageBar, IsSilentEmptyAndReadyToBeepAtFirst) {
 TEST_F(ErrorMessageBar, ShowsTheMessageWithoutBlanksAroundIt) {
   bar_.SetErrMsg("  Too much.  ", 12);
   EXPECT_EQ(toolkit_.Text("txtErrMsg"), "Too much.");
-  EXPECT_EQ(bar_.IsSet(), kTrue16);
+  EXPECT_TRUE(bar_.IsSet());
   EXPECT_EQ(bar_.ExtendedHelpTopic(), 12);
   EXPECT_EQ(desktop_.Beeps(), 1);
   EXPECT_EQ(events_, 1);
@@ -39,7 +39,7 @@ TEST_F(ErrorMessageBar, AMessageOfBlanksActsAsClearAndForgetsTheHelpTopic) {
   bar_.SetErrMsg("Too much.", 12);
   bar_.SetErrMsg("   ", 7);
   EXPECT_EQ(bar_.Text(), "");
-  EXPECT_EQ(bar_.IsSet(), kFalse16);
+  EXPECT_FALSE(bar_.IsSet());
   EXPECT_EQ(bar_.ExtendedHelpTopic(), 0);
   EXPECT_EQ(desktop_.Beeps(), 1);
   EXPECT_EQ(events_, 2);
@@ -53,17 +53,17 @@ TEST_F(ErrorMessageBar, TheSameMessageTwiceBeepsTwice) {
 }
 
 TEST_F(ErrorMessageBar, MakesNoSoundWithTheBeepOff) {
-  bar_.BeepOn(kFalse16);
+  bar_.BeepOn(false);
   bar_.SetErrMsg("Too much.", 1);
   EXPECT_EQ(desktop_.Beeps(), 0);
-  EXPECT_EQ(bar_.IsSet(), kTrue16);
+  EXPECT_TRUE(bar_.IsSet());
 }
 
 TEST_F(ErrorMessageBar, ClearRemovesTheMessageWithoutABeep) {
   bar_.SetErrMsg("Too much.", 1);
   bar_.Clear();
   EXPECT_EQ(bar_.Text(), "");
-  EXPECT_EQ(bar_.IsSet(), kFalse16);
+  EXPECT_FALSE(bar_.IsSet());
   EXPECT_EQ(bar_.ExtendedHelpTopic(), 0);
   EXPECT_EQ(desktop_.Beeps(), 1);
   EXPECT_EQ(events_, 2);

@@ -75,14 +75,14 @@ TEST(PlotGeometry, WithoutExtentIsADivisionByZero) {
 }
 
 TEST(IsPointInFrame, CountsTheFrameLines) {
-  EXPECT_EQ(kGeometry.IsPointInFrame(100, 300), kTrue16);
-  EXPECT_EQ(kGeometry.IsPointInFrame(500, 50), kTrue16);
-  EXPECT_EQ(kGeometry.IsPointInFrame(100, 200), kTrue16);  // the left line
-  EXPECT_EQ(kGeometry.IsPointInFrame(300, 300), kTrue16);  // the bottom line
-  EXPECT_EQ(kGeometry.IsPointInFrame(99, 200), kFalse16);
-  EXPECT_EQ(kGeometry.IsPointInFrame(501, 200), kFalse16);
-  EXPECT_EQ(kGeometry.IsPointInFrame(300, 49), kFalse16);
-  EXPECT_EQ(kGeometry.IsPointInFrame(300, 301), kFalse16);
+  EXPECT_TRUE(kGeometry.IsPointInFrame(100, 300));
+  EXPECT_TRUE(kGeometry.IsPointInFrame(500, 50));
+  EXPECT_TRUE(kGeometry.IsPointInFrame(100, 200));  // the left line
+  EXPECT_TRUE(kGeometry.IsPointInFrame(300, 300));  // the bottom line
+  EXPECT_FALSE(kGeometry.IsPointInFrame(99, 200));
+  EXPECT_FALSE(kGeometry.IsPointInFrame(501, 200));
+  EXPECT_FALSE(kGeometry.IsPointInFrame(300, 49));
+  EXPECT_FALSE(kGeometry.IsPointInFrame(300, 301));
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST_F(Form1Test, ListsTheFourModesAndSelectsInteractive) {
   EXPECT_EQ(list.List(2), "Storage Volume");
   EXPECT_EQ(list.List(3), "Reuse Rate");
   EXPECT_EQ(list.ListIndex(), 0);
-  EXPECT_EQ(form_->Chart().InteractiveMode(), kTrue16);
+  EXPECT_TRUE(form_->Chart().InteractiveMode());
 }
 
 TEST_F(Form1Test, TheTitleShowsTheVersionWithFourDigitsOfBuildNumber) {

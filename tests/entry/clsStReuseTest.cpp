@@ -336,10 +336,44 @@ TEST_F(clsStReuseTest, PrintsAnEmptyProjectForAnEmptyText) {
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(clsStReuseTest, PrintingATextThatIsNotAProjectShowsAnError) {
+// Wherever the text breaks off, the report is the one of an empty text, title and all.
+TEST_F(clsStReuseTest, ForHalfAProjectAnErrorIsShownAndNothingOfItIsPrinted) {
+  RecordingPrinter empty;
+  entry_.Print_Remote(&empty, 2, "", "");
+  ASSERT_FALSE(HasText(empty, "Pond"));
+  auto lines = ProjectLines();
+  for (lines.pop_back(); !lines.empty(); lines.pop_back()) {
+    SCOPED_TRACE(lines.size());
+    desktop_.ForgetMessages();
+    RecordingPrinter printer;
+    entry_.Print_Remote(&printer, 2, "", ProjectText(lines));
+    ASSERT_EQ(desktop_.Messages().size(), 1U);
+    EXPECT_EQ(desktop_.Messages()[0],
+              (HeadlessDesktop::Message{"Error reading data.", "Error", MessageIcon::Exclamation}));
+    EXPECT_EQ(printer.Calls(), empty.Calls());
+  }
+}
+
+TEST_F(clsStReuseTest, ForATextThatIsNotAProjectAnErrorIsShownAndTheReportIsEmpty) {
+  RecordingPrinter empty;
+  entry_.Print_Remote(&empty, 2, "", "");
   RecordingPrinter printer;
   entry_.Print_Remote(&printer, 2, "", "noise");
+  ASSERT_FALSE(desktop_.Messages().empty());
   EXPECT_EQ(desktop_.Messages().back().text, "Error reading data.");
+  EXPECT_EQ(printer.Calls(), empty.Calls());
+}
+
+TEST_F(clsStReuseTest, AProjectPrintsInFullAfterOneThatBrokeOff) {
+  RecordingPrinter before;
+  entry_.Print_Remote(&before, 2, "", ProjectText());
+  auto lines = ProjectLines();
+  lines.resize(12);
+  RecordingPrinter broken;
+  entry_.Print_Remote(&broken, 2, "", ProjectText(lines));
+  RecordingPrinter after;
+  entry_.Print_Remote(&after, 2, "", ProjectText());
+  EXPECT_EQ(after.Calls(), before.Calls());
 }
 
 TEST_F(clsStReuseTest, WithoutAPrinterAnErrorIsShown) {

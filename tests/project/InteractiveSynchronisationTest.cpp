@@ -53,7 +53,7 @@ TEST_F(Interactive, WithoutAnIrrigationAreaThePointShowsAndMissingDataIsSilent) 
   EXPECT_EQ(Text("txtSolveFor(1)") + Text("txtSolveFor(2)") + Text("txtSolveFor(3)"), "");
   EXPECT_EQ(Message(), "Missing data.");
   EXPECT_EQ(desktop_.Beeps(), beeps);
-  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kTrue16);
+  EXPECT_TRUE(form_->Fields().txtErrMsg.BeepOn());
 }
 
 TEST_F(Interactive, WithoutAnEiaThePointHasNoSiteValuesEither) {
@@ -71,9 +71,9 @@ TEST_F(Interactive, MissingDataLeaveTheBeepOffWhileThePointIsDragged) {
   const auto& geometry = form_->Chart().Geometry();
   form_->Chart().MouseMove(geometry.XPlotToXFrame(4), geometry.YPlotToYFrame(0.12));
   EXPECT_EQ(Message(), "Missing data.");
-  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kFalse16);
+  EXPECT_FALSE(form_->Fields().txtErrMsg.BeepOn());
   Release();
-  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kTrue16);
+  EXPECT_TRUE(form_->Fields().txtErrMsg.BeepOn());
 }
 
 TEST_F(Interactive, AChangeRemovesTheLastMessage) {
@@ -114,13 +114,13 @@ TEST_F(Interactive, TheBarIsSilentWhileThePointIsDragged) {
   TypeSite();
   const int beeps = desktop_.Beeps();
   PressAt(3, 0.12);
-  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kFalse16);
+  EXPECT_FALSE(form_->Fields().txtErrMsg.BeepOn());
   const auto& geometry = form_->Chart().Geometry();
   form_->Chart().MouseMove(geometry.XPlotToXFrame(6.5), geometry.YPlotToYFrame(0.38));
   EXPECT_EQ(Message(), "Out of range");
   EXPECT_EQ(desktop_.Beeps(), beeps);
   Release();
-  EXPECT_EQ(form_->Fields().txtErrMsg.BeepOn(), kTrue16);
+  EXPECT_TRUE(form_->Fields().txtErrMsg.BeepOn());
 }
 
 TEST_F(Interactive, AChangeInATypedModeLeavesTheSlots) {
@@ -151,7 +151,7 @@ TEST_F(Interactive, WithoutAModeAChangeFillsTheSlotsAsInTheInteractiveOne) {
 TEST_F(Interactive, ARecalculationDoesNotFollowAChartThatIsNotInteractive) {
   TypeSite();
   PlaceAt(3, 0.12);
-  form_->Chart().InteractiveMode(kFalse16);
+  form_->Chart().InteractiveMode(false);
   PressReCalc();
   EXPECT_EQ(Text("txtEquivalentImperviousArea"), "5");
   EXPECT_EQ(Text("txtR") + Text("txtE") + Text("txtV"), "");

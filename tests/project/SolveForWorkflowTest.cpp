@@ -178,7 +178,7 @@ TEST_F(SolveForWorkflowTest, AFailedReuseRateHidesTheHotspotWhereTheChartIsInter
   Type("txtSolveFor(1)", "60");
   TypeAndEnter("txtSolveFor(2)", "1.25");
   ASSERT_TRUE(HotspotIsVisible());
-  form_->Chart().InteractiveMode(kTrue16);
+  form_->Chart().InteractiveMode(true);
   TypeAndEnter("txtSolveFor(2)", "0.5");  // V = 1.2 in, left of the curve's start at 1.25 in
   EXPECT_EQ(Message(),
             "The normalized storage volume is less than the minimum value for the specified "
@@ -295,14 +295,14 @@ TEST_F(ModeChangeTest, LocksAndColoursFollowTheMode) {
       EXPECT_FALSE(IsLocked(input)) << mode << ", " << input;
       EXPECT_EQ(BackColour(input), kWindowBackground) << mode << ", " << input;
     }
-    EXPECT_EQ(form_->Chart().InteractiveMode(), kFalse16) << mode;
+    EXPECT_FALSE(form_->Chart().InteractiveMode()) << mode;
   }
   Choose("cmbSolveFor", "Interactive");
   for (const char* field : {"txtR", "txtE", "txtV"}) EXPECT_FALSE(IsLocked(field)) << field;
   for (int slot = 1; slot <= 3; ++slot) {
     EXPECT_TRUE(IsLocked("txtSolveFor(" + std::to_string(slot) + ")")) << slot;
   }
-  EXPECT_EQ(form_->Chart().InteractiveMode(), kTrue16);
+  EXPECT_TRUE(form_->Chart().InteractiveMode());
 }
 
 }  // namespace

@@ -268,7 +268,7 @@ TEST_F(IsDataDefined, NeedsNoMoreInTheInteractiveModeOnceTheChartIsInIt) {
 
 TEST_F(IsDataDefined, AsksForAPairOfNumbersWhereTheChartIsNotInteractive) {
   TypeSite("Orlando");
-  form_->Chart().InteractiveMode(kFalse16);
+  form_->Chart().InteractiveMode(false);
   EXPECT_FALSE(Asked());
   Type("txtR", "3");
   Type("txtV", "5");

@@ -49,7 +49,7 @@ class FormFixture : public testing::Test {
   std::string Text(std::string_view field) const { return toolkit_.Text(field); }
   std::string Message() const { return toolkit_.Text("txtErrMsg"); }
   double Number(std::string_view field) const { return ParseNumber(Text(field)); }
-  bool HotspotIsVisible() { return form_->Chart().HotSpotVisibile() != kFalse16; }
+  bool HotspotIsVisible() { return form_->Chart().HotSpotVisibile(); }
 
   // Basin 10 ac with C = 0.5, so EIA 5 ac; 5 ac to irrigate. Then V = 2.4 S and R = Q / 7.
   void TypeSite(std::string_view station = "Tampa") {

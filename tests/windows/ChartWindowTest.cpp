@@ -12,7 +12,6 @@
 #include "HostToolkit.h"
 #include "ParentWindow.h"
 #include "chart/HostedChart.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "support/CurveFileText.h"
 #include "support/TempFolder.h"
 
@@ -41,7 +40,7 @@ class ChartWindow : public testing::Test {
   void SetUp() override {
     folder_.Write("KAV Data/Tampa.crv", LogarithmicCurves().Text());
     chart_.SetCurveData(kTampa);
-    chart_.InteractiveMode(kTrue16);
+    chart_.InteractiveMode(true);
     chart_.OnChange = [this] { ++changes_; };
     chart_.OnMousePressed = [this] { ++presses_; };
     chart_.OnMouseReleased = [this] { ++releases_; };
@@ -72,7 +71,6 @@ class ChartWindow : public testing::Test {
   }
 
   TempFolder folder_;
-  HeadlessDesktop desktop_;
   ParentWindow parent_;
   HostToolkit toolkit_{parent_.Handle()};
   ctrlStormwaterReuse chart_{folder_.Path()};
@@ -146,7 +144,7 @@ TEST_F(ChartWindow, TheRightButtonDoesNothing) {
   Send(WM_RBUTTONDOWN, MK_RBUTTON, At(480, 434));
   MoveTo(500, 434);
   Send(WM_RBUTTONUP, 0, At(480, 434));
-  EXPECT_EQ(chart_.HotSpotVisibile(), kFalse16);
+  EXPECT_FALSE(chart_.HotSpotVisibile());
   EXPECT_EQ(changes_ + presses_ + releases_, 0);
   EXPECT_EQ(Shown().pixels, before.pixels);
 }
@@ -186,7 +184,7 @@ TEST_F(ChartWindow, ArrowKeysMoveTheHotspotByAPixel) {
   Press(480, 434);
   Release(480, 434);
   EXPECT_EQ(::GetFocus(), Window());
-  EXPECT_EQ(chart_.HasFocus(), kTrue16);
+  EXPECT_TRUE(chart_.HasFocus());
   for (const WPARAM key : {VK_RIGHT, VK_RIGHT, VK_DOWN, VK_LEFT, VK_UP, VK_UP}) {
     ::PostMessageW(Window(), WM_KEYDOWN, key, 1);
     ::PostMessageW(Window(), WM_KEYUP, key, 1);
@@ -238,7 +236,7 @@ TEST_F(ChartWindow, LosingTheFocusTakesTheHighlightAway) {
   Release(480, 434);
   Send(WM_KEYDOWN, VK_SPACE);
   ::SetFocus(parent_.Handle());
-  EXPECT_EQ(chart_.HasFocus(), kFalse16);
+  EXPECT_FALSE(chart_.HasFocus());
   PaintAll(Window());
   const Picture painted = Shown();
   Send(WM_KEYUP, VK_SPACE);

@@ -8,7 +8,6 @@
 #include "MemoryScreen.h"
 #include "PngFile.h"
 #include "chart/ctrlStormwaterReuse.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "support/GoldenPicture.h"
 
 namespace orvik {
@@ -43,7 +42,6 @@ class GoldenOnGdi : public testing::TestWithParam<GoldenChart> {
 };
 
 Picture PaintChart(const GoldenChart& golden) {
-  HeadlessDesktop desktop;
   ctrlStormwaterReuse chart(ORVIK_DATA);
   chart.SetCurveData(golden.station);
   chart.Resize(golden.size.width, golden.size.height);
@@ -93,14 +91,13 @@ class MarksOnGdi : public testing::Test {
   void SetUp() override {
     chart_.SetCurveData(kTampa);
     chart_.Resize(kSize.width, kSize.height);
-    chart_.Paint(*host_.DrawNow());
-    chart_.InteractiveMode(kTrue16);
+    chart_.PaintScreen(*host_.DrawNow());
+    chart_.InteractiveMode(true);
     chart_.AttachHost(&host_);
   }
   void TearDown() override { chart_.AttachHost(nullptr); }
 
   static constexpr Size kSize{720, 500};
-  HeadlessDesktop desktop_;
   MemoryScreen screen_{kSize};
   ScreenHost host_{screen_.Dc()};
   ctrlStormwaterReuse chart_{ORVIK_DATA};
@@ -120,7 +117,7 @@ TEST_F(MarksOnGdi, WhatADragDrawsIsWhatAPaintingOfItsEndDraws) {
   for (int i = 0; i < 200; ++i) chart_.MouseMove(200 + i, 200 + i % 60);
   chart_.MouseUp();
   const Picture dragged = screen_.Pixels();
-  chart_.Paint(*host_.DrawNow());
+  chart_.PaintScreen(*host_.DrawNow());
   EXPECT_EQ(dragged.pixels, screen_.Pixels().pixels);
 }
 
@@ -139,7 +136,7 @@ TEST_F(MarksOnGdi, APaintingTakesTheHighlightAway) {
   chart_.MouseUp();
   const Picture before = screen_.Pixels();
   chart_.KeyDown(kSpace);
-  chart_.Paint(*host_.DrawNow());
+  chart_.PaintScreen(*host_.DrawNow());
   EXPECT_EQ(screen_.Pixels().pixels, before.pixels);
   chart_.KeyUp(kSpace);  // its release has nothing left to take away
   EXPECT_EQ(screen_.Pixels().pixels, before.pixels);

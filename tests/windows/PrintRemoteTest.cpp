@@ -14,6 +14,7 @@
 #include "entry/com/Variant.h"
 #include "support/ProjectText.h"
 #include "support/TempFolder.h"
+#include "windows/FormUser.h"
 #include "windows/Server.h"
 
 namespace orvik::test {
@@ -151,11 +152,29 @@ TEST_F(PrintRemote, PrintsTwiceWhenAskedTwice) {
 TEST_F(PrintRemote, WithoutATextPrintsTheEmptyReportAndNotTheOneBefore) {
   ASSERT_TRUE(reuse_);
   const Watch watch;
+  const std::size_t emptyReports = PrintedWithTitle("Stormwater Harvesting Report");
   EXPECT_EQ(Print(Project("The one before", "1", {"1.25", "0.875"})), S_OK);
   EXPECT_EQ(Print(""), S_OK);
-  EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report", 1));
+  EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report", emptyReports + 1));
   EXPECT_EQ(PrintedWithTitle("Stormwater Harvesting Report - The one before"), 1U);
   EXPECT_FALSE(watch.HasSeenAWindow());
+}
+
+// The text ends after its twelfth line, so that even its name has been read.
+TEST_F(PrintRemote, TellsOfATextThatBreaksOffAndPrintsTheEmptyReport) {
+  ASSERT_TRUE(reuse_);
+  auto lines = ProjectLines();
+  lines[2] = "Broken off";
+  lines.resize(12);
+  const std::size_t emptyReports = PrintedWithTitle("Stormwater Harvesting Report");
+  std::string told;
+  std::thread user([&] { told = ReadMessage("Error"); });
+  const HRESULT printed = Print(ProjectText(lines));
+  user.join();
+  EXPECT_EQ(printed, S_OK);
+  EXPECT_EQ(told, "Error reading data.");
+  EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report", emptyReports + 1));
+  EXPECT_EQ(PrintedWithTitle("Stormwater Harvesting Report - Broken off"), 0U);
 }
 
 TEST_F(PrintRemote, WorksBeforeAndAfterShow) {
