@@ -10,17 +10,17 @@
 #include <string_view>
 #include <utility>
 
-#include "chart/ChartPrinting.h"
-#include "chart/ChartScene.h"
 #include "chart/ChartState.h"
 #include "chart/HotspotInput.h"
 #include "chart/ScreenMarks.h"
-#include "engine/CurveLoading.h"
-#include "platform/Host.h"
-#include "platform/Printer.h"
 #include "platform/Surface.h"
 
 namespace orvik {
+
+class Host;
+class Printer;
+enum class LoadOutcome : std::uint8_t;
+struct ChartScene;
 
 // R: normalized reuse rate, inches per day on the EIA. V: normalized storage volume, inches on the
 // EIA. E: efficiency, percent.

@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "curves/CurveJudge.h"
-#include "engine/CurveSet.h"
 
 namespace orvik {
+
+struct CurveSet;
 
 // One element for each curve, nothing for one that was not judged; or empty where none was.
 using CurveErrors = std::vector<std::optional<CurveError>>;

@@ -1,13 +1,16 @@
 // A station and up to two known quantities, as commands take them.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
 #include "cli/Command.h"
-#include "design/DesignPoint.h"
+#include "engine/FramedCurves.h"
 
 namespace orvik {
+
+struct DesignPoint;
 
 // What the user asked; an empty text is a quantity that was not given.
 struct Question {

@@ -3,7 +3,9 @@
 #include <array>
 
 #include "base/RuntimeErrors.h"
+#include "pond/PondDays.h"
 #include "rain/RainDate.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 namespace {

@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "pond/PondDays.h"
-#include "rain/RainRecord.h"
-#include "rain/RainYears.h"
-
 namespace orvik {
+
+struct PondOptions;
+struct RainRecord;
+struct RainYears;
 
 struct StationSource {
   std::string_view RecordOf;    // the neighbour whose record stands in; empty: its own

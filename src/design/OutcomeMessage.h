@@ -5,10 +5,11 @@
 #include <string_view>
 
 #include "design/Messages.h"
-#include "engine/CurveLoading.h"
-#include "engine/Outcome.h"
 
 namespace orvik {
+
+enum class LoadOutcome : std::uint8_t;
+struct Outcome;
 
 // `efficiency` is the E that was asked for, as the user wrote it.
 Message MessageOf(const Outcome& outcome, std::string_view efficiency = {});

@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "engine/CurveSet.h"
-
 namespace orvik {
+
+struct CurveSet;
 
 enum class LoadOutcome : std::uint8_t {
   Loaded,

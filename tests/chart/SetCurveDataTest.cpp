@@ -2,6 +2,7 @@
 
 #include "ChartFixture.h"
 #include "base/RuntimeErrors.h"
+#include "engine/CurveLoading.h"
 
 namespace orvik {
 namespace {
@@ -107,7 +108,8 @@ TEST_F(SetCurveData, ZeroClears) {
 }
 
 TEST_F(SetCurveData, RefusesAStationOutsideTheTable) {
-  EXPECT_THROW(chart_.SetCurveData(26), SubscriptError);
+  EXPECT_THROW(chart_.SetCurveData(26),
+               SubscriptError);
   EXPECT_THROW(chart_.SetCurveData(-1), SubscriptError);
 }
 

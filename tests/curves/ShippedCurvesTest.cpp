@@ -8,6 +8,8 @@
 #include "curves/StationSources.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFile.h"
+#include "engine/CurveSet.h"
+#include "stream/clsIOStream.h"
 #include "support/TempFolder.h"
 
 namespace orvik {

@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "base/Paths.h"
+#include "entry/ReuseModule.h"
 #include "entry/clsStReuse.h"
 #include "platform/recording/RecordingPrinter.h"
 #include "support/FormFixture.h"

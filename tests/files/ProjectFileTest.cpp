@@ -1,4 +1,5 @@
 // The project as text, line by line, and what a text that is not one leads to.
+#include "stream/clsIOStream.h"
 #include "support/FormFixture.h"
 #include "support/ProjectText.h"
 
