@@ -44,8 +44,8 @@ class ctrlStormwaterReuse {
 
   // --- Climate station and curves ---
 
-  // Loads the curves of a station (1...25; SubscriptError otherwise), or clears them (0). Whoever
-  // asked tells the user what went wrong.
+  // Loads the curves of the station of this number (SubscriptError where there is none), or clears
+  // them (0). Whoever asked tells the user what went wrong.
   LoadOutcome SetCurveData(std::int16_t StationIndex);
 
   // The folder of the curve files, with a path separator at its end; empty means the default.

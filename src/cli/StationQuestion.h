@@ -39,8 +39,8 @@ struct StationAnswer {
 
 StationAnswer LoadStation(Console& console, const std::string& dataFolder, const std::string& name);
 
-// The sentence for a station (1...25) whose file is there, but has no curves that can be used.
-// `folder` is that of the curve files.
+// The sentence for the station of this number, whose file is there but has no curves that can be
+// used. `folder` is that of the curve files.
 std::string DescribeDamage(const std::string& folder, std::int16_t station);
 
 // Says that the curves of this station led to a numeric fault.

@@ -16,7 +16,7 @@ struct StationSource {
   std::string_view NoaaNumber;  // cooperative-observer number(s) of NOAA, or its station id
 };
 
-// The source of a climate station (1...25; SubscriptError otherwise).
+// The source of the climate station of this number. Throws SubscriptError where there is none.
 const StationSource& SourceOfStation(std::int16_t station);
 
 // "NOAA daily rainfall 085539 (record of Mayo)".

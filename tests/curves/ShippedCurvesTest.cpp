@@ -1,4 +1,4 @@
-// The 25 curve files that ship: what they promise.
+// The curve files that ship: what they promise.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "base/NumberText.h"
+#include "engine/ClimateStations.h"
 #include "entry/Form1.h"
 #include "platform/win32/NativeDesktop.h"
 #include "platform/win32/NativeToolkit.h"
@@ -82,7 +83,7 @@ class RandomProject {
     const unsigned mode = Below(4);
     auto lines = test::ProjectLines(std::to_string(mode), Tail(mode));
     lines[2] = "Pond é ñ ° 中 " + std::to_string(Below(1000));
-    lines[8] = std::to_string(Below(25));
+    lines[8] = std::to_string(Below(static_cast<unsigned>(NumRainfallStations())));
     lines[11] = Number(5, 20);
     lines[12] = Number(0.3, 0.9);
     lines[13] = Number(2, 20);
