@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "platform/Host.h"
 #include "platform/cairo/CairoImageSurface.h"
 #include "platform/headless/HeadlessDesktop.h"
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <ctime>
 
+#include "pond/PondDays.h"
 #include "pond/PondSimulation.h"
 
 namespace orvik {

@@ -1,8 +1,8 @@
 # A room is one static library with one folder below src/. Other targets see its headers as "room/Name.h", and only when
-# they link it: each room's include directory holds nothing but a link to that room's own folder, so that an arrow that
-# is not drawn in a CMakeLists.txt does not compile.
+# they link it: each room's include directory holds nothing but links to the headers of that folder, so that an arrow that
+# is not drawn in a CMakeLists.txt does not compile. Folders below it, a room's back ends among them, are rooms of their own.
 
-# orvik_room_include(<folder> <out-var>): the include directory that shows the folder src/<folder> and nothing else.
+# orvik_room_include(<folder> <out-var>): the include directory that shows the headers in src/<folder> and nothing else.
 function(orvik_room_include folder out)
   string(REPLACE "/" "_" flat "${folder}")
   set(directory ${CMAKE_BINARY_DIR}/rooms/${flat})
@@ -10,20 +10,33 @@ function(orvik_room_include folder out)
     # Making links needs a privilege there; the arrows are checked by the builds on other systems.
     set(directory ${CMAKE_SOURCE_DIR}/src)
   else()
-    get_filename_component(parent ${directory}/${folder} DIRECTORY)
-    file(MAKE_DIRECTORY ${parent})
-    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${directory}/${folder} SYMBOLIC)
+    set(source ${CMAKE_SOURCE_DIR}/src/${folder})
+    file(GLOB headers CONFIGURE_DEPENDS RELATIVE ${source} ${source}/*.h ${source}/*.def)
+    file(REMOVE_RECURSE ${directory})
+    file(MAKE_DIRECTORY ${directory}/${folder})
+    foreach(header ${headers})
+      file(CREATE_LINK ${source}/${header} ${directory}/${folder}/${header} SYMBOLIC)
+    endforeach()
   endif()
   set(${out} ${directory} PARENT_SCOPE)
 endfunction()
 
-# orvik_room(<target> FOLDER <folder> SOURCES <files...> [LINKS <targets...>])
+# orvik_room(<target> FOLDER <folder> [SOURCES <files...>] [PUBLIC_LINKS <targets...>] [LINKS <targets...>])
+# Without sources it is a room of headers alone. PUBLIC_LINKS are the rooms that the headers of this one include: whoever
+# sees this room sees them too. LINKS are those that only its sources include. Both name every room that is included here,
+# and no other: tests/house/arrows compares.
 function(orvik_room target)
-  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;LINKS" ${ARGN})
-  add_library(${target} STATIC ${ROOM_SOURCES})
+  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;PUBLIC_LINKS;LINKS" ${ARGN})
   orvik_room_include(${ROOM_FOLDER} include)
+  if(NOT ROOM_SOURCES)
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} INTERFACE ${include})
+    target_link_libraries(${target} INTERFACE ${ROOM_PUBLIC_LINKS})
+    return()
+  endif()
+  add_library(${target} STATIC ${ROOM_SOURCES})
   target_include_directories(${target} PUBLIC ${include})
-  target_link_libraries(${target} PUBLIC ${ROOM_LINKS} PRIVATE orvik_options orvik_warnings)
+  target_link_libraries(${target} PUBLIC ${ROOM_PUBLIC_LINKS} PRIVATE ${ROOM_LINKS} orvik_options orvik_warnings)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()
 

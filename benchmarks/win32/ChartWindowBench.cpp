@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "chart/HostedChart.h"
+#include "chart/ctrlStormwaterReuse.h"
 #include "platform/win32/NativeControlHost.h"
 
 namespace orvik {

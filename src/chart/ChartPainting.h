@@ -1,10 +1,11 @@
 // The chart's picture on a screen or in a file.
 #pragma once
 
-#include "chart/ChartScene.h"
-#include "platform/Surface.h"
-
 namespace orvik {
+
+class Surface;
+struct ChartScene;
+struct Size;
 
 // Everything within the control's border: title, frame, grid and ticks, axis texts, curves, their
 // ends, and labels.

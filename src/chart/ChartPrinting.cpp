@@ -11,6 +11,9 @@
 #include "chart/ChartDrawing.h"
 #include "chart/CurvePixels.h"
 #include "chart/HotspotDrawing.h"
+#include "design/DesignPoint.h"
+#include "engine/FramedCurves.h"
+#include "platform/Printer.h"
 
 namespace orvik {
 namespace {

@@ -3,11 +3,13 @@
 
 #include <string_view>
 
-#include "chart/ChartState.h"
-#include "engine/PlotRecords.h"
-#include "platform/Printer.h"
-
 namespace orvik {
+
+class Printer;
+struct CurveSet;
+struct DesignPoint;
+struct clsPlotMetrics;
+struct clsRectangle_Integer;
 
 // What is printed: the curves of a station and the design point on them. The three outlive it.
 struct PrintedChart {

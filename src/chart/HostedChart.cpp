@@ -1,5 +1,7 @@
 #include "chart/HostedChart.h"
 
+#include "chart/ctrlStormwaterReuse.h"
+
 namespace orvik {
 
 HostedChart::HostedChart(Toolkit& toolkit, std::string_view name, ctrlStormwaterReuse& chart)

@@ -5,10 +5,11 @@
 #include <memory>
 #include <string_view>
 
-#include "chart/ctrlStormwaterReuse.h"
 #include "platform/Toolkit.h"
 
 namespace orvik {
+
+class ctrlStormwaterReuse;
 
 class HostedChart {
  public:

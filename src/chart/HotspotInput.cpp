@@ -4,6 +4,7 @@
 
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
+#include "platform/Host.h"
 
 namespace orvik {
 namespace {

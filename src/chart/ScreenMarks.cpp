@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "chart/HotspotDrawing.h"
+#include "platform/Host.h"
 
 namespace orvik {
 

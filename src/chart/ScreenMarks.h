@@ -5,11 +5,14 @@
 
 #include <optional>
 
-#include "engine/FramedCurves.h"
-#include "platform/Host.h"
-#include "platform/Surface.h"
+#include "engine/EfficiencyCurve.h"
+#include "engine/FramePixel.h"
+#include "engine/PlotGeometry.h"
 
 namespace orvik {
+
+class Host;
+class Surface;
 
 inline constexpr int kHotspotPenWidth = 1;  // pixels
 

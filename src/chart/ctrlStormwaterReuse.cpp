@@ -3,11 +3,14 @@
 #include <utility>
 
 #include "base/NumberText.h"
-#include "base/RuntimeErrors.h"
 #include "chart/ChartColours.h"
 #include "chart/ChartPainting.h"
+#include "chart/ChartPrinting.h"
+#include "chart/ChartScene.h"
 #include "chart/HotspotDrawing.h"
 #include "engine/ClimateStations.h"
+#include "engine/CurveLoading.h"
+#include "platform/Printer.h"
 
 namespace orvik {
 

@@ -10,17 +10,17 @@
 #include <string_view>
 #include <utility>
 
-#include "chart/ChartPrinting.h"
-#include "chart/ChartScene.h"
 #include "chart/ChartState.h"
 #include "chart/HotspotInput.h"
 #include "chart/ScreenMarks.h"
-#include "engine/CurveLoading.h"
-#include "platform/Host.h"
-#include "platform/Printer.h"
 #include "platform/Surface.h"
 
 namespace orvik {
+
+class Host;
+class Printer;
+enum class LoadOutcome : std::uint8_t;
+struct ChartScene;
 
 // R: normalized reuse rate, inches per day on the EIA. V: normalized storage volume, inches on the
 // EIA. E: efficiency, percent.
@@ -44,8 +44,8 @@ class ctrlStormwaterReuse {
 
   // --- Climate station and curves ---
 
-  // Loads the curves of a station (1...25; SubscriptError otherwise), or clears them (0). Whoever
-  // asked tells the user what went wrong.
+  // Loads the curves of the station of this number (SubscriptError where there is none), or clears
+  // them (0). Whoever asked tells the user what went wrong.
   LoadOutcome SetCurveData(std::int16_t StationIndex);
 
   // The folder of the curve files, with a path separator at its end; empty means the default.

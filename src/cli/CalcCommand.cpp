@@ -6,6 +6,7 @@
 
 #include "cli/Command.h"
 #include "cli/ProjectOpening.h"
+#include "design/Calculate.h"
 #include "design/HostResults.h"
 
 namespace orvik {

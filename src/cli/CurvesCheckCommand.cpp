@@ -11,6 +11,10 @@
 #include "curves/CurveJudge.h"
 #include "engine/CurveFile.h"
 #include "engine/CurveFileDiagnosis.h"
+#include "engine/CurveSet.h"
+#include "pond/PondDays.h"
+#include "rain/RainYears.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 namespace {

@@ -10,6 +10,7 @@
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
 #include "cli/OutputFile.h"
+#include "curves/ChartAxes.h"
 #include "curves/StationCurves.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFileWriter.h"

@@ -9,10 +9,13 @@
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
 #include "cli/OutputFile.h"
+#include "curves/ChartAxes.h"
 #include "curves/CurveMaker.h"
 #include "curves/StationSources.h"
 #include "engine/CurveFileWriter.h"
+#include "pond/PondDays.h"
 #include "rain/RainDate.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 namespace {

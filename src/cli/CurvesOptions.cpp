@@ -6,7 +6,9 @@
 #include "base/NumberText.h"
 #include "base/Refusal.h"
 #include "base/Text.h"
+#include "curves/ChartAxes.h"
 #include "curves/CurveMaker.h"
+#include "pond/PondDays.h"
 #include "rain/RainUnit.h"
 #include "rain/RainYears.h"
 

@@ -3,15 +3,18 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "cli/Command.h"
-#include "curves/ChartAxes.h"
-#include "pond/PondDays.h"
 #include "rain/RainRecord.h"
 
 namespace orvik {
+
+struct ChartAxes;
+struct PondOptions;
+struct RainYears;
 
 CommandRun AddCurvesMakeCommand(CLI::App& curves);
 CommandRun AddCurvesMakeAllCommand(CLI::App& curves);

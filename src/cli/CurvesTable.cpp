@@ -4,6 +4,7 @@
 
 #include "base/FixedText.h"
 #include "base/NumberText.h"
+#include "engine/CurveSet.h"
 
 namespace orvik {
 namespace {

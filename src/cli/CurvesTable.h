@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "curves/CurveJudge.h"
-#include "engine/CurveSet.h"
 
 namespace orvik {
+
+struct CurveSet;
 
 // One element for each curve, with no value where it was not judged; empty where none was.
 using CurveErrors = std::vector<std::optional<CurveError>>;

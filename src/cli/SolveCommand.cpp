@@ -7,6 +7,7 @@
 #include "base/RuntimeErrors.h"
 #include "cli/Command.h"
 #include "cli/StationQuestion.h"
+#include "design/Messages.h"
 
 namespace orvik {
 namespace {

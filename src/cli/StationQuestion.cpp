@@ -1,6 +1,7 @@
 #include "cli/StationQuestion.h"
 
 #include "base/NumberText.h"
+#include "design/DesignPoint.h"
 #include "design/OutcomeMessage.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFileDiagnosis.h"

@@ -1,13 +1,16 @@
 // A station and the quantities that are known, as options of a command.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
 #include "cli/Command.h"
-#include "design/DesignPoint.h"
+#include "engine/FramedCurves.h"
 
 namespace orvik {
+
+struct DesignPoint;
 
 // What the user gave; a quantity that was not given is empty.
 struct Question {
@@ -36,7 +39,7 @@ struct StationAnswer {
 
 StationAnswer LoadStation(Console& console, const std::string& dataFolder, const std::string& name);
 
-// The sentence for a station (1...25) whose file exists but cannot be used. `folder` is that of the
+// The sentence for the station of this number whose file exists but cannot be used. `folder` is that of the
 // curve files.
 std::string DescribeDamage(const std::string& folder, std::int16_t station);
 

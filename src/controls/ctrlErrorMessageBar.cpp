@@ -1,6 +1,7 @@
 #include "controls/ctrlErrorMessageBar.h"
 
 #include "base/Text.h"
+#include "platform/Desktop.h"
 
 namespace orvik {
 

@@ -8,10 +8,11 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Desktop.h"
 #include "platform/Toolkit.h"
 
 namespace orvik {
+
+class Desktop;
 
 class ctrlErrorMessageBar {
  public:

@@ -8,6 +8,7 @@
 #include "base/NumberText.h"
 #include "curves/ChartAxes.h"
 #include "curves/CurveFit.h"
+#include "engine/CurveSet.h"
 
 namespace orvik {
 namespace {

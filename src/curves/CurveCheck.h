@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "engine/CurveSet.h"
-
 namespace orvik {
+
+struct CurveSet;
 
 // One sentence for each violation of these rules; none for a good set:
 // - the axes' intervals divide their ranges into whole steps;

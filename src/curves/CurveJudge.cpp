@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/EfficiencyCurve.h"
+#include "pond/PondDays.h"
+#include "pond/PondSimulation.h"
+
 namespace orvik {
 namespace {
 

@@ -3,10 +3,10 @@
 
 #include <vector>
 
-#include "engine/EfficiencyCurve.h"
-#include "pond/PondSimulation.h"
-
 namespace orvik {
+
+struct EfficiencyCurve;
+struct PondDays;
 
 // Deviation of the simulated efficiency from the curve's E, in percentage points, without sign.
 struct CurveError {

@@ -7,6 +7,7 @@
 
 #include "base/NumberText.h"
 #include "engine/ChartShape.h"
+#include "engine/CurveSet.h"
 
 namespace orvik {
 namespace {

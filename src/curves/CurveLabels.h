@@ -1,9 +1,9 @@
 // Puts a label beside each curve of a set, where there is room for it.
 #pragma once
 
-#include "engine/CurveSet.h"
-
 namespace orvik {
+
+struct CurveSet;
 
 // Replaces the set's labels by one "E=80%" for each curve. A label's position is its upper left
 // corner; it is placed above its own curve and below the next one, in the middle of the chart or as

@@ -6,11 +6,13 @@
 
 #include "base/FixedText.h"
 #include "base/NumberText.h"
+#include "curves/ChartAxes.h"
 #include "curves/CurveCheck.h"
 #include "curves/CurveFit.h"
 #include "curves/CurveLabels.h"
 #include "curves/EfficiencyTable.h"
 #include "engine/CurveFileWriter.h"
+#include "pond/PondDays.h"
 
 namespace orvik {
 namespace {

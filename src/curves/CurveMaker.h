@@ -5,12 +5,13 @@
 #include <vector>
 
 #include "base/Refusal.h"
-#include "curves/ChartAxes.h"
 #include "curves/CurveJudge.h"
 #include "engine/CurveSet.h"
-#include "pond/PondDays.h"
 
 namespace orvik {
+
+struct ChartAxes;
+struct PondDays;
 
 // The limits for a curve's deviation from a simulation along it, percentage points of E.
 inline constexpr double kMostError = 1.0;

@@ -3,6 +3,9 @@
 #include <cmath>
 #include <utility>
 
+#include "pond/PondDays.h"
+#include "pond/PondSimulation.h"
+
 namespace orvik {
 
 EfficiencyTable::EfficiencyTable(const PondDays& days, std::vector<double> V, std::vector<double> R)

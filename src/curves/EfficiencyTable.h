@@ -6,9 +6,9 @@
 #include <optional>
 #include <vector>
 
-#include "pond/PondSimulation.h"
-
 namespace orvik {
+
+struct PondDays;
 
 class EfficiencyTable {
  public:

@@ -1,5 +1,6 @@
 #include "curves/StationCurves.h"
 
+#include "curves/ChartAxes.h"
 #include "curves/StationSources.h"
 #include "engine/ClimateStations.h"
 

@@ -14,7 +14,7 @@
 namespace orvik {
 
 struct StationCurves {
-  std::int16_t Station = 0;  // 1...25
+  std::int16_t Station = 0;  // its number
   RainRecord Record;         // without its days, to save memory
   RainYears Years;           // likewise
   PondOptions Options;       // that they were made with

@@ -1,41 +1,23 @@
 #include "curves/StationSources.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/RuntimeErrors.h"
+#include "pond/PondDays.h"
 #include "rain/RainDate.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 namespace {
 
-// In the order of the climate stations.
-constexpr std::array<StationSource, 25> kSources = {{
-    {"", "080211"},                // Apalachicola
-    {"", "080611"},                // Belle Glade
-    {"", "082158"},                // Daytona Beach
-    {"", "083186"},                // Fort Meyers
-    {"", "083326 + USW00012816"},  // Gainesville
-    {"Mayo", "085539"},            // Grady
-    {"", "084091"},                // Homestead
-    {"Inverness", "084289"},       // Inglis
-    {"", "084358"},                // Jacksonville
-    {"", "084570"},                // Key West
-    {"", "084797"},                // Lakeland
-    {"", "085076"},                // Lisbon
-    {"Federal Point", "082915"},   // Marineland
-    {"", "085612"},                // Melbourne
-    {"", "085663"},                // Miami
-    {"", "085895"},                // Moore Haven
-    {"", "086240"},                // Niceville
-    {"Belle Glade", "080611"},     // NNR2 Canal
-    {"DeLand", "082229"},          // Orange City
-    {"", "086628 + 086638"},       // Orlando
-    {"", "086880"},                // Parrish
-    {"", "088758"},                // Tallahassee
-    {"", "088788"},                // Tampa
-    {"", "089214"},                // Vero Beach
-    {"", "089525"},                // West Palm Beach
-}};
+// Rows of the table of stations, so that no station is without a source.
+constexpr auto kSources = std::to_array<StationSource>({
+#define ORVIK_STATION(name, recordOf, record, place, latitude, longitude, side) {recordOf, record},
+#include "engine/Stations.def"
+#undef ORVIK_STATION
+});
+static_assert(std::ranges::none_of(kSources, &std::string_view::empty, &StationSource::NoaaNumber));
 
 }  // namespace
 

@@ -5,18 +5,18 @@
 #include <string>
 #include <string_view>
 
-#include "pond/PondDays.h"
-#include "rain/RainRecord.h"
-#include "rain/RainYears.h"
-
 namespace orvik {
+
+struct PondOptions;
+struct RainRecord;
+struct RainYears;
 
 struct StationSource {
   std::string_view RecordOf;    // the neighbour whose record is used; empty: its own
   std::string_view NoaaNumber;  // cooperative-observer number(s) of NOAA, or its station id
 };
 
-// The source of a climate station (1...25; SubscriptError otherwise).
+// The source of the climate station of this number. Throws SubscriptError where there is none.
 const StationSource& SourceOfStation(std::int16_t station);
 
 // "NOAA daily rainfall 085539 (record of Mayo)".

@@ -5,6 +5,7 @@
 #include "design/Conversions.h"
 #include "design/NumberInput.h"
 #include "design/PointByNumbers.h"
+#include "engine/FramedCurves.h"
 
 namespace orvik {
 namespace {

@@ -8,9 +8,10 @@
 #include <vector>
 
 #include "design/Project.h"
-#include "engine/FramedCurves.h"
 
 namespace orvik {
+
+class FramedCurves;
 
 // What a calculation writes.
 struct Result {

@@ -9,9 +9,11 @@
 #include "design/Messages.h"
 #include "engine/EfficiencyCurve.h"
 #include "engine/FramePixel.h"
-#include "engine/FramedCurves.h"
 
 namespace orvik {
+
+class FramedCurves;
+class PlotGeometry;
 
 // V (inches on the EIA) and R (inches per day on the EIA) are the master copy of its place; the
 // pixel follows from them. They stay while the point is hidden.

@@ -3,6 +3,7 @@
 #include "base/RuntimeErrors.h"
 #include "design/Conversions.h"
 #include "design/NumberInput.h"
+#include "design/Project.h"
 
 namespace orvik {
 

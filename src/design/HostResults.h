@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "design/Project.h"
-
 namespace orvik {
+
+struct Project;
 
 // All are empty where no solve-for mode is chosen.
 

@@ -4,6 +4,7 @@
 
 #include "base/NumberText.h"
 #include "base/Rounding.h"
+#include "base/RuntimeErrors.h"
 #include "base/Text.h"
 
 namespace orvik {

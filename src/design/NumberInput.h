@@ -4,10 +4,11 @@
 #include <optional>
 #include <string_view>
 
-#include "base/RuntimeErrors.h"
 #include "design/Messages.h"
 
 namespace orvik {
+
+class NumericError;
 
 // True when the text, without the blanks around it, is not empty and is numeric.
 bool IsDefinedNumber(std::string_view text);

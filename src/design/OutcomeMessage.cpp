@@ -3,6 +3,8 @@
 #include "base/NumberText.h"
 #include "base/Rounding.h"
 #include "engine/ClimateStations.h"
+#include "engine/CurveLoading.h"
+#include "engine/Outcome.h"
 
 namespace orvik {
 

@@ -7,6 +7,7 @@
 #include "base/Rounding.h"
 #include "base/Text.h"
 #include "design/NumberInput.h"
+#include "engine/FramedCurves.h"
 
 namespace orvik {
 namespace {

@@ -1,5 +1,7 @@
 #include "design/WithoutResults.h"
 
+#include "design/Project.h"
+
 namespace orvik {
 
 std::string WhyNoResult(const Project& project, const std::string& shown) {

@@ -1,9 +1,11 @@
 // Why a project has no results.
 #pragma once
 
-#include "design/Project.h"
+#include <string>
 
 namespace orvik {
+
+struct Project;
 
 // The message that the error bar shows; without one, what has not been chosen or placed yet. Empty
 // where there are results.

@@ -9,12 +9,11 @@
 namespace orvik {
 namespace {
 
-constexpr std::array<std::string_view, 25> kStations = {
-    "Apalachicola", "Belle Glade", "Daytona Beach", "Fort Meyers",  "Gainesville",
-    "Grady",        "Homestead",   "Inglis",        "Jacksonville", "Key West",
-    "Lakeland",     "Lisbon",      "Marineland",    "Melbourne",    "Miami",
-    "Moore Haven",  "Niceville",   "NNR2 Canal",    "Orange City",  "Orlando",
-    "Parrish",      "Tallahassee", "Tampa",         "Vero Beach",   "West Palm Beach"};
+constexpr auto kStations = std::to_array<std::string_view>({
+#define ORVIK_STATION(name, recordOf, record, place, latitude, longitude, side) name,
+#include "engine/Stations.def"
+#undef ORVIK_STATION
+});
 
 }  // namespace
 

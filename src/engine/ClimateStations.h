@@ -1,4 +1,4 @@
-// The fixed table of climate stations.
+// The fixed table of climate stations (engine/Stations.def).
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,11 @@
 
 namespace orvik {
 
-// Number of stations, 25. Stations are numbered from 1; 0 means no station.
+// How many stations there are. They are numbered from 1; 0 means no station.
 std::int16_t NumRainfallStations();
 
-// The name of a station, which is also the base name of its curve file ("Fort Meyers" is spelled so
-// on purpose). Throws SubscriptError outside 1...25.
+// The name of a station, which is also the base name of its curve file. Throws SubscriptError
+// outside 1...NumRainfallStations().
 std::string_view ClimateStationName(std::int16_t index);
 
 // The number of the station of this name (case of ASCII letters and blanks around it do not

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "base/NumberText.h"
+#include "engine/CurveSet.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 namespace {

@@ -1,10 +1,10 @@
 // Reads a station's curve file (".crv").
 #pragma once
 
-#include "engine/CurveSet.h"
-#include "stream/clsIOStream.h"
-
 namespace orvik {
+
+class clsIOStream;
+struct CurveSet;
 
 // Reads the curve set from a stream opened on a file. Layout, one line each: title; V minimum, V
 // maximum, V interval, R minimum, R maximum, R interval; number of curves; for each curve E,

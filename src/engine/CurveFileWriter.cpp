@@ -2,6 +2,7 @@
 
 #include "base/FixedText.h"
 #include "base/NumberText.h"
+#include "engine/CurveSet.h"
 
 namespace orvik {
 namespace {

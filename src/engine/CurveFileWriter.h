@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "engine/CurveSet.h"
-
 namespace orvik {
+
+struct CurveSet;
 
 // Coefficients are written with this many decimals: enough for 0.00001 in/day on the curve, and few
 // enough to hide the last bit, in which the logarithms of systems differ.

@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFile.h"
+#include "engine/CurveSet.h"
 #include "stream/clsIOStream.h"
 
 namespace orvik {

@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "engine/CurveSet.h"
-
 namespace orvik {
+
+struct CurveSet;
 
 enum class LoadOutcome : std::uint8_t {
   Loaded,
@@ -29,8 +29,8 @@ std::string CurveFolderBelow(const std::string& dataFolder);
 // The station's curve file in a folder that ends with a path separator.
 std::string CurveFilePath(const std::string& folder, std::int16_t station);
 
-// Reads the curve file of a station (1...25; SubscriptError otherwise) in a folder that ends with a
-// path separator.
+// Reads the curve file of the station of this number (SubscriptError where there is none) in a
+// folder that ends with a path separator.
 LoadedCurves LoadStationCurves(const std::string& folder, std::int16_t station);
 
 }  // namespace orvik

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/EfficiencyCurve.h"
+
 namespace orvik {
 namespace {
 

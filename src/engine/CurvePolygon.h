@@ -2,13 +2,14 @@
 // pixel lies in it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
-#include "engine/EfficiencyCurve.h"
-
 namespace orvik {
+
+struct EfficiencyCurve;
 
 // Turns chart coordinates into pixels. The chart provides it; see PlotGeometry for the rules.
 class PlotToFrame {

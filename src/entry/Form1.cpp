@@ -4,8 +4,11 @@
 #include "base/ModuleVersion.h"
 #include "base/RuntimeErrors.h"
 #include "base/Text.h"
+#include "design/HostResults.h"
 #include "design/NumberInput.h"
+#include "design/Project.h"
 #include "engine/ClimateStations.h"
+#include "platform/Desktop.h"
 #include "printing/ProjectReport.h"
 #include "shell/ChartCopy.h"
 #include "shell/MainWindowDesign.h"
@@ -153,6 +156,20 @@ void Form1::PrintDoc(Printer& printer) const {
 
 std::string Form1::ReportTitle() const {
   return orvik::ReportTitle(binding_.Snapshot());
+}
+
+// --- Results ---
+
+std::string Form1::ReuseRate() const {
+  return ReuseRateResult(binding_.Snapshot());
+}
+
+std::string Form1::Efficiency() const {
+  return EfficiencyResult(binding_.Snapshot());
+}
+
+std::string Form1::StorageVolume() const {
+  return StorageVolumeResult(binding_.Snapshot());
 }
 
 // --- Leaving ---

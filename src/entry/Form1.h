@@ -9,10 +9,8 @@
 #include "chart/HostedChart.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "controls/HostedButton.h"
-#include "design/HostResults.h"
 #include "files/FileCommands.h"
 #include "files/ProjectFile.h"
-#include "platform/Desktop.h"
 #include "platform/Toolkit.h"
 #include "project/FormBinding.h"
 #include "project/InteractiveSynchronisation.h"
@@ -24,6 +22,9 @@
 #include "shell/SmallWindows.h"
 
 namespace orvik {
+
+class Desktop;
+class Printer;
 
 class Form1 {
  public:
@@ -66,9 +67,9 @@ class Form1 {
   std::string ReportTitle() const;
 
   // The results for the host, as text; see design/HostResults.
-  std::string ReuseRate() const { return ReuseRateResult(binding_.Snapshot()); }
-  std::string Efficiency() const { return EfficiencyResult(binding_.Snapshot()); }
-  std::string StorageVolume() const { return StorageVolumeResult(binding_.Snapshot()); }
+  std::string ReuseRate() const;
+  std::string Efficiency() const;
+  std::string StorageVolume() const;
 
   ProjectForm& Fields() { return form_; }
   ctrlStormwaterReuse& Chart() { return ctrlStormwaterReuse1_; }

@@ -1,6 +1,7 @@
 #include "entry/ModuleFolders.h"
 
 #include "base/Paths.h"
+#include "platform/Desktop.h"
 
 namespace orvik {
 namespace {

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Desktop.h"
-
 namespace orvik {
+
+class Desktop;
 
 // Each ends with a path separator.
 struct ModuleFolders {

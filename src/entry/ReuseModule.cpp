@@ -3,13 +3,25 @@
 #include <utility>
 
 #include "base/Paths.h"
+#include "entry/Form1.h"
+#include "platform/Toolkit.h"
 
 namespace orvik {
+
+struct ReuseModule::LoadedWindow {
+  LoadedWindow(std::unique_ptr<Toolkit> standsOn, Desktop& desktop, const std::string& dataFolder)
+      : toolkit(std::move(standsOn)), form(*toolkit, desktop, dataFolder) {}
+
+  std::unique_ptr<Toolkit> toolkit;
+  Form1 form;
+};
 
 ReuseModule::ReuseModule(std::string applicationFolder, Desktop& desktop, MakeToolkit makeToolkit)
     : applicationFolder_(WithEndingSeparator(std::move(applicationFolder))),
       desktop_(desktop),
       makeToolkit_(std::move(makeToolkit)) {}
+
+ReuseModule::~ReuseModule() = default;
 
 ReuseModule::Use::Use(ReuseModule& module) : module_(module) {
   const std::lock_guard guard(module_.useGuard_);
@@ -23,6 +35,10 @@ ReuseModule::Use::Use(ReuseModule& module) : module_(module) {
 ReuseModule::Use::~Use() {
   const std::lock_guard guard(module_.useGuard_);
   module_.isInUse_ = false;
+}
+
+void ReuseModule::UnloadWindow() {
+  window_.reset();
 }
 
 void ReuseModule::UnloadIdleWindow() {

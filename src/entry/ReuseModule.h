@@ -8,12 +8,14 @@
 #include <stdexcept>
 #include <string>
 #include <thread>
-#include <utility>
 
-#include "entry/Form1.h"
 #include "entry/ModuleFolders.h"
 
 namespace orvik {
+
+class Desktop;
+class Form1;
+class Toolkit;
 
 // The module's window is open already; a host cannot open it twice.
 class WindowBusyError : public std::runtime_error {
@@ -39,7 +41,7 @@ class ReuseModule {
   ReuseModule(std::string applicationFolder, Desktop& desktop, MakeToolkit makeToolkit);
   ReuseModule(const ReuseModule&) = delete;
   ReuseModule& operator=(const ReuseModule&) = delete;
-  ~ReuseModule() = default;
+  ~ReuseModule();
 
   // An operation works with the window while this lives. Throws WindowBusyError while another one
   // does (the window's own messages can bring a host to call again), and WindowThreadError where
@@ -61,19 +63,13 @@ class ReuseModule {
   // The main window, made on first use.
   Form1& Window();
   bool HasWindow() const { return window_ != nullptr; }
-  void UnloadWindow() { window_.reset(); }
+  void UnloadWindow();
 
   // Unloads a window that no operation works with, if this thread may.
   void UnloadIdleWindow();
 
  private:
-  struct LoadedWindow {
-    LoadedWindow(std::unique_ptr<Toolkit> standsOn, Desktop& desktop, const std::string& dataFolder)
-        : toolkit(std::move(standsOn)), form(*toolkit, desktop, dataFolder) {}
-
-    std::unique_ptr<Toolkit> toolkit;
-    Form1 form;
-  };
+  struct LoadedWindow;
 
   std::string applicationFolder_;
   Desktop& desktop_;

@@ -3,6 +3,8 @@
 #include <stdexcept>
 
 #include "base/Paths.h"
+#include "entry/Form1.h"
+#include "entry/ReuseModule.h"
 
 namespace orvik {
 namespace {

@@ -6,9 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "entry/ReuseModule.h"
-
 namespace orvik {
+
+class Form1;
+class Printer;
+class ReuseModule;
 
 class clsStReuse {
  public:

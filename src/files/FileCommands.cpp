@@ -3,8 +3,12 @@
 #include "base/ModuleVersion.h"
 #include "base/Paths.h"
 #include "base/SafeFile.h"
+#include "design/Messages.h"
+#include "files/ProjectFile.h"
+#include "platform/Desktop.h"
 #include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 namespace {

@@ -7,11 +7,13 @@
 #include <string_view>
 #include <utility>
 
-#include "design/Messages.h"
-#include "files/ProjectFile.h"
-#include "platform/Desktop.h"
-
 namespace orvik {
+
+class Desktop;
+class ProjectFile;
+class SolveForWorkflow;
+struct FileDialog;
+struct ProjectForm;
 
 class FileCommands {
  public:

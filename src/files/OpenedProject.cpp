@@ -4,9 +4,11 @@
 
 #include "base/NumberText.h"
 #include "base/RuntimeErrors.h"
+#include "design/Calculate.h"
 #include "design/OutcomeMessage.h"
 #include "engine/ClimateStations.h"
 #include "files/ProjectText.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 namespace {

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "design/Calculate.h"
+#include "design/Project.h"
 #include "engine/CurveLoading.h"
+#include "engine/FramedCurves.h"
 
 namespace orvik {
 

@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "files/ProjectText.h"
+#include "platform/Desktop.h"
 #include "project/FaultsOnBar.h"
 #include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 

@@ -1,11 +1,19 @@
 // The project's text and the form: the fields written as a project, and a project read into them.
 #pragma once
 
-#include "files/ProjectText.h"
-#include "platform/Desktop.h"
-#include "project/FormBinding.h"
+#include <cstdint>
+#include <initializer_list>
 
 namespace orvik {
+
+class Desktop;
+class FormBinding;
+class SolveForWorkflow;
+class clsIOStream;
+class ctrlStormwaterReuse;
+enum class FieldKind : std::uint8_t;
+struct ProjectForm;
+struct ProjectReading;
 
 class SolveForWorkflow;
 

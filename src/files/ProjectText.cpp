@@ -5,6 +5,7 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "stream/clsIOStream.h"
 
 namespace orvik {
 namespace {

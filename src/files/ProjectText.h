@@ -7,9 +7,10 @@
 #include <string>
 
 #include "design/Project.h"
-#include "stream/clsIOStream.h"
 
 namespace orvik {
+
+class clsIOStream;
 
 // Line 1 "KAV3.3.01"; 2 the module's title; 3 to 8 the fields of description; 9 and 10 the climate
 // station's list index (0-based, -1 none) and name; 11 the solve-for index; 12 to 14 basin area,

@@ -5,6 +5,7 @@
 
 #include "base/NumberText.h"
 #include "base/Refusal.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 namespace {

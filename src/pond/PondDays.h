@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "rain/RainYears.h"
-
 namespace orvik {
+
+struct RainYears;
 
 // How rainfall becomes runoff and demand.
 struct PondOptions {

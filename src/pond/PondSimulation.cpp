@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "pond/PondDays.h"
+
 namespace orvik {
 namespace {
 

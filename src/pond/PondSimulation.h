@@ -9,9 +9,9 @@
 
 #include <vector>
 
-#include "pond/PondDays.h"
-
 namespace orvik {
+
+struct PondDays;
 
 // One pond: storage volume and mean reuse rate.
 struct PondCell {

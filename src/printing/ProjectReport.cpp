@@ -5,7 +5,11 @@
 
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
+#include "chart/ChartPrinting.h"
 #include "design/Conversions.h"
+#include "design/Project.h"
+#include "engine/CurveSet.h"
+#include "printing/ReportLines.h"
 #include "printing/ResultWords.h"
 
 namespace orvik {

@@ -4,14 +4,17 @@
 #include <string>
 #include <vector>
 
-#include "chart/ChartPrinting.h"
-#include "design/Project.h"
-#include "platform/Desktop.h"
-#include "platform/Printer.h"
-#include "printing/ReportLines.h"
 #include "printing/clsPageControl.h"
 
 namespace orvik {
+
+class Printer;
+class ReportLines;
+struct ClockTime;
+struct CurveSet;
+struct Project;
+struct ReportRow;
+struct clsRectangle_Integer;
 
 // What viewers and print queues call the report of the project.
 std::string ReportTitle(const Project& project);

@@ -7,10 +7,11 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Printer.h"
 #include "printing/clsPageControl.h"
 
 namespace orvik {
+
+class Printer;
 
 struct ReportRow {
   std::string caption;

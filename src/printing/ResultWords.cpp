@@ -1,5 +1,6 @@
 #include "printing/ResultWords.h"
 
+#include "design/Project.h"
 #include "design/WithoutResults.h"
 
 namespace orvik {

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "design/Project.h"
-
 namespace orvik {
+
+struct Project;
 
 // One sentence that names every quantity with its unit in full and says which was found, or "No
 // result:" and the reason. The numbers are the fields' own texts; `shown` is the message of the

@@ -10,10 +10,11 @@
 
 #include "engine/PlotRecords.h"
 #include "platform/Desktop.h"
-#include "platform/Printer.h"
 #include "printing/clsFont.h"
 
 namespace orvik {
+
+class Printer;
 
 // The report's fonts by their use: the numbers that clsPageControl knows them by.
 namespace ReportFont {

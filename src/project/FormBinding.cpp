@@ -1,6 +1,7 @@
 #include "project/FormBinding.h"
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "design/Calculate.h"
 #include "project/ProjectForm.h"
 
 namespace orvik {

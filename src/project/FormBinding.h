@@ -2,11 +2,16 @@
 // shown in them.
 #pragma once
 
+#include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
-#include "design/Calculate.h"
-
 namespace orvik {
+
+enum class Field : std::uint8_t;
+struct Message;
+struct Project;
+struct Result;
 
 class ctrlErrorMessageBar;
 class ctrlStormwaterReuse;

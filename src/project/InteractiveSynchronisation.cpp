@@ -2,7 +2,9 @@
 
 #include "base/NumberText.h"
 #include "chart/ctrlStormwaterReuse.h"
+#include "design/Calculate.h"
 #include "design/PointByNumbers.h"
+#include "project/FormBinding.h"
 #include "project/ProjectForm.h"
 
 namespace orvik {
@@ -20,6 +22,10 @@ InteractiveSynchronisation::~InteractiveSynchronisation() {
   chart_.OnChange = nullptr;
   chart_.OnMousePressed = nullptr;
   chart_.OnMouseReleased = nullptr;
+}
+
+void InteractiveSynchronisation::AnswerChange() {
+  binding_.Show(FollowPoint(binding_.Snapshot()));
 }
 
 void InteractiveSynchronisation::AnswerMousePressed() {

@@ -3,9 +3,11 @@
 
 #include <cstdint>
 
-#include "project/FormBinding.h"
-
 namespace orvik {
+
+class FormBinding;
+class ctrlStormwaterReuse;
+struct ProjectForm;
 
 // Takes over the chart's events Change, MousePressed and MouseReleased for its own life.
 class InteractiveSynchronisation {
@@ -19,7 +21,7 @@ class InteractiveSynchronisation {
   // The hotspot has been placed or moved: its R, E and V go to the fields, and in the interactive
   // mode, where the EIA and the irrigation area are known, the site values too. A number that
   // single precision cannot hold becomes a message.
-  void AnswerChange() { binding_.Show(FollowPoint(binding_.Snapshot())); }
+  void AnswerChange();
 
   // While the point is dragged the error bar makes no sound.
   void AnswerMousePressed();

@@ -1,7 +1,11 @@
 #include "project/ModeChange.h"
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "design/Calculate.h"
+#include "project/FormBinding.h"
+#include "project/InteractiveSynchronisation.h"
 #include "project/ProjectForm.h"
+#include "project/SolveForWorkflow.h"
 
 namespace orvik {
 namespace {

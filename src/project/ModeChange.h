@@ -6,10 +6,14 @@
 #include <string>
 
 #include "design/SolveFor.h"
-#include "project/InteractiveSynchronisation.h"
-#include "project/SolveForWorkflow.h"
 
 namespace orvik {
+
+class FormBinding;
+class InteractiveSynchronisation;
+class SolveForWorkflow;
+class ctrlStormwaterReuse;
+struct ProjectForm;
 
 class ModeChange {
  public:

@@ -9,10 +9,11 @@
 #include "controls/ctrlMyTextBox.h"
 #include "design/Fields.h"
 #include "design/SolveFor.h"
-#include "platform/Desktop.h"
 #include "platform/Toolkit.h"
 
 namespace orvik {
+
+class Desktop;
 
 struct ProjectForm {
   ProjectForm(Toolkit& toolkit, Desktop& desktop);

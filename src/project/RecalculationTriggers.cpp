@@ -2,9 +2,14 @@
 
 #include "base/NumberText.h"
 #include "chart/ctrlStormwaterReuse.h"
+#include "design/Calculate.h"
 #include "design/OutcomeMessage.h"
+#include "engine/CurveLoading.h"
+#include "platform/Desktop.h"
 #include "project/FaultsOnBar.h"
+#include "project/InteractiveSynchronisation.h"
 #include "project/ProjectForm.h"
+#include "project/SolveForWorkflow.h"
 
 namespace orvik {
 namespace {

@@ -4,13 +4,17 @@
 
 #include <vector>
 
-#include "controls/ctrlMyTextBox.h"
-#include "platform/Desktop.h"
-#include "project/InteractiveSynchronisation.h"
 #include "project/ModeChange.h"
-#include "project/SolveForWorkflow.h"
 
 namespace orvik {
+
+class Desktop;
+class FormBinding;
+class InteractiveSynchronisation;
+class SolveForWorkflow;
+class ctrlMyTextBox;
+class ctrlStormwaterReuse;
+struct ProjectForm;
 
 // Takes over the events of the form's fields and lists.
 class RecalculationTriggers {

@@ -1,6 +1,7 @@
 #include "project/SolveForWorkflow.h"
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "design/Calculate.h"
 #include "project/FaultsOnBar.h"
 #include "project/ProjectForm.h"
 

@@ -3,9 +3,11 @@
 
 #include <functional>
 
-#include "project/FormBinding.h"
-
 namespace orvik {
+
+class FormBinding;
+class ctrlStormwaterReuse;
+struct ProjectForm;
 
 class SolveForWorkflow {
  public:

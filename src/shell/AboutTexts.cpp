@@ -13,14 +13,13 @@ struct Section {
 };
 
 constexpr std::array kSections = {
-    Section{
-        "DESIGN CURVES",
-        "The curves of the 25 climate stations are computed by ORVIK from public daily rainfall: "
-        "records of NOAA's cooperative observers and, for Gainesville after 1983, NOAA's daily "
-        "summaries (United States government, public domain). KAV Data\\SOURCES.md lists the "
-        "records. Where your authority has adopted curves, use those.\r\n"
-        "The map shows the stations where NOAA's list of daily stations has them; its outline "
-        "is simplified."},
+    Section{"DESIGN CURVES",
+            "The curves of the climate stations are computed by ORVIK from public daily rainfall: "
+            "records of NOAA's cooperative observers and, for Gainesville after 1983, NOAA's daily "
+            "summaries (United States government, public domain). KAV Data\\SOURCES.md lists the "
+            "records. Where your authority has adopted curves, use those.\r\n"
+            "The map shows the stations where NOAA's list of daily stations has them; its outline "
+            "is simplified."},
     Section{
         "LICENCE (MIT)",
         "Permission is hereby granted, free of charge, to any person obtaining a copy of this "

@@ -1,6 +1,9 @@
 #include "shell/ChartCopy.h"
 
 #include "base/NumberText.h"
+#include "chart/ctrlStormwaterReuse.h"
+#include "platform/Desktop.h"
+#include "platform/Toolkit.h"
 
 namespace orvik {
 namespace {

@@ -3,11 +3,11 @@
 
 #include <string>
 
-#include "chart/ctrlStormwaterReuse.h"
-#include "platform/Desktop.h"
-#include "platform/Toolkit.h"
-
 namespace orvik {
+
+class Desktop;
+class ctrlStormwaterReuse;
+struct Spoken;
 
 // The hotspot's R, V and E as two lines of tab-separated text, captions with units above the
 // numbers; what is not defined is empty.

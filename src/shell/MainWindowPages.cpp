@@ -1,6 +1,8 @@
 #include "shell/MainWindowPages.h"
 
 #include "base/NumberText.h"
+#include "platform/Desktop.h"
+#include "project/ProjectForm.h"
 #include "shell/MainWindowTable.h"
 #include "shell/PagePictures.h"
 

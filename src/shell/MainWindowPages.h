@@ -7,11 +7,12 @@
 #include <vector>
 
 #include "controls/HostedButton.h"
-#include "platform/Desktop.h"
 #include "platform/Toolkit.h"
-#include "project/ProjectForm.h"
 
 namespace orvik {
+
+class Desktop;
+struct ProjectForm;
 
 class MainWindowPages {
  public:

@@ -4,7 +4,9 @@
 
 #include "base/NumberText.h"
 #include "base/Paths.h"
+#include "controls/ctrlErrorMessageBar.h"
 #include "design/Messages.h"
+#include "platform/Desktop.h"
 #include "shell/MainWindowTable.h"
 
 namespace orvik {
@@ -34,6 +36,10 @@ MessageHelp::MessageHelp(Toolkit& toolkit, Desktop& desktop, ctrlErrorMessageBar
 
 MessageHelp::~MessageHelp() {
   bar_.OnMessageChange = nullptr;
+}
+
+bool MessageHelp::HasTopic() const {
+  return bar_.ExtendedHelpTopic() != 0;
 }
 
 void MessageHelp::FollowMessage() {

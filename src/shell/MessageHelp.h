@@ -7,11 +7,12 @@
 #include <string_view>
 
 #include "controls/HostedButton.h"
-#include "controls/ctrlErrorMessageBar.h"
-#include "platform/Desktop.h"
 #include "platform/Toolkit.h"
 
 namespace orvik {
+
+class Desktop;
+class ctrlErrorMessageBar;
 
 // The path of a topic's page in the data folder (with a separator at its end): topic 1 is
 // "Help\Topic001.htm".
@@ -31,7 +32,7 @@ class MessageHelp {
   void cmdErrorHelp_Click();
 
  private:
-  bool HasTopic() const { return bar_.ExtendedHelpTopic() != 0; }
+  bool HasTopic() const;
   void FollowMessage();
 
   Desktop& desktop_;

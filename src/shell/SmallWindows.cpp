@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "chart/ctrlStormwaterReuse.h"
 #include "shell/MainWindowTable.h"
 #include "shell/frmAbout.h"
 #include "shell/frmClimateStations.h"
@@ -22,6 +23,8 @@ SmallWindows::SmallWindows(Toolkit& toolkit, Desktop& desktop, ctrlStormwaterReu
   mnuHelp_About_->Caption("&About this module");
   mnuHelp_About_->OnClick = [this] { mnuHelp_About_Click(); };
 }
+
+SmallWindows::~SmallWindows() = default;
 
 void SmallWindows::cmdMap_Click() {
   const auto toolkit = toolkit_.ForAnotherWindow();

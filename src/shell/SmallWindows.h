@@ -4,12 +4,14 @@
 #include <memory>
 #include <string>
 
-#include "chart/ctrlStormwaterReuse.h"
 #include "controls/HostedButton.h"
-#include "platform/Desktop.h"
-#include "platform/Toolkit.h"
 
 namespace orvik {
+
+class Desktop;
+class MenuItem;
+class Toolkit;
+class ctrlStormwaterReuse;
 
 class SmallWindows {
  public:
@@ -18,7 +20,7 @@ class SmallWindows {
                std::string dataFolder);
   SmallWindows(const SmallWindows&) = delete;
   SmallWindows& operator=(const SmallWindows&) = delete;
-  ~SmallWindows() = default;
+  ~SmallWindows();
 
   // Shows the station map until the user closes it, then redraws the design chart.
   void cmdMap_Click();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Paths.h"
+#include "platform/Desktop.h"
 #include "shell/ClimateStationsDesign.h"
 
 namespace orvik {

@@ -6,10 +6,11 @@
 #include <string_view>
 
 #include "controls/HostedPictureViewer.h"
-#include "platform/Desktop.h"
 #include "platform/Toolkit.h"
 
 namespace orvik {
+
+class Desktop;
 
 // The map's picture in the data folder (with a separator at its end).
 std::string StationMapPath(std::string_view dataFolder);

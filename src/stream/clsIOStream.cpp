@@ -8,7 +8,6 @@
 #include "base/Paths.h"
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
-#include "base/Text.h"
 #include "base/TextEncoding.h"
 
 namespace orvik {

@@ -3,6 +3,7 @@
 
 #include "chart/ChartText.h"
 #include "chart/ctrlStormwaterReuse.h"
+#include "engine/ClimateStations.h"
 #include "platform/cairo/CairoText.h"
 #include "platform/headless/HeadlessDesktop.h"
 
@@ -83,7 +84,7 @@ class ChartRoom : public testing::Test {
 constexpr std::size_t kAll = 30;
 
 TEST_F(ChartRoom, AllTextsHaveRoomInTheDefaultShape) {
-  for (std::int16_t station = 1; station <= 25; ++station) {
+  for (std::int16_t station = 1; station <= NumRainfallStations(); ++station) {
     chart_.SetCurveData(station);
     for (const auto& [width, height] : {std::pair(640, 427), {960, 640}, {1920, 1280}}) {
       Check(width, height);
@@ -100,7 +101,7 @@ TEST_F(ChartRoom, NoTextTouchesAnythingAtAnySize) {
 }
 
 TEST_F(ChartRoom, NoTextTouchesAnythingAtAnyStation) {
-  for (std::int16_t station = 1; station <= 25; ++station) {
+  for (std::int16_t station = 1; station <= NumRainfallStations(); ++station) {
     chart_.SetCurveData(station);
     for (const auto& [width, height] : {std::pair(120, 90),
                                         {400, 300},

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "InteractiveFixture.h"
+#include "chart/ChartPrinting.h"
 #include "platform/recording/RecordingPrinter.h"
 
 namespace orvik {

@@ -2,6 +2,8 @@
 
 #include "ChartFixture.h"
 #include "base/RuntimeErrors.h"
+#include "engine/ClimateStations.h"
+#include "engine/CurveLoading.h"
 
 namespace orvik {
 namespace {
@@ -107,7 +109,8 @@ TEST_F(SetCurveData, ZeroClears) {
 }
 
 TEST_F(SetCurveData, RefusesAStationOutsideTheTable) {
-  EXPECT_THROW(chart_.SetCurveData(26), SubscriptError);
+  EXPECT_THROW(chart_.SetCurveData(static_cast<std::int16_t>(NumRainfallStations() + 1)),
+               SubscriptError);
   EXPECT_THROW(chart_.SetCurveData(-1), SubscriptError);
 }
 

@@ -13,6 +13,10 @@ namespace orvik {
 namespace {
 
 using test::KavRun;
+using test::kDescriptionLine;
+using test::kProjectNameLine;
+using test::kStationLine;
+using test::kTailLine;
 using test::ProjectLines;
 using test::ProjectText;
 using testing::HasSubstr;
@@ -48,14 +52,11 @@ TEST_F(Calc, PrintsOneJsonObjectWithTheNamesOfTheForm) {
   const KavRun run = Calculate(ProjectText(), true);
   EXPECT_EQ(run.exitCode, 0);
   const auto fields = nlohmann::json::parse(run.out);
-  for (const char* name :
-       {"txtProjectName", "txtDescription", "txtProjectNumber", "txtEngineer",
-        "txtSuervisingEngineer", "txtDate", "txtBasinArea", "txtRunoffCoefficient",
-        "txtEquivalentImperviousArea", "txtIrrigationArea", "cmbClimateStation", "cmbSolveFor",
-        "txtSolveFor(1)", "txtSolveFor(2)", "txtSolveFor(3)", "txtR", "txtE", "txtV",
-        "txtErrMsg"}) {
-    EXPECT_TRUE(fields.contains(name)) << name;
+  for (const FieldDesign& field : Fields()) {
+    EXPECT_TRUE(fields.contains(field.control)) << field.control;
   }
+  EXPECT_EQ(fields["txtProjectName"], "Pond");
+  EXPECT_EQ(fields["cmbSolveFor"], "Storage Volume");
   EXPECT_EQ(fields["cmbClimateStation"], "Tampa");
   EXPECT_EQ(fields["txtSolveFor(1)"], "60");
   EXPECT_EQ(fields["txtErrMsg"], "");
@@ -63,7 +64,7 @@ TEST_F(Calc, PrintsOneJsonObjectWithTheNamesOfTheForm) {
 
 TEST_F(Calc, AMessageOnTheBarIsPrintedAsAnErrorAndExitsOne) {
   auto lines = ProjectLines();
-  lines[14] = "99.9";
+  lines[kTailLine] = "99.9";
   const KavRun run = Calculate(ProjectText(lines), true);
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.err, "Design efficiency is greater than 90%.\n");
@@ -75,7 +76,7 @@ TEST_F(Calc, AMessageOnTheBarIsPrintedAsAnErrorAndExitsOne) {
 
 TEST_F(Calc, AProjectWithoutAStationExitsOne) {
   auto lines = ProjectLines();
-  lines[8] = "-1";
+  lines[kStationLine] = "-1";
   const KavRun run = Calculate(ProjectText(lines));
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.err, "The climate station has not been selected.\n");
@@ -101,7 +102,7 @@ TEST_F(Calc, AFileThatCannotBeReadExitsThreeWithTheCommandsOwnSentences) {
 
 TEST_F(Calc, CurvesThatCannotBeReadExitThree) {
   auto lines = ProjectLines();
-  lines[8] = "9";
+  lines[kStationLine] = "9";
   const KavRun missing = Calculate(ProjectText(lines));
   EXPECT_EQ(missing.exitCode, 3);
   EXPECT_EQ(missing.out, "");
@@ -123,14 +124,14 @@ TEST_F(Calc, ACurveFileWithUnixLineEndsIsReportedAsSuch) {
 
 TEST_F(Calc, ControlCharactersDoNotReachTheTerminal) {
   auto lines = ProjectLines();
-  lines[2] = "Pond\x1B[31m\a\tred";
+  lines[kProjectNameLine] = "Pond\x1B[31m\a\tred";
   const KavRun run = Calculate(ProjectText(lines));
   EXPECT_THAT(run.out, HasSubstr("Project name                 Pond [31m  red\n"));
 }
 
 TEST_F(Calc, AnEmptyFieldLeavesNoBlanksAtTheEndOfItsLine) {
   auto lines = ProjectLines();
-  lines[3] = "";
+  lines[kDescriptionLine] = "";
   EXPECT_THAT(Calculate(ProjectText(lines)).out, HasSubstr("\nDescription\n"));
 }
 

@@ -147,8 +147,8 @@ TEST_F(ReportCommand, AProjectThatCannotBeSolvedIsPrintedWithItsMessage) {
 
 TEST_F(ReportCommand, AProjectWithoutAStationIsPrintedWithoutAChart) {
   auto lines = Solved();
-  lines[8] = "-1";
-  lines[9] = "";
+  lines[kStationLine] = "-1";
+  lines[kStationNameLine] = "";
   const KavRun run = Run(Project(lines));
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.err, "The climate station has not been selected.\n");
@@ -157,8 +157,9 @@ TEST_F(ReportCommand, AProjectWithoutAStationIsPrintedWithoutAChart) {
 
 TEST_F(ReportCommand, ADescriptionOf10000CharactersIsWhole) {
   auto lines = Solved();
-  lines[3].clear();
-  for (int i = 0; lines[3].size() < 10000; ++i) lines[3] += "w" + std::to_string(i) + " ";
+  lines[kDescriptionLine].clear();
+  for (int i = 0; lines[kDescriptionLine].size() < 10000; ++i)
+    lines[kDescriptionLine] += "w" + std::to_string(i) + " ";
   const KavRun run = Run(Project(lines));
   EXPECT_EQ(run.exitCode, 0) << run.err;
   const std::string text = PdfText();
@@ -172,10 +173,10 @@ TEST_F(ReportCommand, ADescriptionOf10000CharactersIsWhole) {
 
 TEST_F(ReportCommand, LettersOfAllLanguagesAreText) {
   auto lines = Solved();
-  lines[2] = "\u0141\u00F3d\u017A \u0412\u043E\u0434\u0430 \u039D\u03B5\u03C1\u03CC";
+  lines[kProjectNameLine] = "\u0141\u00F3d\u017A \u0412\u043E\u0434\u0430 \u039D\u03B5\u03C1\u03CC";
   Run(Project(lines));
-  EXPECT_THAT(PdfText(), HasSubstr(lines[2]));
-  EXPECT_THAT(PdfInfo(), HasSubstr("Report - " + lines[2]));
+  EXPECT_THAT(PdfText(), HasSubstr(lines[kProjectNameLine]));
+  EXPECT_THAT(PdfInfo(), HasSubstr("Report - " + lines[kProjectNameLine]));
 }
 
 TEST_F(ReportCommand, AMissingProjectAndAMissingFolderExitThree) {

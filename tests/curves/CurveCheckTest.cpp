@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "curves/CurveCheck.h"
+#include "engine/CurveSet.h"
 
 namespace orvik {
 namespace {

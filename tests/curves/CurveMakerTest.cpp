@@ -4,11 +4,13 @@
 #include <cmath>
 #include <optional>
 
+#include "curves/ChartAxes.h"
 #include "curves/CurveCheck.h"
 #include "curves/CurveFit.h"
 #include "curves/CurveMaker.h"
 #include "curves/EfficiencyTable.h"
 #include "engine/CurveFileWriter.h"
+#include "pond/PondSimulation.h"
 #include "support/SampleRecords.h"
 
 namespace orvik {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "curves/EfficiencyTable.h"
+#include "pond/PondSimulation.h"
 #include "support/SampleRecords.h"
 
 namespace orvik {

@@ -1,4 +1,4 @@
-// The 25 curve files that ship: what they promise.
+// The curve files that ship: what they promise.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,6 +8,8 @@
 #include "curves/StationSources.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveFile.h"
+#include "engine/CurveSet.h"
+#include "stream/clsIOStream.h"
 #include "support/TempFolder.h"
 
 namespace orvik {

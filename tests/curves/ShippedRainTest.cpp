@@ -1,4 +1,4 @@
-// The 25 rainfall records that ship: read as they stand in the table that was made from them as
+// The rainfall records that ship: read as they stand in the table that was made from them as
 // they came.
 #include <gtest/gtest.h>
 

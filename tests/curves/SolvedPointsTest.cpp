@@ -7,7 +7,9 @@
 #include "chart/ctrlStormwaterReuse.h"
 #include "engine/ClimateStations.h"
 #include "platform/headless/HeadlessDesktop.h"
+#include "pond/PondDays.h"
 #include "pond/PondSimulation.h"
+#include "rain/RainYears.h"
 
 namespace orvik {
 namespace {

@@ -9,6 +9,7 @@
 #include "design/Calculate.h"
 #include "design/HostResults.h"
 #include "design/WithoutResults.h"
+#include "engine/FramedCurves.h"
 
 namespace orvik {
 namespace {

@@ -2,6 +2,8 @@
 
 #include "design/Messages.h"
 #include "design/OutcomeMessage.h"
+#include "engine/CurveLoading.h"
+#include "engine/Outcome.h"
 
 namespace orvik {
 namespace {

@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "engine/CurveFile.h"
+#include "engine/CurveSet.h"
+#include "stream/clsIOStream.h"
 #include "support/CurveFileText.h"
 #include "support/TempFolder.h"
 

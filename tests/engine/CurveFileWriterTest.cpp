@@ -5,6 +5,8 @@
 #include "base/RuntimeErrors.h"
 #include "engine/CurveFile.h"
 #include "engine/CurveFileWriter.h"
+#include "engine/CurveSet.h"
+#include "stream/clsIOStream.h"
 #include "support/TempFolder.h"
 
 namespace orvik {

@@ -4,6 +4,7 @@
 
 #include "base/Rounding.h"
 #include "engine/CurvePolygon.h"
+#include "engine/EfficiencyCurve.h"
 
 namespace orvik {
 namespace {

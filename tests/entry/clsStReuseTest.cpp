@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "base/Paths.h"
+#include "entry/ReuseModule.h"
 #include "entry/clsStReuse.h"
 #include "platform/recording/RecordingPrinter.h"
 #include "support/FormFixture.h"
@@ -82,8 +83,8 @@ TEST_F(clsStReuseTest, TheResultIsWhatTheUserMadeOfTheProject) {
                  }),
             1);
   auto expected = ProjectLines();
-  expected[2] = "Lake é";
-  expected[14] = "70";
+  expected[test::kProjectNameLine] = "Lake é";
+  expected[test::kTailLine] = "70";
   EXPECT_EQ(p3_, ProjectText(expected));
   EXPECT_EQ(test::Lines(p2_)[1], "70");
 }
@@ -177,7 +178,7 @@ TEST_F(clsStReuseTest, WhatWasSolvedForAnotherBasinIsSolvedAnew) {
   p3_ = ProjectText();
   p2_ = "20\r\n0.5";  // EIA 10 ac: half the R, so ln V = (70 - 25) / 20 = 2.25 and V = 9.49 in
   EXPECT_EQ(ShowAndSave(), 1);
-  EXPECT_EQ(test::Lines(p3_)[11], "20");
+  EXPECT_EQ(test::Lines(p3_)[test::kBasinAreaLine], "20");
   EXPECT_TRUE(p2_.ends_with("\r\n")) << "beyond the chart: no volume, above all not the old one";
 }
 

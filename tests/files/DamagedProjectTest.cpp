@@ -9,6 +9,12 @@ namespace orvik {
 namespace {
 
 using test::FormFixture;
+using test::kBasinAreaLine;
+using test::kDescriptionLine;
+using test::kModeLine;
+using test::kProjectNameLine;
+using test::kStationLine;
+using test::kTailLine;
 using test::ProjectLines;
 using test::ProjectText;
 
@@ -45,7 +51,8 @@ TEST_F(DamagedProject, CutAtEveryLineFailsInBothModes) {
     for (std::size_t count = 0; count < good.size(); ++count) {
       const std::vector<std::string> lines(good.begin(),
                                            good.begin() + static_cast<std::ptrdiff_t>(count));
-      EXPECT_FALSE(Load(ProjectText(lines))) << "mode " << good[10] << ", " << count << " lines";
+      EXPECT_FALSE(Load(ProjectText(lines)))
+          << "mode " << good[kModeLine] << ", " << count << " lines";
     }
     EXPECT_TRUE(Load(ProjectText(good)));
   }
@@ -57,7 +64,8 @@ TEST_F(DamagedProject, CutAtEveryByteSucceedsOnlyWithinTheLastLine) {
     const std::size_t lastLine = text.size() - good.back().size() - 2;
     for (std::size_t length = 0; length < text.size(); ++length) {
       const std::string cut = text.substr(0, length);
-      EXPECT_EQ(Load(cut), length > lastLine) << "mode " << good[10] << ", " << length << " bytes";
+      EXPECT_EQ(Load(cut), length > lastLine)
+          << "mode " << good[kModeLine] << ", " << length << " bytes";
     }
   }
 }
@@ -82,8 +90,8 @@ TEST_F(DamagedProject, SwappedLinesFailOnlyWhereAnIndexOrTheFirstLineIsGone) {
     for (std::size_t j = i + 1; j < good.size(); ++j) {
       auto lines = good;
       std::swap(lines[i], lines[j]);
-      const bool isReadable =
-          lines[0] == good[0] && IsWholeNumber(lines[8]) && IsWholeNumber(lines[10]);
+      const bool isReadable = lines[0] == good[0] && IsWholeNumber(lines[kStationLine]) &&
+                              IsWholeNumber(lines[kModeLine]);
       EXPECT_EQ(Load(ProjectText(lines)), isReadable) << i << " and " << j;
     }
   }
@@ -112,10 +120,10 @@ TEST_F(DamagedProject, NoiseAfterAGoodFirstLineNeverCrashes) {
 TEST_F(DamagedProject, NulBytesAreTextLikeAnyOther) {
   EXPECT_FALSE(Load(std::string(1000, '\0')));
   auto lines = ProjectLines();
-  lines[2] = std::string("a\0b", 3);
+  lines[kProjectNameLine] = std::string("a\0b", 3);
   EXPECT_TRUE(Load(ProjectText(lines)));
-  EXPECT_EQ(Text("txtProjectName"), lines[2]);
-  lines[11] = std::string("10\0", 3);
+  EXPECT_EQ(Text("txtProjectName"), lines[kProjectNameLine]);
+  lines[kBasinAreaLine] = std::string("10\0", 3);
   EXPECT_TRUE(Load(ProjectText(lines)));
   EXPECT_EQ(Message(), "The basin area is not numeric.");
 }
@@ -123,7 +131,7 @@ TEST_F(DamagedProject, NulBytesAreTextLikeAnyOther) {
 TEST_F(DamagedProject, ALoneLineFeedIsPartOfItsLine) {
   EXPECT_FALSE(Load("\n"));
   auto lines = ProjectLines();
-  lines[3] = "two\nparts";
+  lines[kDescriptionLine] = "two\nparts";
   EXPECT_TRUE(Load(ProjectText(lines)));
   EXPECT_EQ(Text("txtDescription"), "two\nparts");
   std::string unixText = ProjectText();
@@ -133,7 +141,7 @@ TEST_F(DamagedProject, ALoneLineFeedIsPartOfItsLine) {
 
 TEST_F(DamagedProject, HugeNumbersEndOnTheBar) {
   const std::string huge(5000, '9');
-  for (const std::size_t line : {11U, 12U, 13U, 14U, 15U}) {
+  for (std::size_t line = kBasinAreaLine; line < kTailLine + 2; ++line) {
     auto lines = ProjectLines();
     lines[line] = huge;
     EXPECT_TRUE(Load(ProjectText(lines))) << line;

@@ -73,7 +73,7 @@ TEST_F(FileMenu, AnotherVersionShowsTwoErrors) {
 TEST_F(FileMenu, ADamagedFileLeavesWhatWasReadBeforeTheFault) {
   SolveForEfficiency();
   auto lines = test::ProjectLines();
-  lines.resize(12);
+  lines.resize(test::kBasinAreaLine + 1);
   const std::string path = folder_.Write("cut.kav", ProjectText(lines));
   Open(path);
   EXPECT_EQ(CurrentPath(), path);
@@ -145,7 +145,7 @@ TEST_F(FileMenu, SaveWritesOverTheCurrentFileWithoutAsking) {
   Click("mnuFile_Save");
   EXPECT_EQ(desktop_.FileDialogs().size(), 1U) << "the open dialog only";
   auto lines = test::ProjectLines();
-  lines[2] = "Lake";
+  lines[test::kProjectNameLine] = "Lake";
   EXPECT_EQ(ReadBytes(path), ProjectText(lines));
   EXPECT_EQ(FilesIn(folder_ / "Projects"), 1U) << "nothing is left beside it";
 }

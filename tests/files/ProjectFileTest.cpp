@@ -1,4 +1,7 @@
 // The project as text, line by line, and what a text that is not one leads to.
+#include "design/Fields.h"
+#include "engine/ClimateStations.h"
+#include "stream/clsIOStream.h"
 #include "support/FormFixture.h"
 #include "support/ProjectText.h"
 
@@ -6,6 +9,12 @@ namespace orvik {
 namespace {
 
 using test::FormFixture;
+using test::kBasinAreaLine;
+using test::kDescriptionLine;
+using test::kModeLine;
+using test::kStationLine;
+using test::kStationNameLine;
+using test::kTailLine;
 using test::Lines;
 using test::ProjectLines;
 using test::ProjectText;
@@ -44,34 +53,34 @@ TEST_F(ProjectFileTest, ATypedModeHasSixteenLines) {
 }
 
 TEST_F(ProjectFileTest, TheInteractiveModeEndsWithTheFlagOrThePoint) {
-  EXPECT_EQ(Lines(Saved()).size(), 15U);
-  EXPECT_EQ(Lines(Saved())[14], "0");
+  EXPECT_EQ(Lines(Saved()).size(), kTailLine + 1);
+  EXPECT_EQ(Lines(Saved())[kTailLine], "0");
   SolveForEfficiency();
   Choose("cmbSolveFor", "Interactive");
   const auto lines = Lines(Saved());
-  ASSERT_EQ(lines.size(), 17U);
-  EXPECT_EQ(lines[14], "1");
-  EXPECT_EQ(lines[15], "0.125");
-  EXPECT_EQ(lines[16], "3");
+  ASSERT_EQ(lines.size(), kTailLine + 3);
+  EXPECT_EQ(lines[kTailLine], "1");
+  EXPECT_EQ(lines[kTailLine + 1], "0.125");
+  EXPECT_EQ(lines[kTailLine + 2], "3");
 }
 
 TEST_F(ProjectFileTest, NoStationIsMinusOneAndAnEmptyName) {
   const auto lines = Lines(Saved());
-  EXPECT_EQ(lines[8], "-1");
-  EXPECT_EQ(lines[9], "");
+  EXPECT_EQ(lines[kStationLine], "-1");
+  EXPECT_EQ(lines[kStationNameLine], "");
 }
 
 TEST_F(ProjectFileTest, WithoutAModeTheTailIsMissing) {
   form_->Fields().cmbSolveFor->ListIndex(-1);
-  EXPECT_EQ(Lines(Saved()).size(), 14U);
-  EXPECT_EQ(Lines(Saved())[10], "-1");
+  EXPECT_EQ(Lines(Saved()).size(), kTailLine);
+  EXPECT_EQ(Lines(Saved())[kModeLine], "-1");
 }
 
 TEST_F(ProjectFileTest, ALineEndInsideAValueBecomesABlank) {
   form_->Fields().Box(Field::Description).Text("first\r\nsecond\rthird\nfourth");
   const auto lines = Lines(Saved());
-  EXPECT_EQ(lines.size(), 15U);
-  EXPECT_EQ(lines[3], "first second third fourth");
+  EXPECT_EQ(lines.size(), kTailLine + 1);
+  EXPECT_EQ(lines[kDescriptionLine], "first second third fourth");
 }
 
 TEST_F(ProjectFileTest, AStreamThatIsNotOpenForOutputIsAFailure) {
@@ -131,10 +140,10 @@ TEST_F(ProjectFileTest, TheVersionIsTheLastTwoCharactersAsANumberOfOne) {
   }
 }
 
-TEST_F(ProjectFileTest, FourteenLinesInTheInteractiveModeFailWithoutAMessageOfTheirOwn) {
+TEST_F(ProjectFileTest, TheInteractiveModeWithoutATailFailsWithoutAMessageOfItsOwn) {
   auto lines = ProjectLines();
-  lines.resize(14);
-  lines[10] = "0";
+  lines.resize(kTailLine);
+  lines[kModeLine] = "0";
   clsIOStream stream;
   stream.OpenFile(ProjectText(lines), enumIOStreamMode::AsciiBufferInput);
   EXPECT_FALSE(form_->File().ReadDataFromBuffer(stream));
@@ -146,7 +155,7 @@ TEST_F(ProjectFileTest, AStationThatIsNotAWholeNumberStopsAfterTheDescription) {
   for (const char* station : {"abc", "2.5", "", "99999", "1E1"}) {
     SCOPED_TRACE(station);
     auto lines = ProjectLines();
-    lines[8] = station;
+    lines[kStationLine] = station;
     EXPECT_FALSE(Read(ProjectText(lines)));
     EXPECT_EQ(Text("txtDate"), "today");
     EXPECT_EQ(Text("txtBasinArea"), "");
@@ -156,7 +165,7 @@ TEST_F(ProjectFileTest, AStationThatIsNotAWholeNumberStopsAfterTheDescription) {
 
 TEST_F(ProjectFileTest, AModeThatIsNotAWholeNumberStopsAfterTheStation) {
   auto lines = ProjectLines();
-  lines[10] = "two";
+  lines[kModeLine] = "two";
   EXPECT_FALSE(Read(ProjectText(lines)));
   EXPECT_EQ(form_->Chart().StationName(), "Tampa");
   EXPECT_EQ(Text("txtBasinArea"), "");
@@ -164,12 +173,12 @@ TEST_F(ProjectFileTest, AModeThatIsNotAWholeNumberStopsAfterTheStation) {
 
 TEST_F(ProjectFileTest, AnIndexOutsideItsListChoosesNothing) {
   auto lines = ProjectLines();
-  lines[8] = "25";
+  lines[kStationLine] = std::to_string(NumRainfallStations());
   EXPECT_TRUE(Read(ProjectText(lines)));
   EXPECT_EQ(Message(), "The climate station has not been selected.");
   lines = ProjectLines();
-  lines[10] = "4";
-  lines.resize(14);
+  lines[kModeLine] = "4";
+  lines.resize(kTailLine);
   EXPECT_TRUE(Read(ProjectText(lines)));
   EXPECT_EQ(form_->Fields().cmbSolveFor->ListIndex(), -1);
 }
@@ -193,7 +202,7 @@ TEST_F(ProjectFileTest, APointOutsideTheChartShowsAMessage) {
 
 TEST_F(ProjectFileTest, TextsOfNumbersAreReadUnchanged) {
   auto lines = ProjectLines();
-  lines[11] = " ten ";
+  lines[kBasinAreaLine] = " ten ";
   EXPECT_TRUE(Read(ProjectText(lines)));
   EXPECT_EQ(Text("txtBasinArea"), " ten ");
   EXPECT_EQ(Message(), "The basin area is not numeric.");
@@ -222,18 +231,12 @@ TEST_F(ProjectFileTest, ClearDataEmptiesTheChartsOutcomeAlsoWithoutAStation) {
 
 TEST_F(ProjectFileTest, ClearDataEmptiesEveryField) {
   SolveForEfficiency();
-  for (const char* field : {"txtProjectName", "txtDescription", "txtProjectNumber", "txtEngineer",
-                            "txtSuervisingEngineer", "txtDate"}) {
-    Type(field, "x");
+  for (const FieldDesign& field : Fields()) {
+    if (field.IsDescription()) Type(field.control, "x");
   }
   toolkit_.ClickMenu("mnuFile_New");
-  for (const char* field :
-       {"txtProjectName", "txtDescription", "txtProjectNumber", "txtEngineer",
-        "txtSuervisingEngineer", "txtDate", "txtBasinArea", "txtRunoffCoefficient",
-        "txtEquivalentImperviousArea", "txtIrrigationArea", "txtSolveFor(1)", "txtSolveFor(2)",
-        "txtSolveFor(3)", "txtR", "txtE", "txtV", "txtErrMsg"}) {
-    EXPECT_EQ(Text(field), "") << field;
-  }
+  for (const FieldDesign& field : Fields()) EXPECT_EQ(Text(field.control), "") << field.control;
+  EXPECT_EQ(Message(), "");
   EXPECT_EQ(form_->Fields().cmbClimateStation->ListIndex(), -1);
   EXPECT_EQ(form_->Fields().cmbSolveFor->ListIndex(), 0);
   EXPECT_FALSE(form_->Chart().IsLoaded());

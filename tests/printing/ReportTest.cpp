@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "chart/ChartText.h"
+#include "design/Project.h"
 #include "platform/PrinterPixels.h"
 #include "platform/recording/RecordingPrinter.h"
 #include "printing/ProjectReport.h"

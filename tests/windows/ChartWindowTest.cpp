@@ -12,6 +12,7 @@
 #include "HostToolkit.h"
 #include "ParentWindow.h"
 #include "chart/HostedChart.h"
+#include "chart/ctrlStormwaterReuse.h"
 #include "support/CurveFileText.h"
 #include "support/TempFolder.h"
 

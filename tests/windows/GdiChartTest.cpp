@@ -8,6 +8,7 @@
 #include "MemoryScreen.h"
 #include "PngFile.h"
 #include "chart/ctrlStormwaterReuse.h"
+#include "platform/Host.h"
 #include "support/GoldenPicture.h"
 
 namespace orvik {

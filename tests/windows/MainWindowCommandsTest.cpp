@@ -55,10 +55,10 @@ TEST(MainWindowFiles, SavingOverAnOpenListWritesTheNumbersOfTheItemThatItMarks) 
   form.Press({'1', {VK_CONTROL}});  // once the page turns, the key before it is through
   ASSERT_TRUE(form.Until([&] { return form.IsVisible("picProject"); }));
   const auto lines = test::Lines(test::ReadBytes(path));
-  ASSERT_EQ(lines.size(), 16U);
-  EXPECT_EQ(lines[10], "3");
-  EXPECT_EQ(lines[14], "60");
-  EXPECT_TRUE(lines[15].starts_with("1.13")) << lines[15];
+  ASSERT_EQ(lines.size(), test::kTailLine + 2);
+  EXPECT_EQ(lines[test::kModeLine], "3");
+  EXPECT_EQ(lines[test::kTailLine], "60");
+  EXPECT_TRUE(lines[test::kTailLine + 1].starts_with("1.13")) << lines[test::kTailLine + 1];
 }
 
 TEST(MainWindowFiles, ACancelledDialogChangesNothing) {

@@ -98,7 +98,7 @@ class PrintRemote : public testing::Test {
   static std::string Project(const std::string& name, const std::string& mode,
                              const std::vector<std::string>& tail) {
     auto lines = ProjectLines(mode, tail);
-    lines[2] = name;
+    lines[test::kProjectNameLine] = name;
     return ProjectText(lines);
   }
 

@@ -7,6 +7,8 @@
 #include <random>
 
 #include "base/NumberText.h"
+#include "design/Fields.h"
+#include "engine/ClimateStations.h"
 #include "entry/Form1.h"
 #include "platform/win32/NativeDesktop.h"
 #include "platform/win32/NativeToolkit.h"
@@ -36,29 +38,15 @@ class SameFields : public testing::Test {
 
   std::string InWindow(const std::string& name) {
     ProjectForm& form = form_.Fields();
-    const std::map<std::string, std::function<std::string()>> texts{
-        {"txtProjectName", [&] { return form.Box(Field::ProjectName).Text(); }},
-        {"txtDescription", [&] { return form.Box(Field::Description).Text(); }},
-        {"txtProjectNumber", [&] { return form.Box(Field::ProjectNumber).Text(); }},
-        {"txtEngineer", [&] { return form.Box(Field::Engineer).Text(); }},
-        {"txtSuervisingEngineer", [&] { return form.Box(Field::SupervisingEngineer).Text(); }},
-        {"txtDate", [&] { return form.Box(Field::Date).Text(); }},
-        {"txtBasinArea", [&] { return form.Box(Field::BasinArea).Text(); }},
-        {"txtRunoffCoefficient", [&] { return form.Box(Field::RunoffCoefficient).Text(); }},
-        {"txtEquivalentImperviousArea",
-         [&] { return form.Box(Field::EquivalentImperviousArea).Text(); }},
-        {"txtIrrigationArea", [&] { return form.Box(Field::IrrigationArea).Text(); }},
+    for (const FieldDesign& field : Fields()) {
+      if (field.control == name) return form.Box(field.id).Text();
+    }
+    const std::map<std::string, std::function<std::string()>> others{
         {"cmbClimateStation", [&] { return Chosen(*form.cmbClimateStation); }},
         {"cmbSolveFor", [&] { return Chosen(*form.cmbSolveFor); }},
-        {"txtSolveFor(1)", [&] { return form.txtSolveFor(1).Text(); }},
-        {"txtSolveFor(2)", [&] { return form.txtSolveFor(2).Text(); }},
-        {"txtSolveFor(3)", [&] { return form.txtSolveFor(3).Text(); }},
-        {"txtR", [&] { return form.Box(Field::R).Text(); }},
-        {"txtE", [&] { return form.Box(Field::E).Text(); }},
-        {"txtV", [&] { return form.Box(Field::V).Text(); }},
         {"txtErrMsg", [&] { return form.txtErrMsg.Text(); }},
         {"ReuseRate", [&] { return form_.ReuseRate(); }}};
-    return texts.at(name)();
+    return others.at(name)();
   }
 
   static std::string Chosen(const ComboBox& list) { return list.List(list.ListIndex()); }
@@ -81,11 +69,11 @@ class RandomProject {
   std::string Text() {
     const unsigned mode = Below(4);
     auto lines = test::ProjectLines(std::to_string(mode), Tail(mode));
-    lines[2] = "Pond é ñ ° 中 " + std::to_string(Below(1000));
-    lines[8] = std::to_string(Below(25));
-    lines[11] = Number(5, 20);
-    lines[12] = Number(0.3, 0.9);
-    lines[13] = Number(2, 20);
+    lines[test::kProjectNameLine] = "Pond é ñ ° 中 " + std::to_string(Below(1000));
+    lines[test::kStationLine] = std::to_string(Below(static_cast<unsigned>(NumRainfallStations())));
+    lines[test::kBasinAreaLine] = Number(5, 20);
+    lines[test::kBasinAreaLine + 1] = Number(0.3, 0.9);
+    lines[test::kBasinAreaLine + 2] = Number(2, 20);
     return test::ProjectText(lines);
   }
 

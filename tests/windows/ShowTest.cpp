@@ -85,10 +85,10 @@ TEST_F(ShowTest, WhatTheUserTypesAndChoosesComesBack) {
     user.Click("cmdSaveExit");
   });
   const auto lines = Lines(texts_.third);
-  ASSERT_EQ(lines.size(), 16U) << texts_.third;
-  EXPECT_EQ(lines[9], "Orlando");
-  EXPECT_EQ(lines[10], "3");
-  EXPECT_EQ(lines[14], "75");
+  ASSERT_EQ(lines.size(), kTailLine + 2) << texts_.third;
+  EXPECT_EQ(lines[kStationNameLine], "Orlando");
+  EXPECT_EQ(lines[kModeLine], "3");
+  EXPECT_EQ(lines[kTailLine], "75");
   ExpectResultsOfCommandLine();
 }
 
@@ -108,8 +108,8 @@ TEST_F(ShowTest, APointDraggedOnTheChartComesBack) {
     user.Click("cmdSaveExit");
   });
   const auto lines = Lines(texts_.third);
-  ASSERT_EQ(lines.size(), 17U) << texts_.third;
-  EXPECT_NE(lines[15], "0.125");
+  ASSERT_EQ(lines.size(), kTailLine + 3) << texts_.third;
+  EXPECT_NE(lines[kTailLine + 1], "0.125");
   ExpectResultsOfCommandLine();
 }
 

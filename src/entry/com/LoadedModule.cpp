@@ -1,10 +1,11 @@
 #include "entry/com/LoadedModule.h"
 
 #include "base/Paths.h"
-#include "entry/com/Bstr.h"
+#include "entry/ReuseModule.h"
 #include "entry/com/Module.h"
 #include "platform/win32/NativeDesktop.h"
 #include "platform/win32/NativeToolkit.h"
+#include "platform/win32/WideText.h"
 
 namespace orvik::com {
 

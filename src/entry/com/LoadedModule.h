@@ -1,7 +1,9 @@
 // The state of the loaded library: one for the process.
 #pragma once
 
-#include "entry/ReuseModule.h"
+namespace orvik {
+class ReuseModule;
+}
 
 namespace orvik::com {
 

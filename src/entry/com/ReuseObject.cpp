@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "entry/ReuseModule.h"
 #include "entry/com/Bstr.h"
 #include "entry/com/ComError.h"
 #include "entry/com/LoadedModule.h"
