@@ -21,12 +21,35 @@ function(orvik_room_include folder out)
   set(${out} ${directory} PARENT_SCOPE)
 endfunction()
 
-# orvik_room(<target> FOLDER <folder> [SOURCES <files...>] [PUBLIC_LINKS <targets...>] [LINKS <targets...>])
+# orvik_use_precompiled(<target> <precompiled>): the sources of a target begin with what orvik_precompiled(<precompiled>) reads.
+function(orvik_use_precompiled target precompiled)
+  target_precompile_headers(${target} REUSE_FROM ${precompiled})
+  # With precompiled headers GCC 12 sees copies of impossible length in std::string's own functions (GCC bug 105329); later
+  # versions do not.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(${target} PRIVATE -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
+  endif()
+endfunction()
+
+# orvik_precompiled(<target> HEADERS <headers...> [LINKS <targets...>]): headers that are read once for many sources.
+# They are headers of the system and of libraries: one of ours among them would have everything compiled again when it
+# changes. Each source includes what it needs as if there were none. The target is compiled as those that use it.
+function(orvik_precompiled target)
+  cmake_parse_arguments(PRECOMPILED "" "" "HEADERS;LINKS" ${ARGN})
+  set(source ${CMAKE_BINARY_DIR}/generated/${target}.cpp) # a library has a source
+  file(CONFIGURE OUTPUT ${source} CONTENT "")
+  add_library(${target} STATIC ${source})
+  target_link_libraries(${target} PRIVATE ${PRECOMPILED_LINKS} orvik_options orvik_warnings)
+  target_precompile_headers(${target} PRIVATE ${PRECOMPILED_HEADERS})
+endfunction()
+
+# orvik_room(<target> FOLDER <folder> [SOURCES <files...>]
+#            [PUBLIC_LINKS <targets...>] [LINKS <targets...>] [PRECOMPILED <target> | NOT_PRECOMPILED])
 # Without sources it is a room of headers alone. PUBLIC_LINKS are the rooms that the headers of this one include: whoever
 # sees this room sees them too. LINKS are those that only its sources include. Both name every room that is included here,
 # and no other: tests/house/arrows compares.
 function(orvik_room target)
-  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;PUBLIC_LINKS;LINKS" ${ARGN})
+  cmake_parse_arguments(ROOM "NOT_PRECOMPILED" "FOLDER;PRECOMPILED" "SOURCES;PUBLIC_LINKS;LINKS" ${ARGN})
   orvik_room_include(${ROOM_FOLDER} include)
   if(NOT ROOM_SOURCES)
     add_library(${target} INTERFACE)
@@ -38,6 +61,13 @@ function(orvik_room target)
   target_include_directories(${target} PUBLIC ${include})
   target_link_libraries(${target} PUBLIC ${ROOM_PUBLIC_LINKS} PRIVATE ${ROOM_LINKS} orvik_options orvik_warnings)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  if(NOT ROOM_PRECOMPILED)
+    set(ROOM_PRECOMPILED orvik_room_headers)
+  endif()
+  # The sanitizers' build reads each room's headers one by one, so that a missing include is found.
+  if(NOT ORVIK_SANITIZE AND NOT ROOM_NOT_PRECOMPILED)
+    orvik_use_precompiled(${target} ${ROOM_PRECOMPILED})
+  endif()
 endfunction()
 
 # orvik_program(<target> SOURCES <files...> [LINKS <targets...>] [AT_TOP])
@@ -49,37 +79,4 @@ function(orvik_program target)
   if(PROGRAM_AT_TOP)
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   endif()
-endfunction()
-
-# orvik_known_leaks(<test>): under the sanitizers, leaks of the libraries that we stand on do not count.
-function(orvik_known_leaks test)
-  if(ORVIK_SANITIZE)
-    set_tests_properties(${test} PROPERTIES ENVIRONMENT
-      "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/known-leaks.txt:print_suppressions=0")
-  endif()
-endfunction()
-
-# orvik_test_options(<target>): how tests and the headers that are precompiled for them are compiled; both have to be alike.
-function(orvik_test_options target)
-  # A test is compiled more often than it is run. What it tests is compiled as it is shipped.
-  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
-  if(NOT WIN32)
-    target_compile_options(${target} PRIVATE -pthread) # the libraries of some tests ask for it
-  endif()
-  # With precompiled headers GCC 12 sees copies of impossible length in std::string's own functions (GCC bug 105329); later
-  # versions do not.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(${target} PRIVATE -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
-  endif()
-endfunction()
-
-# orvik_test(<target> SOURCES <files...> [LINKS <targets...>]): one GoogleTest program, one CTest entry.
-function(orvik_test target)
-  cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
-  orvik_program(${target} SOURCES ${TEST_SOURCES} LINKS ${TEST_LINKS} orvik_test_support GTest::gmock GTest::gtest_main)
-  # GoogleTest's headers are most of what the compiler reads of a test: they are read once for all.
-  target_precompile_headers(${target} REUSE_FROM orvik_test_headers)
-  orvik_test_options(${target})
-  add_test(NAME ${target} COMMAND ${target} WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
-  orvik_known_leaks(${target})
 endfunction()

@@ -39,8 +39,8 @@ struct StationAnswer {
 
 StationAnswer LoadStation(Console& console, const std::string& dataFolder, const std::string& name);
 
-// The sentence for the station of this number whose file exists but cannot be used. `folder` is that of the
-// curve files.
+// The sentence for the station of this number whose file exists but cannot be used. `folder` is
+// that of the curve files.
 std::string DescribeDamage(const std::string& folder, std::int16_t station);
 
 // Prints that the curves of this station led to a numeric fault.

@@ -1,14 +1,14 @@
-// The main window over its life: opened and closed many times, scaled, and looked at.
+// The main window over its life: opened and closed many times, and scaled.
 #include <gtest/gtest.h>
 #include <ole2.h>
 #include <psapi.h>
 
-#include <filesystem>
+#include <cstdlib>
+#include <string>
 
 #include "FormOnScreen.h"
 #include "GuiObjects.h"
 #include "ScaledWindow.h"
-#include "base/Paths.h"
 #include "platform/win32/NativeDesktop.h"
 #include "platform/win32/NativeToolkit.h"
 
@@ -54,13 +54,21 @@ void OpenAndClose(HINSTANCE module) {
   form.ShowModally();
 }
 
-TEST(MainWindowLife, TwoHundredOpeningsLeaveNothingBehind) {
+// The counts of objects are exact after a few openings. A small leak of memory shows above the
+// heap's grain only after many, which take half a minute: the nightly run has them.
+int Openings() {
+  const char* wanted = std::getenv("ORVIK_OPENINGS");
+  return wanted ? std::stoi(wanted) : 40;
+}
+
+TEST(MainWindowLife, ManyOpeningsLeaveNothingBehind) {
   constexpr int kFirst = 10;
-  constexpr int kAll = 200;
+  const int all = Openings();
+  ASSERT_GT(all, kFirst);
   const HINSTANCE module = ::GetModuleHandleW(nullptr);
   for (int i = 0; i < kFirst; ++i) OpenAndClose(module);
   const Resources before = Count();
-  for (int i = kFirst; i < kAll; ++i) OpenAndClose(module);
+  for (int i = kFirst; i < all; ++i) OpenAndClose(module);
   const Resources after = Count();
   EXPECT_LE(after.objects.drawing, before.objects.drawing);
   EXPECT_LE(after.objects.windows, before.objects.windows);
@@ -70,7 +78,7 @@ TEST(MainWindowLife, TwoHundredOpeningsLeaveNothingBehind) {
   EXPECT_LE(after.bytes, before.bytes + kHeapGrain);
 }
 
-// --- Scaling and pictures ---
+// --- Scaling ---
 
 int HeightOf(HWND window) {
   RECT outer{};
@@ -89,45 +97,7 @@ TEST(MainWindowLife, FieldsAndTextsGrowWithTheScaling) {
   EXPECT_EQ(HeightOf(form.Find("txtBasinArea")), field);
 }
 
-class MainWindowPicture : public testing::TestWithParam<const char*> {};
-
-// Left for a look at them: both pages at three scalings.
-TEST_P(MainWindowPicture, IsTakenOfBothPagesAtEachScaling) {
-  const std::string sample = GetParam();
-  const std::string folder = ORVIK_SCREENSHOTS;
-  std::filesystem::create_directories(PathFromUtf8(folder));
-  ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
-  const std::int16_t mode = sample == "efficiency" ? 2 : 1;
-  FormOnScreen form(mode, {[&](Form1& opened) {
-                             opened.Chart().DesignDataDirectory(ORVIK_DATA "KAV Data/");
-                             opened.Files().LoadFile(ORVIK_DATA "samples/" + sample + ".kav");
-                           },
-                           {}});
-  const struct {
-    int dpi;
-    SIZE size;
-  } rows[] = {{96, {1140, 700}}, {144, {1700, 1040}}, {192, {2280, 1390}}};
-  for (const auto& row : rows) {
-    ComeToScaling(form.Window(), row.dpi, row.size);
-    for (const char* page : {"Project", "Data"}) {
-      form.ClickMenu(std::string("mnu") + page);
-      const std::string shown = std::string("pic") + page;
-      ASSERT_TRUE(form.Until([&] { return form.IsVisible(shown); }));
-      WaitUntilPainted(form);
-      const std::string path =
-          folder + sample + "-" + page + "-" + std::to_string(row.dpi * 100 / 96) + ".png";
-      std::filesystem::remove(PathFromUtf8(path));
-      test::Screenshot(form.Window(), path);
-      EXPECT_TRUE(FileExists(path));
-    }
-  }
-  ::CoUninitialize();
-}
-
-TEST(MainWindowSmall, PictureIsTakenOfTheSmallestWindowWithAFault) {
-  ASSERT_TRUE(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
-  const std::string folder = ORVIK_SCREENSHOTS;
-  std::filesystem::create_directories(PathFromUtf8(folder));
+TEST(MainWindowSmall, TheContentsWithAFaultNeedNoLargerWindow) {
   FormOnScreen form(2, {[&](Form1& opened) {
                           opened.Chart().DesignDataDirectory(ORVIK_DATA "KAV Data/");
                           opened.Files().LoadFile(ORVIK_DATA "samples/reuse-rate.kav");
@@ -138,17 +108,11 @@ TEST(MainWindowSmall, PictureIsTakenOfTheSmallestWindowWithAFault) {
   form.Press({VK_RETURN, {}});
   ASSERT_TRUE(form.UntilText("txtErrMsg", "The runoff coefficient must be between 0 and 1."));
   WaitUntilPainted(form);
-  test::Screenshot(form.Window(), folder + "small-fault.png");
   RECT outer{};
   ::GetWindowRect(form.Window(), &outer);
-  EXPECT_EQ(outer.right - outer.left, 900) << "the contents need no larger window";
+  EXPECT_EQ(outer.right - outer.left, 900);
   EXPECT_EQ(outer.bottom - outer.top, 600);
-  ::CoUninitialize();
 }
-
-INSTANTIATE_TEST_SUITE_P(Samples, MainWindowPicture,
-                         testing::Values("efficiency", "storage-volume", "reuse-rate",
-                                         "interactive"));
 
 }  // namespace
 }  // namespace orvik
