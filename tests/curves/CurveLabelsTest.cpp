@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "curves/ChartAxes.h"
 #include "curves/CurveLabels.h"
 #include "curves/CurveMaker.h"
 #include "support/SampleRecords.h"
