@@ -104,7 +104,7 @@ void PrintText(std::ostream& out, const std::vector<StationCurves>& stations) {
     const CurveError worst = WorstError(station);
     const auto& curves = station.Made.Set.Curves;
     out << std::left << std::setw(17) << NameOf(station) << std::right << std::setw(5)
-        << station.Years.Years.size() << std::setw(14) << FixedText(station.Years.MeanAnnualIn, 1)
+        << station.Years.Kept.size() << std::setw(14) << FixedText(station.Years.MeanAnnualIn, 1)
         << std::setw(15) << FixedText(worst.Max, 2) << std::setw(12) << FixedText(worst.Mean, 2)
         << "  " << FixedText(curves.front().VStart, 2) << " ... "
         << FixedText(curves.back().VStart, 2) << '\n';
@@ -127,7 +127,7 @@ void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const StationCurves& station : stations) {
     list.push_back({{"station", NameOf(station)},
-                    {"usableYears", station.Years.Years.size()},
+                    {"usableYears", station.Years.Kept.size()},
                     {"meanAnnualIn", station.Years.MeanAnnualIn},
                     {"wettestDayIn", station.Years.WettestDayIn},
                     {"wettestDay", IsoDate(station.Years.WettestDay)},

@@ -39,7 +39,7 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
                const MadeCurves& made) {
   out << made.Set.Title << '\n'
       << "Record " << IsoDate(record.First) << " to " << IsoDate(record.Last) << ", "
-      << years.Years.size() << " usable years (" << years.LeftOutYears.size() << " left out, "
+      << years.Kept.size() << " usable years (" << years.LeftOutYears.size() << " left out, "
       << years.MissingDays << " missing days taken as dry), mean "
       << FixedText(years.MeanAnnualIn, 1) << " inches a year, wettest day "
       << FixedText(years.WettestDayIn, 2) << " inches on " << IsoDate(years.WettestDay) << "\n\n";
@@ -54,7 +54,7 @@ void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRe
                                       {"file", request.file},
                                       {"first", IsoDate(record.First)},
                                       {"last", IsoDate(record.Last)},
-                                      {"usableYears", years.Years.size()},
+                                      {"usableYears", years.Kept.size()},
                                       {"meanAnnualIn", years.MeanAnnualIn},
                                       {"wettestDayIn", years.WettestDayIn},
                                       {"wettestDay", IsoDate(years.WettestDay)},

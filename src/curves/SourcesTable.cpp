@@ -70,7 +70,7 @@ std::string SourceRow(const StationCurves& station) {
          std::string(ClimateStationName(station.Station)) + " | " +
          std::string(source.RecordOf.empty() ? "itself" : source.RecordOf) + " | " +
          std::string(source.NoaaNumber) + " | " + IsoDate(station.Record.First) + " to " +
-         IsoDate(station.Record.Last) + " | " + std::to_string(station.Years.Years.size()) + " | " +
+         IsoDate(station.Record.Last) + " | " + std::to_string(station.Years.Kept.size()) + " | " +
          FixedText(station.Years.MeanAnnualIn, 1) + " | " +
          FixedText(station.Years.WettestDayIn, 2) + " |\n";
 }

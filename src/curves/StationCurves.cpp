@@ -19,6 +19,7 @@ StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t stat
   result.Made = MakeCurves(BuildPondDays(result.Years, options), axes, title);
   result.Record.Days = {};
   result.Years.Daily = {};
+  result.Years.Dates = {};
   return result;
 }
 

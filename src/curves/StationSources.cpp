@@ -39,7 +39,7 @@ std::string CurveTitle(std::string_view name, std::string_view source, const Rai
   if (options.AbstractionIn > 0) method += ", " + AbstractionText(options);
   return std::string(name) + " - computed by ORVIK from " + std::string(source) + ", " +
          std::to_string(YearOf(record.First)) + "-" + std::to_string(YearOf(record.Last)) + ", " +
-         std::to_string(years.Years.size()) + " usable years" + method;
+         std::to_string(years.Kept.size()) + " usable years" + method;
 }
 
 }  // namespace orvik

@@ -10,6 +10,15 @@
 namespace orvik {
 namespace {
 
+// What belongs to the days of the kept years, with that of the warm-up ahead: its days are the
+// first ones of the kept years.
+template <typename T>
+std::vector<T> RunAhead(const std::vector<T>& kept, std::size_t warmUpDays) {
+  std::vector<T> all(kept.begin(), kept.begin() + static_cast<std::ptrdiff_t>(warmUpDays));
+  all.insert(all.end(), kept.begin(), kept.end());
+  return all;
+}
+
 // True for each day that lies within `holdOff` days after a day with rain. Rain does not hold off
 // use on its own day.
 std::vector<bool> FindHeldOffDays(const std::vector<double>& rain, int holdOff) {
@@ -47,14 +56,13 @@ std::string AbstractionText(const PondOptions& options) {
 }
 
 PondDays BuildPondDays(const RainYears& years, const PondOptions& options) {
-  std::vector<double> rain;
-  rain.reserve(years.FirstYearDays + years.Daily.size());
-  const auto firstYearEnd = years.Daily.begin() + static_cast<std::ptrdiff_t>(years.FirstYearDays);
-  rain.assign(years.Daily.begin(), firstYearEnd);
-  rain.insert(rain.end(), years.Daily.begin(), years.Daily.end());
-
   PondDays days;
-  days.WarmUpDays = years.FirstYearDays;
+  days.WarmUpDays = years.Kept.front().days;
+  days.Dates = RunAhead(years.Dates, days.WarmUpDays);
+  days.Years = years.Kept;
+  for (CalendarYear& year : days.Years) year.firstDay += days.WarmUpDays;
+
+  const std::vector<double> rain = RunAhead(years.Daily, days.WarmUpDays);
   days.UseShare = ShareUse(FindHeldOffDays(rain, options.HoldOffDays), days.WarmUpDays);
   days.Runoff.resize(rain.size());
   std::ranges::transform(rain, days.Runoff.begin(), [&](double depth) {

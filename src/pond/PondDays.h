@@ -1,9 +1,12 @@
 // What a pond is given day by day: the runoff that arrives, and the depth that reuse asks for.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include "rain/CalendarYear.h"
 
 namespace orvik {
 
@@ -23,7 +26,9 @@ std::string AbstractionText(const PondOptions& options);
 // days a usual storage to begin with, then all kept years, the first included. Everything is per
 // unit of equivalent impervious area.
 struct PondDays {
-  std::vector<double> Runoff;    // inches on the EIA
+  std::vector<std::chrono::sys_days> Dates;  // the warm-up has those of the year that it runs ahead
+  std::vector<CalendarYear> Years;           // those counted, rising; their days are places below
+  std::vector<double> Runoff;                // inches on the EIA
   std::vector<double> UseShare;  // depth asked for on the day as a multiple of R; 0 while held off
   std::size_t WarmUpDays = 0;    // days at the beginning that are simulated and not counted
   double TotalRunoff = 0;        // inches, over the counted days

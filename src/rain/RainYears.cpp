@@ -19,10 +19,6 @@ constexpr double kWettestDayIn = 72;
 // Depths above this do not occur twice to the hundredth of an inch at one place.
 constexpr double kSuspectDayIn = 15;
 
-std::chrono::sys_days NewYear(int year) {
-  return std::chrono::sys_days(std::chrono::year(year) / std::chrono::January / 1);
-}
-
 std::size_t DaysOfYear(int year) {
   return static_cast<std::size_t>((NewYear(year + 1) - NewYear(year)).count());
 }
@@ -37,6 +33,12 @@ void NoteWettest(const RainDay& day, RainYears& years) {
   ++years.WettestDays;
 }
 
+void AppendDates(const CalendarYear& year, std::vector<std::chrono::sys_days>& dates) {
+  for (std::size_t day = 0; day < year.days; ++day) {
+    dates.push_back(NewYear(year.year) + std::chrono::days(day));
+  }
+}
+
 // Appends the year, or notes that it is left out. [begin, end) are its days with a value.
 void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
                 std::vector<RainDay>::const_iterator end, RainYears& years) {
@@ -46,15 +48,15 @@ void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
     years.LeftOutYears.push_back(year);
     return;
   }
-  const std::size_t offset = years.Daily.size();
-  years.Daily.resize(offset + days, 0.0);
+  const std::size_t firstDay = years.Daily.size();
+  years.Kept.push_back({year, firstDay, days});
+  AppendDates(years.Kept.back(), years.Dates);
+  years.Daily.resize(firstDay + days, 0.0);
   for (auto day = begin; day != end; ++day) {
-    years.Daily[offset + static_cast<std::size_t>((day->Date - NewYear(year)).count())] =
+    years.Daily[firstDay + static_cast<std::size_t>((day->Date - NewYear(year)).count())] =
         day->DepthIn;
     NoteWettest(*day, years);
   }
-  if (years.Years.empty()) years.FirstYearDays = days;
-  years.Years.push_back(year);
   years.MissingDays += missing;
 }
 
@@ -103,7 +105,7 @@ RainYears SelectRainYears(const RainRecord& record) {
     AppendYear(year, begin, end, years);
     begin = end;
   }
-  const auto count = static_cast<int>(years.Years.size());
+  const auto count = static_cast<int>(years.Kept.size());
   if (count < kFewestYears) {
     throw Refusal("The record has " + std::to_string(count) + " usable years; at least " +
                   std::to_string(kFewestYears) + " are needed. A calendar year with more than " +

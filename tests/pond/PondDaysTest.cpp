@@ -20,6 +20,30 @@ TEST(PondDays, RunTheFirstYearTwiceAndCountItOnce) {
   EXPECT_DOUBLE_EQ(days.MeanRunoff(), 1.5);
 }
 
+TEST(PondDays, KeepTheDateOfEachDay) {
+  using std::chrono::sys_days;
+  using std::chrono::year;
+  const PondDays days = BuildPondDays(YearsOf({1, 0, 2, 3, 4}, 2), {});
+  const sys_days first = year(2001) / 1 / 1;
+  const sys_days second = year(2001) / 1 / 2;
+  const sys_days nextYear = year(2002) / 1 / 1;
+  EXPECT_THAT(days.Dates,
+              ElementsAre(first, second, first, second, nextYear, nextYear + std::chrono::days(1),
+                          nextYear + std::chrono::days(2)));
+}
+
+TEST(PondDays, KnowTheCountedDaysOfEachYear) {
+  // Runoff: 1, 0 (warm-up), 1, 0 (2001), 2, 3, 4 (2002).
+  const PondDays days = BuildPondDays(YearsOf({1, 0, 2, 3, 4}, 2), {});
+  ASSERT_EQ(days.Years.size(), 2U);
+  EXPECT_EQ(days.Years[0].year, 2001);
+  EXPECT_EQ(days.Years[0].firstDay, 2U);
+  EXPECT_EQ(days.Years[0].days, 2U);
+  EXPECT_EQ(days.Years[1].year, 2002);
+  EXPECT_EQ(days.Years[1].firstDay, 4U);
+  EXPECT_EQ(days.Years[1].days, 3U);
+}
+
 TEST(PondDays, UseIsTheSameOnEveryDayWithoutAHoldOff) {
   EXPECT_THAT(BuildPondDays(YearsOf({1, 0, 2}, 1), {}).UseShare, ElementsAre(1, 1, 1, 1));
 }

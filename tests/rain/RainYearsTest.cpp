@@ -42,11 +42,17 @@ std::string RefusalOf(const RainRecord& record) {
   return "not refused";
 }
 
+std::vector<int> KeptOf(const RainYears& years) {
+  std::vector<int> kept;
+  for (const CalendarYear& year : years.Kept) kept.push_back(year.year);
+  return kept;
+}
+
 TEST(RainYears, KeepAYearThatMissesTenDaysAndCountThemDry) {
   RainRecord record = FullYears(2001, 2006, 0.1);
   Remove(record, sys_days(year(2003) / 3 / 1), 10);
   const RainYears years = SelectRainYears(record);
-  EXPECT_THAT(years.Years, ElementsAre(2001, 2002, 2003, 2004, 2005, 2006));
+  EXPECT_THAT(KeptOf(years), ElementsAre(2001, 2002, 2003, 2004, 2005, 2006));
   EXPECT_EQ(years.MissingDays, 10);
   EXPECT_EQ(years.Daily.size(), 365U * 6 + 1);  // 2004 has a leap day
   EXPECT_EQ(std::count(years.Daily.begin(), years.Daily.end(), 0.0), 10);
@@ -58,10 +64,41 @@ TEST(RainYears, LeaveOutAYearThatMissesElevenDays) {
   RainRecord record = FullYears(2001, 2006, 0.1);
   Remove(record, sys_days(year(2001) / 3 / 1), 11);
   const RainYears years = SelectRainYears(record);
-  EXPECT_THAT(years.Years, ElementsAre(2002, 2003, 2004, 2005, 2006));
+  EXPECT_THAT(KeptOf(years), ElementsAre(2002, 2003, 2004, 2005, 2006));
   EXPECT_THAT(years.LeftOutYears, ElementsAre(2001));
-  EXPECT_EQ(years.FirstYearDays, 365U);
   EXPECT_EQ(years.Daily.size(), 365U * 5 + 1);
+}
+
+TEST(RainYears, KnowWhichDaysAreThoseOfEachKeptYear) {
+  RainRecord record = FullYears(2001, 2007, 0.1);
+  Remove(record, sys_days(year(2003) / 3 / 1), 11);  // 2003 is left out
+  const RainYears years = SelectRainYears(record);
+  EXPECT_THAT(KeptOf(years), ElementsAre(2001, 2002, 2004, 2005, 2006, 2007));
+  EXPECT_EQ(years.Kept[2].firstDay, 365U * 2);
+  EXPECT_EQ(years.Kept[2].days, 366U);  // a leap year
+  EXPECT_EQ(years.Kept[3].firstDay, 365U * 2 + 366);
+  EXPECT_EQ(years.Kept[3].days, 365U);
+  EXPECT_EQ(years.Kept.back().firstDay + years.Kept.back().days, years.Daily.size());
+}
+
+TEST(RainYears, KnowTheDateOfEachDayAcrossAYearThatIsLeftOut) {
+  RainRecord record = FullYears(2001, 2007, 0.1);
+  Remove(record, sys_days(year(2003) / 3 / 1), 11);  // 2003 is left out
+  const RainYears years = SelectRainYears(record);
+  ASSERT_EQ(years.Dates.size(), years.Daily.size());
+  EXPECT_EQ(years.Dates.front(), sys_days(year(2001) / 1 / 1));
+  EXPECT_EQ(years.Dates[365 * 2 - 1], sys_days(year(2002) / 12 / 31));
+  EXPECT_EQ(years.Dates[365 * 2], sys_days(year(2004) / 1 / 1));
+  EXPECT_EQ(years.Dates[365 * 2 + 31 + 28], sys_days(year(2004) / 2 / 29));
+  EXPECT_EQ(years.Dates.back(), sys_days(year(2007) / 12 / 31));
+}
+
+TEST(RainYears, MissingDaysOfAKeptYearHaveTheirDates) {
+  RainRecord record = FullYears(2001, 2005, 0.1);
+  Remove(record, sys_days(year(2001) / 1 / 1), 3);
+  const RainYears years = SelectRainYears(record);
+  EXPECT_EQ(years.Daily.front(), 0);
+  EXPECT_EQ(years.Dates.front(), sys_days(year(2001) / 1 / 1));
 }
 
 TEST(RainYears, MeanIsThatOfTheKeptYears) {

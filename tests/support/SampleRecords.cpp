@@ -1,5 +1,6 @@
 #include "support/SampleRecords.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <numeric>
@@ -10,9 +11,14 @@ namespace orvik::test {
 RainYears YearsOf(std::vector<double> daily, std::size_t firstYearDays) {
   RainYears years;
   years.Daily = std::move(daily);
-  years.FirstYearDays = firstYearDays;
-  const auto count = (years.Daily.size() + 200) / 365;
-  for (std::size_t i = 0; i < count; ++i) years.Years.push_back(2001 + static_cast<int>(i));
+  for (std::size_t day = 0; day < years.Daily.size(); day += years.Kept.back().days) {
+    const std::size_t length = years.Kept.empty() ? firstYearDays : 365;
+    const int year = 2001 + static_cast<int>(years.Kept.size());
+    years.Kept.push_back({year, day, std::min(length, years.Daily.size() - day)});
+    for (std::size_t i = 0; i < years.Kept.back().days; ++i) {
+      years.Dates.push_back(NewYear(year) + std::chrono::days(i));
+    }
+  }
   return years;
 }
 
