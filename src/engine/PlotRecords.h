@@ -7,6 +7,9 @@
 
 namespace orvik {
 
+// Their fields have the names of the suite.
+// NOLINTBEGIN(readability-identifier-naming)
+
 // The part of the chart's plane that the frame shows.
 struct clsPlotWindow {
   double XMin = 0;  // V at the left edge, inches on the EIA
@@ -57,5 +60,7 @@ struct clsPlotMetrics {
   clsPlotWindow Window;
   std::string Title;  // the station's name
 };
+
+// NOLINTEND(readability-identifier-naming)
 
 }  // namespace orvik

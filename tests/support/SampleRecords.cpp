@@ -10,13 +10,13 @@ namespace orvik::test {
 
 RainYears YearsOf(std::vector<double> daily, std::size_t firstYearDays) {
   RainYears years;
-  years.Daily = std::move(daily);
-  for (std::size_t day = 0; day < years.Daily.size(); day += years.Kept.back().days) {
-    const std::size_t length = years.Kept.empty() ? firstYearDays : 365;
-    const int year = 2001 + static_cast<int>(years.Kept.size());
-    years.Kept.push_back({year, day, std::min(length, years.Daily.size() - day)});
-    for (std::size_t i = 0; i < years.Kept.back().days; ++i) {
-      years.Dates.push_back(NewYear(year) + std::chrono::days(i));
+  years.daily = std::move(daily);
+  for (std::size_t day = 0; day < years.daily.size(); day += years.kept.back().days) {
+    const std::size_t length = years.kept.empty() ? firstYearDays : 365;
+    const int year = 2001 + static_cast<int>(years.kept.size());
+    years.kept.push_back({year, day, std::min(length, years.daily.size() - day)});
+    for (std::size_t i = 0; i < years.kept.back().days; ++i) {
+      years.dates.push_back(NewYear(year) + std::chrono::days(i));
     }
   }
   return years;
