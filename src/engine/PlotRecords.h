@@ -36,14 +36,6 @@ struct clsRectangle_Single {
   bool operator==(const clsRectangle_Single&) const = default;
 };
 
-struct clsRectangle_Double {
-  double Left = 0;
-  double Right = 0;
-  double Top = 0;
-  double Bottom = 0;
-  bool operator==(const clsRectangle_Double&) const = default;
-};
-
 // Distances from the edges of a page, in the printer's units.
 struct clsMargins {
   float Left = 0;
