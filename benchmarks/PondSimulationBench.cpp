@@ -22,12 +22,12 @@ PondDays FiftyYears() {
     return static_cast<double>(state >> 11U) / 9007199254740992.0;
   };
   PondDays days;
-  days.WarmUpDays = 0;
+  days.warmUpDays = 0;
   for (std::size_t d = 0; d < kDays; ++d) {
     const double depth = random() < 0.3 ? -0.45 * std::log(1 - random()) : 0;
-    days.Runoff.push_back(depth);
-    days.UseShare.push_back(1);
-    days.TotalRunoff += depth;
+    days.runoff.push_back(depth);
+    days.useShare.push_back(1);
+    days.totalRunoff += depth;
   }
   return days;
 }
@@ -46,13 +46,13 @@ std::vector<double> OneAfterTheOther(const PondDays& days, const std::vector<Pon
   for (const PondCell& cell : cells) {
     double storage = 0;
     double used = 0;
-    for (const double runoff : days.Runoff) {
+    for (const double runoff : days.runoff) {
       storage = std::min(storage + runoff, cell.V);
       const double taken = std::min(storage, cell.R);
       storage -= taken;
       used += taken;
     }
-    E.push_back(used / days.TotalRunoff * 100);
+    E.push_back(used / days.totalRunoff * 100);
   }
   return E;
 }

@@ -47,7 +47,7 @@ PlacedTexts ChooseNumbers(const PlacedTexts& numbers, Gap gap, const TextRoom& r
 
 PlacedTexts HorizontalNumbers(Surface& surface, const ChartScene& scene, const Font& font) {
   const clsPlotWindow& window = scene.geometry.Window();
-  const clsRectangle_Integer& frame = scene.layout.Frame;
+  const clsRectangle_Integer& frame = scene.layout.frame;
   const auto values =
       AxisValues(window.XMin, window.XMax, scene.curves.VInterval, frame.Right - frame.Left);
   const bool endsAtRight =
@@ -63,20 +63,20 @@ PlacedTexts HorizontalNumbers(Surface& surface, const ChartScene& scene, const F
       left -= size.width / 2;
     }
     numbers.push_back(
-        PlaceLevel(std::move(text), font, size, {left, scene.layout.HorizontalAxis.Top}));
+        PlaceLevel(std::move(text), font, size, {left, scene.layout.horizontalAxis.Top}));
   }
   return numbers;
 }
 
 PlacedTexts VerticalNumbers(Surface& surface, const ChartScene& scene, const Font& font) {
   const clsPlotWindow& window = scene.geometry.Window();
-  const clsRectangle_Integer& frame = scene.layout.Frame;
+  const clsRectangle_Integer& frame = scene.layout.frame;
   PlacedTexts numbers;
   for (const double value :
        AxisValues(window.YMin, window.YMax, scene.curves.RInterval, frame.Bottom - frame.Top)) {
     std::string text = ConvertToString(value);
     const Size size = surface.MeasureText(text, font);
-    const Point at{scene.layout.VerticalAxis.Right - size.width,
+    const Point at{scene.layout.verticalAxis.Right - size.width,
                    scene.geometry.YPlotToYFrame(value) - size.height / 2};
     numbers.push_back(PlaceLevel(std::move(text), font, size, at));
   }
@@ -92,13 +92,13 @@ PlacedTexts WriteNumbers(Surface& surface, const PlacedTexts& all, Gap gap, Text
 }  // namespace
 
 void DrawHorizontalAxisText(Surface& surface, const ChartScene& scene, TextRoom& room) {
-  const int height = scene.PixelHeightOf(scene.heights.Label);
+  const int height = scene.PixelHeightOf(scene.heights.label);
   if (!IsReadable(height)) return;
   const Font font = ChartFont(height);
   const PlacedTexts numbers = HorizontalNumbers(surface, scene, font);
   const PlacedTexts written = WriteNumbers(surface, numbers, {height / 2, 0}, room);
 
-  const clsRectangle_Integer& band = scene.layout.HorizontalAxis;
+  const clsRectangle_Integer& band = scene.layout.horizontalAxis;
   const Size size = surface.MeasureText(kHorizontalAxisTitle, font);
   const int row = written.empty() ? band.Top : written.front().area.bottom + height / 5;
   room.Write(surface, PlaceLevel(std::string(kHorizontalAxisTitle), font, size,
@@ -106,13 +106,13 @@ void DrawHorizontalAxisText(Surface& surface, const ChartScene& scene, TextRoom&
 }
 
 void DrawVerticalAxisText(Surface& surface, const ChartScene& scene, TextRoom& room) {
-  const int height = scene.PixelHeightOf(scene.heights.Label);
+  const int height = scene.PixelHeightOf(scene.heights.label);
   if (!IsReadable(height)) return;
   const Font font = ChartFont(height);
   const PlacedTexts numbers = VerticalNumbers(surface, scene, font);
   const PlacedTexts written = WriteNumbers(surface, numbers, {0, 0}, room);
 
-  const clsRectangle_Integer& band = scene.layout.VerticalAxis;
+  const clsRectangle_Integer& band = scene.layout.verticalAxis;
   int right = band.Right;
   for (const PlacedText& number : written) right = std::min(right, number.area.left - height / 2);
   const Size size = surface.MeasureText(kVerticalAxisTitle, font);

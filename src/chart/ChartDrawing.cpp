@@ -45,7 +45,7 @@ bool IsInside(Point point, const clsRectangle_Integer& frame) {
 
 std::vector<int> StepColumns(const ChartScene& scene) {
   const clsPlotWindow& window = scene.geometry.Window();
-  const clsRectangle_Integer& frame = scene.layout.Frame;
+  const clsRectangle_Integer& frame = scene.layout.frame;
   std::vector<int> columns;
   for (const double V :
        AxisValues(window.XMin, window.XMax, scene.curves.VInterval, frame.Right - frame.Left)) {
@@ -57,7 +57,7 @@ std::vector<int> StepColumns(const ChartScene& scene) {
 
 std::vector<int> StepRows(const ChartScene& scene) {
   const clsPlotWindow& window = scene.geometry.Window();
-  const clsRectangle_Integer& frame = scene.layout.Frame;
+  const clsRectangle_Integer& frame = scene.layout.frame;
   std::vector<int> rows;
   for (const double R :
        AxisValues(window.YMin, window.YMax, scene.curves.RInterval, frame.Bottom - frame.Top)) {
@@ -96,7 +96,7 @@ std::optional<PlacedText> PlaceLabel(Surface& surface, const ChartScene& scene,
   const auto place = PlaceOf(label, scene.geometry);
   if (text.empty() || !place) return std::nullopt;
   const Size size = surface.MeasureText(text, font);
-  const Point at = KeepInFrame(*place, size, scene.layout.Frame);
+  const Point at = KeepInFrame(*place, size, scene.layout.frame);
   PlacedText placed = PlaceLevel(std::string(text), font, size, at);
   if (!room.Has(placed.area)) return std::nullopt;
   return placed;
@@ -105,13 +105,13 @@ std::optional<PlacedText> PlaceLabel(Surface& surface, const ChartScene& scene,
 }  // namespace
 
 void DrawTitleBlock(Surface& surface, const ChartScene& scene, TextRoom& room) {
-  const int height = scene.PixelHeightOf(scene.heights.Title);
+  const int height = scene.PixelHeightOf(scene.heights.title);
   if (!IsReadable(height)) return;
   const Font font = ChartFont(height);
   const Size size = surface.MeasureText(scene.station, font);
-  const clsRectangle_Integer& band = scene.layout.Title;
+  const clsRectangle_Integer& band = scene.layout.title;
   const Point at{(band.Left + band.Right) / 2 - size.width / 2, band.Top};
-  if (at.y + size.height > scene.layout.Frame.Top) return;
+  if (at.y + size.height > scene.layout.frame.Top) return;
   room.Write(surface, PlaceLevel(std::string(scene.station), font, size, at));
 }
 
@@ -125,24 +125,24 @@ void DrawPlotFrame(Surface& surface, const clsRectangle_Integer& frame, int penW
 }
 
 void DrawGridAndTicks(Surface& surface, const ChartScene& scene) {
-  const Area inside = WithoutItsLines(scene.layout.Frame, scene.frameLine);
+  const Area inside = WithoutItsLines(scene.layout.frame, scene.frameLine);
   const auto columns = StepColumns(scene);
   const auto rows = StepRows(scene);
   const int bottom = inside.bottom - 1;
   const Pen grid{kGridLines, scene.thinLine};
   for (const int x : columns) surface.Line({x, bottom}, {x, inside.top - 1}, grid);
   for (const int y : rows) surface.Line({inside.left, y}, {inside.right, y}, grid);
-  const int tick = scene.PixelHeightOf(scene.heights.Tick);
+  const int tick = scene.PixelHeightOf(scene.heights.tick);
   const Pen ink{kBlack, scene.thinLine};
   for (const int x : columns) surface.Line({x, bottom}, {x, bottom - tick}, ink);
   for (const int y : rows) surface.Line({inside.left, y}, {inside.left + tick, y}, ink);
 }
 
 void DrawCurves(Surface& surface, const ChartScene& scene, std::span<const Area> spared) {
-  const ClipScope clip(surface, CurveArea(scene.layout.Frame));
-  const int width = CurveWidth(scene.layout.Frame);
-  for (std::size_t i = 0; i < scene.curves.Curves.size(); ++i) {
-    const auto pixels = CurvePixels(scene.curves.Curves[i], scene.geometry);
+  const ClipScope clip(surface, CurveArea(scene.layout.frame));
+  const int width = CurveWidth(scene.layout.frame);
+  for (std::size_t i = 0; i < scene.curves.curves.size(); ++i) {
+    const auto pixels = CurvePixels(scene.curves.curves[i], scene.geometry);
     if (!pixels) continue;
     for (const auto& piece : PiecesOutside(*pixels, spared)) {
       surface.Polyline(piece, {CurveColour(i), width});
@@ -151,22 +151,22 @@ void DrawCurves(Surface& surface, const ChartScene& scene, std::span<const Area>
 }
 
 void DrawCurveEnds(Surface& surface, const ChartScene& scene) {
-  const int reach = CurveWidth(scene.layout.Frame);
-  for (std::size_t i = 0; i < scene.curves.Curves.size(); ++i) {
-    const auto pixels = CurvePixels(scene.curves.Curves[i], scene.geometry);
+  const int reach = CurveWidth(scene.layout.frame);
+  for (std::size_t i = 0; i < scene.curves.curves.size(); ++i) {
+    const auto pixels = CurvePixels(scene.curves.curves[i], scene.geometry);
     if (!pixels || pixels->empty()) continue;
     for (const Point end : {pixels->front(), pixels->back()}) {
-      if (IsInside(end, scene.layout.Frame)) DrawDot(surface, end, reach, CurveColour(i));
+      if (IsInside(end, scene.layout.frame)) DrawDot(surface, end, reach, CurveColour(i));
     }
   }
 }
 
 std::vector<PlacedText> PlaceLabels(Surface& surface, const ChartScene& scene,
                                     const TextRoom& room) {
-  const int height = scene.PixelHeightOf(scene.heights.Label);
+  const int height = scene.PixelHeightOf(scene.heights.label);
   if (!IsReadable(height)) return {};
   std::vector<PlacedText> placed;
-  for (const CurveLabel& label : scene.curves.Labels) {
+  for (const CurveLabel& label : scene.curves.labels) {
     auto text = PlaceLabel(surface, scene, room, label, ChartFont(height));
     const bool isFree = text && std::ranges::none_of(placed, [&](const PlacedText& other) {
                           return Overlap(text->area, other.area);

@@ -14,7 +14,7 @@ constexpr int kBorder = 3;  // the two rings of the border, and one pixel inside
 void PaintDesignChart(Surface& surface, const ChartScene& scene, Size control) {
   TextRoom room({kBorder, kBorder, control.width - kBorder, control.height - kBorder});
   DrawTitleBlock(surface, scene, room);
-  DrawPlotFrame(surface, scene.layout.Frame, scene.frameLine);
+  DrawPlotFrame(surface, scene.layout.frame, scene.frameLine);
   DrawGridAndTicks(surface, scene);
   DrawHorizontalAxisText(surface, scene, room);
   DrawVerticalAxisText(surface, scene, room);

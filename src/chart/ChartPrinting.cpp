@@ -32,7 +32,7 @@ bool HasExtent(const clsRectangle_Integer& rectangle) {
 // Their pixels, for what must stay clear of them.
 std::vector<std::vector<Point>> CurveLines(const ChartScene& scene) {
   std::vector<std::vector<Point>> lines;
-  for (const EfficiencyCurve& curve : scene.curves.Curves) {
+  for (const EfficiencyCurve& curve : scene.curves.curves) {
     if (auto pixels = CurvePixels(curve, scene.geometry)) lines.push_back(std::move(*pixels));
   }
   return lines;
@@ -40,7 +40,7 @@ std::vector<std::vector<Point>> CurveLines(const ChartScene& scene) {
 
 // Texts stay in the target; the title's cell may begin with a blank part above it.
 Area RoomFor(const clsRectangle_Integer& target, const FrameLayout& layout) {
-  return {target.Left, std::min(target.Top, layout.Title.Top), target.Right, target.Bottom};
+  return {target.Left, std::min(target.Top, layout.title.Top), target.Right, target.Bottom};
 }
 
 // A rate that is found between two curves may lie above the frame, and then above the chart's place
@@ -53,14 +53,14 @@ void PrintHotspot(Printer& printer, const clsRectangle_Integer& target, const Ch
   } catch (const NumericError&) {
     return;  // far off
   }
-  const int height = scene.PixelHeightOf(scene.heights.Label);
+  const int height = scene.PixelHeightOf(scene.heights.label);
   {
     const ClipScope clip(printer, {target.Left, target.Top, target.Right + 1, target.Bottom + 1});
-    PrintHotspotMark(printer, centre, scene.layout.Frame, height, scene.thinLine);
+    PrintHotspotMark(printer, centre, scene.layout.frame, height, scene.thinLine);
   }
   if (!point.HasE() || !IsReadable(height)) return;
   PrintHotspotText(printer, "E=" + ConvertToString(SingleE(point)) + "%", centre,
-                   scene.layout.Frame, height, captions, CurveLines(scene));
+                   scene.layout.frame, height, captions, CurveLines(scene));
 }
 
 void Print(Printer& printer, const PrintedChart& chart, const clsPlotMetrics& metrics) {
@@ -76,7 +76,7 @@ void Print(Printer& printer, const PrintedChart& chart, const clsPlotMetrics& me
                          .frameLine = LineWidth(printer, kFrameLinesPerInch)};
   TextRoom room(RoomFor(metrics.Target, layout));
   DrawTitleBlock(printer, scene, room);
-  DrawPlotFrame(printer, layout.Frame, scene.frameLine);
+  DrawPlotFrame(printer, layout.frame, scene.frameLine);
   DrawGridAndTicks(printer, scene);
   DrawHorizontalAxisText(printer, scene, room);
   DrawVerticalAxisText(printer, scene, room);
@@ -98,7 +98,7 @@ clsPlotMetrics PrintMetrics(const PrintedChart& chart, const clsRectangle_Intege
   metrics.Target = target;
   metrics.Window = PlotWindowOf(chart.curves);
   metrics.Title = chart.station;
-  metrics.Frame = LayoutPrintedFrame(target, metrics.Window, LayoutHeights()).Frame;
+  metrics.Frame = LayoutPrintedFrame(target, metrics.Window, LayoutHeights()).frame;
   return metrics;
 }
 

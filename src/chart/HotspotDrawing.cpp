@@ -52,8 +52,8 @@ bool IsWithin(const Area& area, const clsRectangle_Integer& frame) {
 }  // namespace
 
 clsRectangle_Integer HotspotBox(FramePixel centre) {
-  return {ToInt16(centre.X - kMarkReach), ToInt16(centre.X + kMarkReach),
-          ToInt16(centre.Y - kMarkReach), ToInt16(centre.Y + kMarkReach)};
+  return {ToInt16(centre.x - kMarkReach), ToInt16(centre.x + kMarkReach),
+          ToInt16(centre.y - kMarkReach), ToInt16(centre.y + kMarkReach)};
 }
 
 void DrawHotspot(Surface& surface, FramePixel centre, const clsRectangle_Integer& frame,
@@ -68,10 +68,10 @@ void DrawHotspot(Surface& surface, FramePixel centre, const clsRectangle_Integer
   surface.Polyline(sides, pen);
   // The leaders end before the box, whose own pixels they would flip back. Near the frame's edge
   // the box itself reaches it.
-  const Point onLeftEdge{frame.Left, centre.Y};
-  const Point onBottomEdge{centre.X, frame.Bottom};
-  if (onLeftEdge.x < box.Left) surface.Line(onLeftEdge, {box.Left, centre.Y}, pen);
-  if (onBottomEdge.y > box.Bottom) surface.Line(onBottomEdge, {centre.X, box.Bottom}, pen);
+  const Point onLeftEdge{frame.Left, centre.y};
+  const Point onBottomEdge{centre.x, frame.Bottom};
+  if (onLeftEdge.x < box.Left) surface.Line(onLeftEdge, {box.Left, centre.y}, pen);
+  if (onBottomEdge.y > box.Bottom) surface.Line(onBottomEdge, {centre.x, box.Bottom}, pen);
 }
 
 void PrintHotspotMark(Surface& surface, Point centre, const clsRectangle_Integer& frame, int size,

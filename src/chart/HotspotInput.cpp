@@ -137,7 +137,7 @@ void HotspotInput::LostFocus() {
 
 void HotspotInput::StepHotspot(int dX, int dY) {
   const FramePixel at = state_.point.pixel;
-  if (!state_.IsPointOnChart() || !TakesPoint(at.X + dX, at.Y + dY)) return;
+  if (!state_.IsPointOnChart() || !TakesPoint(at.x + dX, at.y + dY)) return;
   ToggleHotspot();
   MoveBy(state_.point, dX, dY, state_.curves->Geometry());
   EvaluateE();

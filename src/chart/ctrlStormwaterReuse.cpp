@@ -81,7 +81,7 @@ void ctrlStormwaterReuse::Resize(int width, int height) {
 void ctrlStormwaterReuse::LayOut(std::shared_ptr<const CurveSet> curves) {
   const clsPlotWindow window = PlotWindowOf(*curves);
   const FrameLayout layout = LayoutFrame(size_.width, size_.height, window, LayoutHeights());
-  state_.curves.emplace(std::move(curves), PlotGeometry(window, layout.Frame));
+  state_.curves.emplace(std::move(curves), PlotGeometry(window, layout.frame));
   layout_ = layout;
   ReplaceInFrame(state_);
 }
@@ -168,7 +168,7 @@ void ctrlStormwaterReuse::Paint(Surface& surface) const {
     const ChartScene scene = Scene();
     PaintDesignChart(surface, scene, size_);
     if (state_.point.isShown) {
-      DrawHotspot(surface, state_.point.pixel, layout_.Frame, kHotspotPenWidth);
+      DrawHotspot(surface, state_.point.pixel, layout_.frame, kHotspotPenWidth);
     }
   }
   PaintBorder(surface, size_);

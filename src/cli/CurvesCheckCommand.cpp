@@ -53,7 +53,7 @@ std::optional<PondDays> ReadDays(Console& console, const CurvesCheckRequest& req
 CurveErrors JudgeAll(const CurveSet& set, const std::optional<PondDays>& days) {
   CurveErrors errors;
   if (!days) return errors;
-  for (const EfficiencyCurve& curve : set.Curves) {
+  for (const EfficiencyCurve& curve : set.curves) {
     const bool hasRange = curve.VEnd > curve.VStart;
     errors.push_back(hasRange ? std::optional(JudgeCurve(*days, curve)) : std::nullopt);
   }
@@ -68,12 +68,12 @@ ExitCode Check(Console& console, bool json, const CurvesCheckRequest& request) {
   const CurveErrors errors = JudgeAll(set, days);
   if (json) {
     const nlohmann::ordered_json object{{"file", request.file},
-                                        {"title", set.Title},
+                                        {"title", set.title},
                                         {"faults", faults},
                                         {"curves", CurvesJson(set, errors)}};
     console.out << object.dump(2) << '\n';
   } else {
-    console.out << set.Title << "\n\n";
+    console.out << set.title << "\n\n";
     PrintCurvesTable(console.out, set, errors);
     if (faults.empty()) console.out << "\nAll checks passed.\n";
   }

@@ -29,7 +29,7 @@ struct CurvesMakeAllRequest {
 };
 
 std::string NameOf(const StationCurves& station) {
-  return std::string(ClimateStationName(station.Station));
+  return std::string(ClimateStationName(station.station));
 }
 
 // One line of progress, overwritten for each station, and only on a terminal. Beyond the last
@@ -82,7 +82,7 @@ void WriteAll(const std::string& folder, const std::vector<StationCurves>& stati
   MakeOutputFolder(folder);
   const std::string prefix = WithEndingSeparator(folder);
   for (const StationCurves& station : stations) {
-    WriteOutputFile(prefix + NameOf(station) + ".crv", CurveFileText(station.Made.Set));
+    WriteOutputFile(prefix + NameOf(station) + ".crv", CurveFileText(station.made.set));
   }
   WriteOutputFile(prefix + "SOURCES.md", SourcesTable(stations, kMadeBy));
 }
@@ -90,9 +90,9 @@ void WriteAll(const std::string& folder, const std::vector<StationCurves>& stati
 // The largest errors among a station's curves.
 CurveError WorstError(const StationCurves& station) {
   CurveError worst;
-  for (const CurveError& error : station.Made.Errors) {
-    worst.Max = std::max(worst.Max, error.Max);
-    worst.Mean = std::max(worst.Mean, error.Mean);
+  for (const CurveError& error : station.made.errors) {
+    worst.max = std::max(worst.max, error.max);
+    worst.mean = std::max(worst.mean, error.mean);
   }
   return worst;
 }
@@ -102,39 +102,39 @@ void PrintText(std::ostream& out, const std::vector<StationCurves>& stations) {
          "(E=50...95%)\n";
   for (const StationCurves& station : stations) {
     const CurveError worst = WorstError(station);
-    const auto& curves = station.Made.Set.Curves;
+    const auto& curves = station.made.set.curves;
     out << std::left << std::setw(17) << NameOf(station) << std::right << std::setw(5)
-        << station.Years.Years.size() << std::setw(14) << FixedText(station.Years.MeanAnnualIn, 1)
-        << std::setw(15) << FixedText(worst.Max, 2) << std::setw(12) << FixedText(worst.Mean, 2)
+        << station.years.kept.size() << std::setw(14) << FixedText(station.years.meanAnnualIn, 1)
+        << std::setw(15) << FixedText(worst.max, 2) << std::setw(12) << FixedText(worst.mean, 2)
         << "  " << FixedText(curves.front().VStart, 2) << " ... "
         << FixedText(curves.back().VStart, 2) << '\n';
   }
 }
 
 nlohmann::ordered_json FindingsJson(const StationCurves& station) {
-  const RainFindings& found = station.Record.Findings;
-  return {{"yearsLeftOut", station.Years.LeftOutYears.size()},
-          {"missingDays", station.Years.MissingDays},
-          {"rowsWithoutDepth", found.Missing},
-          {"gaps", found.Gaps},
-          {"gapDays", found.GapDays},
-          {"duplicates", found.Duplicate},
-          {"conflicts", found.Conflicting},
-          {"negatives", found.Negative}};
+  const RainFindings& found = station.record.findings;
+  return {{"yearsLeftOut", station.years.leftOutYears.size()},
+          {"missingDays", station.years.missingDays},
+          {"rowsWithoutDepth", found.missing},
+          {"gaps", found.gaps},
+          {"gapDays", found.gapDays},
+          {"duplicates", found.duplicate},
+          {"conflicts", found.conflicting},
+          {"negatives", found.negative}};
 }
 
 void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const StationCurves& station : stations) {
     list.push_back({{"station", NameOf(station)},
-                    {"usableYears", station.Years.Years.size()},
-                    {"meanAnnualIn", station.Years.MeanAnnualIn},
-                    {"wettestDayIn", station.Years.WettestDayIn},
-                    {"wettestDay", IsoDate(station.Years.WettestDay)},
+                    {"usableYears", station.years.kept.size()},
+                    {"meanAnnualIn", station.years.meanAnnualIn},
+                    {"wettestDayIn", station.years.wettestDayIn},
+                    {"wettestDay", IsoDate(station.years.wettestDay)},
                     {"findings", FindingsJson(station)},
-                    {"holdOffDays", station.Options.HoldOffDays},
-                    {"abstractionIn", station.Options.AbstractionIn},
-                    {"curves", CurvesJson(station.Made.Set, AllJudged(station.Made.Errors))}});
+                    {"holdOffDays", station.options.holdOffDays},
+                    {"abstractionIn", station.options.abstractionIn},
+                    {"curves", CurvesJson(station.made.set, AllJudged(station.made.errors))}});
   }
   out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
 }
@@ -167,7 +167,7 @@ Example:
     return RunWithMessages(console, [&] {
       const auto stations = MakeAll(console, *request);
       for (const StationCurves& station : stations) {
-        WarnOfSuspectedCode(console, station.Years, NameOf(station));
+        WarnOfSuspectedCode(console, station.years, NameOf(station));
       }
       WriteAll(request->folder, stations);
       options.json ? PrintJson(console.out, stations) : PrintText(console.out, stations);

@@ -37,30 +37,30 @@ std::string SourceOf(const CurvesMakeRequest& request) {
 
 void PrintText(std::ostream& out, const RainRecord& record, const RainYears& years,
                const MadeCurves& made) {
-  out << made.Set.Title << '\n'
-      << "Record " << IsoDate(record.First) << " to " << IsoDate(record.Last) << ", "
-      << years.Years.size() << " usable years (" << years.LeftOutYears.size() << " left out, "
-      << years.MissingDays << " missing days taken as dry), mean "
-      << FixedText(years.MeanAnnualIn, 1) << " inches a year, wettest day "
-      << FixedText(years.WettestDayIn, 2) << " inches on " << IsoDate(years.WettestDay) << "\n\n";
-  PrintCurvesTable(out, made.Set, AllJudged(made.Errors));
+  out << made.set.title << '\n'
+      << "Record " << IsoDate(record.first) << " to " << IsoDate(record.last) << ", "
+      << years.kept.size() << " usable years (" << years.leftOutYears.size() << " left out, "
+      << years.missingDays << " missing days taken as dry), mean "
+      << FixedText(years.meanAnnualIn, 1) << " inches a year, wettest day "
+      << FixedText(years.wettestDayIn, 2) << " inches on " << IsoDate(years.wettestDay) << "\n\n";
+  PrintCurvesTable(out, made.set, AllJudged(made.errors));
 }
 
 void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRecord& record,
                const RainYears& years, const MadeCurves& made) {
   const PondOptions pond = ToPondOptions(request.pond);
   const nlohmann::ordered_json object{{"name", request.name},
-                                      {"title", made.Set.Title},
+                                      {"title", made.set.title},
                                       {"file", request.file},
-                                      {"first", IsoDate(record.First)},
-                                      {"last", IsoDate(record.Last)},
-                                      {"usableYears", years.Years.size()},
-                                      {"meanAnnualIn", years.MeanAnnualIn},
-                                      {"wettestDayIn", years.WettestDayIn},
-                                      {"wettestDay", IsoDate(years.WettestDay)},
-                                      {"holdOffDays", pond.HoldOffDays},
-                                      {"abstractionIn", pond.AbstractionIn},
-                                      {"curves", CurvesJson(made.Set, AllJudged(made.Errors))}};
+                                      {"first", IsoDate(record.first)},
+                                      {"last", IsoDate(record.last)},
+                                      {"usableYears", years.kept.size()},
+                                      {"meanAnnualIn", years.meanAnnualIn},
+                                      {"wettestDayIn", years.wettestDayIn},
+                                      {"wettestDay", IsoDate(years.wettestDay)},
+                                      {"holdOffDays", pond.holdOffDays},
+                                      {"abstractionIn", pond.abstractionIn},
+                                      {"curves", CurvesJson(made.set, AllJudged(made.errors))}};
   out << object.dump(2) << '\n';
 }
 
@@ -89,7 +89,7 @@ ExitCode Make(Console& console, bool json, const CurvesMakeRequest& request) {
   const MadeCurves made =
       MakeCurves(BuildPondDays(years, pond), axes,
                  CurveTitle(request.name, SourceOf(request), record, years, pond));
-  WriteOutputFile(request.file, CurveFileText(made.Set));
+  WriteOutputFile(request.file, CurveFileText(made.set));
   if (json) {
     PrintJson(console.out, request, record, years, made);
   } else {

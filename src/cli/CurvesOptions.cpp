@@ -147,17 +147,17 @@ void AddRainOptions(CLI::App& command, RainArguments& arguments, bool required) 
           ->check(ValidateUnit);
   rain->needs(unit);
   unit->needs(rain);
-  command.add_option("--date-column", arguments.columns.Date, "Name of the column of dates")
+  command.add_option("--date-column", arguments.columns.date, "Name of the column of dates")
       ->type_name("NAME")
       ->needs(rain);
-  command.add_option("--depth-column", arguments.columns.Depth, "Name of the column of depths")
+  command.add_option("--depth-column", arguments.columns.depth, "Name of the column of depths")
       ->type_name("NAME")
       ->needs(rain);
 }
 
 PondOptions ToPondOptions(const PondArguments& arguments) {
-  return {.HoldOffDays = ParseWholeNumber(arguments.holdOff).value_or(0),
-          .AbstractionIn = ParseNumber(arguments.abstraction)};
+  return {.holdOffDays = ParseWholeNumber(arguments.holdOff).value_or(0),
+          .abstractionIn = ParseNumber(arguments.abstraction)};
 }
 
 ChartAxes ToChartAxes(const AxesArguments& arguments) {

@@ -50,7 +50,7 @@ ExitCode Answer(Console& console, bool json, const FramedCurves& curves, const Q
   if (json) {
     PrintJson(console.out, answer, message);
   } else if (isSolved) {
-    PrintText(console.out, asked, answer, curves.Curves().Title);
+    PrintText(console.out, asked, answer, curves.Curves().title);
   }
   if (isSolved) return ExitCode::Done;
   PrintMessage(console, Sentence(message));

@@ -53,7 +53,7 @@ void ctrlButton::Resize(int width, int height) {
 // --- Caption ---
 
 void ctrlButton::Caption(std::string_view caption) {
-  if (Write(lblCaption_.Caption, std::string(caption))) Repaint();
+  if (Write(lblCaption_.caption, std::string(caption))) Repaint();
 }
 
 void ctrlButton::CaptionFont(const Font& font) {
@@ -71,13 +71,13 @@ void ctrlButton::Flash(bool on) {
 }
 
 void ctrlButton::Timer1_Timer() {
-  const bool isNormal = lblCaption_.ForeColor == kButtonText;
+  const bool isNormal = lblCaption_.foreColor == kButtonText;
   StyleCaption(isNormal ? kRed : kButtonText, isNormal);
 }
 
 void ctrlButton::StyleCaption(Colour colour, bool bold) {
-  const bool colourChanged = Write(lblCaption_.ForeColor, colour);
-  const bool boldChanged = Write(lblCaption_.FontBold, bold);
+  const bool colourChanged = Write(lblCaption_.foreColor, colour);
+  const bool boldChanged = Write(lblCaption_.fontBold, bold);
   CenterLabel();  // bold text is wider
   if (colourChanged || boldChanged) Repaint();
 }
@@ -87,16 +87,16 @@ void ctrlButton::CenterLabel() {
 }
 
 void ctrlButton::CenterLabel(Surface& surface) {
-  const Size size = surface.MeasureText(Shown(lblCaption_.Caption), LabelFont());
-  Write(lblCaption_.Width, size.width);
-  Write(lblCaption_.Height, size.height);
-  Write(lblCaption_.Left, (width_ - size.width) / 2);
-  Write(lblCaption_.Top, (height_ - size.height) / 2);
+  const Size size = surface.MeasureText(Shown(lblCaption_.caption), LabelFont());
+  Write(lblCaption_.width, size.width);
+  Write(lblCaption_.height, size.height);
+  Write(lblCaption_.left, (width_ - size.width) / 2);
+  Write(lblCaption_.top, (height_ - size.height) / 2);
 }
 
 Font ctrlButton::LabelFont() const {
   Font font = font_;
-  font.bold = lblCaption_.FontBold;
+  font.bold = lblCaption_.fontBold;
   return font;
 }
 
@@ -108,16 +108,16 @@ void ctrlButton::Paint(Surface& surface, bool isEnabled) {
   surface.FillArea(all, kButtonFace);
   DrawEdgeRing(surface, all, raised ? k3DHighlight : k3DDarkShadow, k3DDarkShadow);
   DrawEdgeRing(surface, Inside(all), raised ? k3DLight : kButtonShadow, kButtonShadow);
-  Write(lblCaption_.Visible, !lblCaption_.Caption.empty());
-  if (!lblCaption_.Visible) return;
+  Write(lblCaption_.visible, !lblCaption_.caption.empty());
+  if (!lblCaption_.visible) return;
   CenterLabel(surface);
-  WriteCaption(surface, isEnabled ? lblCaption_.ForeColor : kButtonShadow);
+  WriteCaption(surface, isEnabled ? lblCaption_.foreColor : kButtonShadow);
 }
 
 void ctrlButton::WriteCaption(Surface& surface, Colour colour) const {
-  const CaptionParts parts = Split(lblCaption_.Caption);
+  const CaptionParts parts = Split(lblCaption_.caption);
   Font font = LabelFont();
-  Point at{lblCaption_.Left, lblCaption_.Top};
+  Point at{lblCaption_.left, lblCaption_.top};
   const auto write = [&](const std::string& part, bool underline) {
     if (part.empty()) return;
     font.underline = underline;

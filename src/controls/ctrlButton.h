@@ -16,14 +16,14 @@ namespace orvik {
 // The caption as it stands in the button. Pixels of the button; the size is that of the text when
 // it was last measured.
 struct ButtonLabel {
-  std::string Caption;
-  Colour ForeColor = kButtonText;
-  bool FontBold = false;
-  bool Visible = false;
-  int Left = 0;
-  int Top = 0;
-  int Width = 0;
-  int Height = 0;
+  std::string caption;
+  Colour foreColor = kButtonText;
+  bool fontBold = false;
+  bool visible = false;
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
 };
 
 class ctrlButton {
@@ -46,7 +46,7 @@ class ctrlButton {
   void Resize(int width, int height);
 
   // "&" marks the letter that works the button together with Alt; it is underlined.
-  const std::string& Caption() const { return lblCaption_.Caption; }
+  const std::string& Caption() const { return lblCaption_.caption; }
   void Caption(std::string_view caption);
 
   // The caption's font; bold is the flash's. At first Arial, 13 pixels high.

@@ -32,7 +32,7 @@ class Checker {
     CheckInterval("V", set_.VMax - set_.VMin, set_.VInterval);
     CheckInterval("R", set_.RMax - set_.RMin, set_.RInterval);
     bool isLowerUsable = false;
-    for (std::size_t i = 0; i < set_.Curves.size(); ++i) {
+    for (std::size_t i = 0; i < set_.curves.size(); ++i) {
       const bool isUsable = CheckNumbers(i);
       if (isUsable) {
         CheckFalling(i);
@@ -42,7 +42,7 @@ class Checker {
       if (isUsable && isLowerUsable) CheckNeighbours(i);
       isLowerUsable = isUsable;
     }
-    for (const CurveLabel& label : set_.Labels) CheckLabel(label);
+    for (const CurveLabel& label : set_.labels) CheckLabel(label);
     return std::move(sentences_);
   }
 
@@ -51,7 +51,7 @@ class Checker {
 
   // "Curve 3 (E = 60%)".
   std::string Name(std::size_t i) const {
-    const float E = set_.Curves[i].E;
+    const float E = set_.curves[i].E;
     return "Curve " + std::to_string(i + 1) +
            (std::isfinite(E) ? " (E = " + ConvertToString(E) + "%)" : "");
   }
@@ -62,7 +62,7 @@ class Checker {
   }
 
   bool CheckNumbers(std::size_t i) {
-    const EfficiencyCurve& curve = set_.Curves[i];
+    const EfficiencyCurve& curve = set_.curves[i];
     const auto finite = [](double R) { return std::isfinite(R); };
     if (!std::isfinite(curve.E) || !std::ranges::all_of(curve.R, finite)) {
       Say(Name(i) + " has numbers that are not finite.");
@@ -79,13 +79,13 @@ class Checker {
   }
 
   void CheckFalling(std::size_t i) {
-    const EfficiencyCurve& curve = set_.Curves[i];
+    const EfficiencyCurve& curve = set_.curves[i];
     if (LargestSlope(curve, curve.VStart, curve.VEnd) < 0) return;
     Say(Name(i) + " does not fall everywhere: one reuse rate would belong to several volumes.");
   }
 
   void CheckLimits(std::size_t i) {
-    const EfficiencyCurve& curve = set_.Curves[i];
+    const EfficiencyCurve& curve = set_.curves[i];
     if (curve.VStart < set_.VMin - kSlack || curve.VEnd > set_.VMax + kSlack) {
       Say(Name(i) + " goes beyond the V axis of the chart.");
     }
@@ -97,7 +97,7 @@ class Checker {
 
   void CheckRunoff(std::size_t i) {
     if (!meanRunoff_) return;
-    const EfficiencyCurve& curve = set_.Curves[i];
+    const EfficiencyCurve& curve = set_.curves[i];
     const double needed = static_cast<double>(curve.E) / 100 * *meanRunoff_;
     const auto low = std::ranges::min_element(curve.R);
     if (*low > needed) return;
@@ -108,8 +108,8 @@ class Checker {
   }
 
   void CheckNeighbours(std::size_t i) {
-    const EfficiencyCurve& lower = set_.Curves[i - 1];
-    const EfficiencyCurve& upper = set_.Curves[i];
+    const EfficiencyCurve& lower = set_.curves[i - 1];
+    const EfficiencyCurve& upper = set_.curves[i];
     if (!(upper.E > lower.E)) {
       return Say(Name(i) + " does not have a higher efficiency than the curve before it.");
     }

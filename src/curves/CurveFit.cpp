@@ -99,9 +99,9 @@ class FitProgram {
       program_.AddTarget(scale_.RateRow(band.V, 1), band.target,
                          WidthOf(i) / (ratePerPoint * ratePerPoint));
       program_.Require(scale_.RateRow(band.V, -1),
-                       -band.target - limits_.MostError * (band.upper - band.target));
+                       -band.target - limits_.mostError * (band.upper - band.target));
       program_.Require(scale_.RateRow(band.V, 1),
-                       band.target - limits_.MostError * (band.target - band.lower));
+                       band.target - limits_.mostError * (band.target - band.lower));
     }
   }
 
@@ -124,10 +124,10 @@ class FitProgram {
       program_.Require(scale_.FallRow(L), kLeastFall);
       if (limits_.lower == nullptr) continue;
       const double V = std::exp(L);
-      program_.Require(scale_.RateRow(V, 1), CurveR(V, *limits_.lower) + limits_.Gap);
+      program_.Require(scale_.RateRow(V, 1), CurveR(V, *limits_.lower) + limits_.gap);
     }
-    program_.Require(scale_.RateRow(limits_.VStart, -1), -limits_.MostR);
-    program_.Require(scale_.RateRow(limits_.VEnd, 1), limits_.LeastR);
+    program_.Require(scale_.RateRow(limits_.VStart, -1), -limits_.mostR);
+    program_.Require(scale_.RateRow(limits_.VEnd, 1), limits_.leastR);
   }
 
   const std::vector<RateBand>& bands_;

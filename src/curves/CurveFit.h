@@ -19,13 +19,13 @@ struct RateBand {
 
 // The requirements on a curve.
 struct FitLimits {
-  double MostError = 1;  // points of E at each band
+  double mostError = 1;  // points of E at each band
   double VStart = 0;     // inches on the EIA
   double VEnd = 0;
-  double MostR = 0;                        // at VStart, inches per day on the EIA
-  double LeastR = 0;                       // at VEnd
+  double mostR = 0;                        // at VStart, inches per day on the EIA
+  double leastR = 0;                       // at VEnd
   const EfficiencyCurve* lower = nullptr;  // the neighbouring curve of lower E, if there is one
-  double Gap = 0;  // the least distance in R above it, from its own VStart on
+  double gap = 0;  // the least distance in R above it, from its own VStart on
 };
 
 // The curve falls everywhere from VStart (its neighbour's, where that is smaller) to VEnd. `bands`

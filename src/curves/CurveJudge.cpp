@@ -34,8 +34,8 @@ CurveError JudgeCurve(const PondDays& days, const EfficiencyCurve& curve) {
   CurveError error;
   for (const double E : SimulateEfficiencies(days, cells)) {
     const double deviation = std::fabs(E - static_cast<double>(curve.E));
-    error.Max = std::max(error.Max, deviation);
-    error.Mean += deviation / static_cast<double>(cells.size());
+    error.max = std::max(error.max, deviation);
+    error.mean += deviation / static_cast<double>(cells.size());
   }
   return error;
 }

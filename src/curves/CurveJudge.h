@@ -10,8 +10,8 @@ struct PondDays;
 
 // Deviation of the simulated efficiency from the curve's E, in percentage points, without sign.
 struct CurveError {
-  double Max = 0;
-  double Mean = 0;  // over volumes in equal steps
+  double max = 0;
+  double mean = 0;  // over volumes in equal steps
 };
 
 // Volumes (inches on the EIA) from `first` to `last` in equal steps of at most 0.05 (longer only

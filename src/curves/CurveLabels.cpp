@@ -34,10 +34,10 @@ double RoundPosition(double value) {
 
 // Room in R above a label on curve i at V; negative where the label does not fit.
 double RoomAbove(const CurveSet& set, std::size_t i, double V, double width) {
-  const double top = CurveR(V, set.Curves[i]) + kClearanceR + kLineHeightR;
+  const double top = CurveR(V, set.curves[i]) + kClearanceR + kLineHeightR;
   const double frame = set.RMax - top;
-  if (i + 1 >= set.Curves.size()) return frame;
-  const EfficiencyCurve& next = set.Curves[i + 1];
+  if (i + 1 >= set.curves.size()) return frame;
+  const EfficiencyCurve& next = set.curves[i + 1];
   // The next curve falls too: it comes closest at the label's right end.
   const double right = std::clamp(V + width, next.VStart, next.VEnd);
   return std::min(frame, CurveR(right, next) - top);
@@ -46,7 +46,7 @@ double RoomAbove(const CurveSet& set, std::size_t i, double V, double width) {
 // V of curve i's label: of the places with enough room (or, where there is none, with nearly as
 // much as the best) the one nearest to the labels' common column.
 double LabelV(const CurveSet& set, std::size_t i, double width) {
-  const EfficiencyCurve& curve = set.Curves[i];
+  const EfficiencyCurve& curve = set.curves[i];
   const double last = std::max(curve.VStart, std::min(curve.VEnd, set.VMax) - width);
   constexpr int kSteps = 200;
   std::vector<double> places;
@@ -69,7 +69,7 @@ double LabelV(const CurveSet& set, std::size_t i, double width) {
 }
 
 CurveLabel PlaceLabel(const CurveSet& set, std::size_t i) {
-  const EfficiencyCurve& curve = set.Curves[i];
+  const EfficiencyCurve& curve = set.curves[i];
   CurveLabel label{"E=" + ConvertToString(curve.E) + "%", 0, 0};
   label.V = RoundPosition(LabelV(set, i, TextWidthV(set, label.Text.size())));
   const double R = CurveR(std::max(label.V, curve.VStart), curve) + kClearanceR + kLineHeightR;
@@ -80,8 +80,8 @@ CurveLabel PlaceLabel(const CurveSet& set, std::size_t i) {
 }  // namespace
 
 void PlaceLabels(CurveSet& set) {
-  set.Labels.clear();
-  for (std::size_t i = 0; i < set.Curves.size(); ++i) set.Labels.push_back(PlaceLabel(set, i));
+  set.labels.clear();
+  for (std::size_t i = 0; i < set.curves.size(); ++i) set.labels.push_back(PlaceLabel(set, i));
 }
 
 }  // namespace orvik

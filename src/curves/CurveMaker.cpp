@@ -91,7 +91,7 @@ class Maker {
         table_(days, GeometricSteps(kStepVStart, axes.VMax, kVolumes), TableRates(days, axes)) {}
 
   void Make(int E, MadeCurves& made) const {
-    const EfficiencyCurve* lower = made.Set.Curves.empty() ? nullptr : &made.Set.Curves.back();
+    const EfficiencyCurve* lower = made.set.curves.empty() ? nullptr : &made.set.curves.back();
     const std::vector<RateBand> bands = FindBands(E);
     const int last = LastStep();
     for (int step = FirstPromising(E, bands, lower); step <= last; ++step) {
@@ -118,13 +118,13 @@ class Maker {
     const CurveError error = JudgeCurve(days_, curve);
     if (!IsAccepted(curve, error)) return false;
     SampleCurve(curve);
-    made.Set.Curves.push_back(std::move(curve));
-    made.Errors.push_back(error);
+    made.set.curves.push_back(std::move(curve));
+    made.errors.push_back(error);
     return true;
   }
 
   bool IsAccepted(const EfficiencyCurve& curve, const CurveError& error) const {
-    return error.Max <= kAcceptedError && error.Mean <= kAcceptedMeanError &&
+    return error.max <= kAcceptedError && error.mean <= kAcceptedMeanError &&
            CurveR(curve.VStart, curve) <= axes_.RMax &&
            LargestSlope(curve, curve.VStart, curve.VEnd) < 0;
   }
@@ -171,13 +171,13 @@ class Maker {
     const std::vector<RateBand> used = BandsFrom(bands, V);
     if (used.empty()) return std::nullopt;
     const double asymptote = days_.MeanRunoff() / 100;  // in/day for each percent of E
-    return FitCurve(used, {.MostError = bound,
+    return FitCurve(used, {.mostError = bound,
                            .VStart = V,
                            .VEnd = axes_.VMax,
-                           .MostR = axes_.RMax - kRoundingR,
-                           .LeastR = asymptote * E * kAboveRunoff,
+                           .mostR = axes_.RMax - kRoundingR,
+                           .leastR = asymptote * E * kAboveRunoff,
                            .lower = lower,
-                           .Gap = kGapShare * kStepE * asymptote});
+                           .gap = kGapShare * kStepE * asymptote});
   }
 
   // The first start volume from which there is a curve within the widest bound. A later start has
@@ -229,17 +229,17 @@ class Maker {
 
 MadeCurves MakeCurves(const PondDays& days, const ChartAxes& axes, const std::string& title) {
   MadeCurves made;
-  made.Set.Title = title;
-  made.Set.VMin = axes.VMin;
-  made.Set.VMax = axes.VMax;
-  made.Set.VInterval = axes.VInterval;
-  made.Set.RMin = axes.RMin;
-  made.Set.RMax = axes.RMax;
-  made.Set.RInterval = axes.RInterval;
+  made.set.title = title;
+  made.set.VMin = axes.VMin;
+  made.set.VMax = axes.VMax;
+  made.set.VInterval = axes.VInterval;
+  made.set.RMin = axes.RMin;
+  made.set.RMax = axes.RMax;
+  made.set.RInterval = axes.RInterval;
   const Maker maker(days, axes);
   for (int E = kFirstE; E <= kLastE; E += kStepE) maker.Make(E, made);
-  PlaceLabels(made.Set);
-  const auto broken = CheckCurves(made.Set, days.MeanRunoff());
+  PlaceLabels(made.set);
+  const auto broken = CheckCurves(made.set, days.MeanRunoff());
   if (!broken.empty()) throw Refusal("The curves cannot be used. " + broken.front());
   return made;
 }

@@ -33,8 +33,8 @@ class AxesTooSmall : public Refusal {
 };
 
 struct MadeCurves {
-  CurveSet Set;                    // as a curve file holds it, curves sampled
-  std::vector<CurveError> Errors;  // one for each curve
+  CurveSet set;                    // as a curve file holds it, curves sampled
+  std::vector<CurveError> errors;  // one for each curve
 };
 
 // Curves for E = 50, 55 ... 95 percent, each beginning at the smallest volume (in steps of 0.05

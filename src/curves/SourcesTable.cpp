@@ -65,22 +65,22 @@ VStart, inches on the equivalent impervious area. All curves end at V maximum.
 )";
 
 std::string SourceRow(const StationCurves& station) {
-  const StationSource& source = SourceOfStation(station.Station);
-  return "| " + std::to_string(station.Station) + " | " +
-         std::string(ClimateStationName(station.Station)) + " | " +
-         std::string(source.RecordOf.empty() ? "itself" : source.RecordOf) + " | " +
-         std::string(source.NoaaNumber) + " | " + IsoDate(station.Record.First) + " to " +
-         IsoDate(station.Record.Last) + " | " + std::to_string(station.Years.Years.size()) + " | " +
-         FixedText(station.Years.MeanAnnualIn, 1) + " | " +
-         FixedText(station.Years.WettestDayIn, 2) + " |\n";
+  const StationSource& source = SourceOfStation(station.station);
+  return "| " + std::to_string(station.station) + " | " +
+         std::string(ClimateStationName(station.station)) + " | " +
+         std::string(source.recordOf.empty() ? "itself" : source.recordOf) + " | " +
+         std::string(source.noaaNumber) + " | " + IsoDate(station.record.first) + " to " +
+         IsoDate(station.record.last) + " | " + std::to_string(station.years.kept.size()) + " | " +
+         FixedText(station.years.meanAnnualIn, 1) + " | " +
+         FixedText(station.years.wettestDayIn, 2) + " |\n";
 }
 
 std::string FindingsRow(const StationCurves& station) {
-  const RainFindings& found = station.Record.Findings;
-  std::string text = "| " + std::string(ClimateStationName(station.Station)) + " |";
-  for (const int number : {static_cast<int>(station.Years.LeftOutYears.size()),
-                           station.Years.MissingDays, found.Missing, found.Gaps, found.GapDays,
-                           found.Duplicate, found.Conflicting, found.Negative}) {
+  const RainFindings& found = station.record.findings;
+  std::string text = "| " + std::string(ClimateStationName(station.station)) + " |";
+  for (const int number : {static_cast<int>(station.years.leftOutYears.size()),
+                           station.years.missingDays, found.missing, found.gaps, found.gapDays,
+                           found.duplicate, found.conflicting, found.negative}) {
     text += " " + std::to_string(number) + " |";
   }
   return text + "\n";
@@ -91,15 +91,15 @@ template <typename CellText>
 std::string CurveTable(const std::vector<StationCurves>& stations, CellText cellText) {
   std::string head = "| station |";
   std::string rule = "| --- |";
-  for (const EfficiencyCurve& curve : stations.front().Made.Set.Curves) {
+  for (const EfficiencyCurve& curve : stations.front().made.set.curves) {
     head += " E=" + FixedText(curve.E, 0) + "% |";
     rule += " --: |";
   }
   std::string text = head + "\n" + rule + "\n";
   for (const StationCurves& station : stations) {
-    text += "| " + std::string(ClimateStationName(station.Station)) + " |";
-    for (std::size_t i = 0; i < station.Made.Set.Curves.size(); ++i) {
-      text += " " + cellText(station.Made, i) + " |";
+    text += "| " + std::string(ClimateStationName(station.station)) + " |";
+    for (std::size_t i = 0; i < station.made.set.curves.size(); ++i) {
+      text += " " + cellText(station.made, i) + " |";
     }
     text += "\n";
   }
@@ -114,16 +114,16 @@ std::string SourcesTable(const std::vector<StationCurves>& stations, std::string
   if (stations.empty()) return text;
   text += FindingsIntroduction();
   for (const StationCurves& station : stations) text += FindingsRow(station);
-  const PondOptions& options = stations.front().Options;
+  const PondOptions& options = stations.front().options;
   text += "\n## Method\n\nAll curves: " + HoldOffText(options) + ", " + AbstractionText(options) +
           ".\n";
   text += ErrorsIntroduction();
   text += CurveTable(stations, [](const MadeCurves& made, std::size_t i) {
-    return FixedText(made.Errors[i].Max, 2) + " / " + FixedText(made.Errors[i].Mean, 2);
+    return FixedText(made.errors[i].max, 2) + " / " + FixedText(made.errors[i].mean, 2);
   });
   text += kStartsIntroduction;
   text += CurveTable(stations, [](const MadeCurves& made, std::size_t i) {
-    return FixedText(made.Set.Curves[i].VStart, 2);
+    return FixedText(made.set.curves[i].VStart, 2);
   });
   return text;
 }

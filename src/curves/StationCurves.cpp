@@ -10,15 +10,16 @@ StationCurves MakeStationCurves(const std::string& rainFolder, std::int16_t stat
                                 const PondOptions& options, const ChartAxes& axes) {
   const std::string name(ClimateStationName(station));
   StationCurves result;
-  result.Station = station;
-  result.Options = options;
-  result.Record = ReadRainRecord(rainFolder + name + ".csv", RainUnit::Inches);
-  result.Years = SelectRainYears(result.Record);
+  result.station = station;
+  result.options = options;
+  result.record = ReadRainRecord(rainFolder + name + ".csv", RainUnit::Inches);
+  result.years = SelectRainYears(result.record);
   const std::string title =
-      CurveTitle(name, SourceText(SourceOfStation(station)), result.Record, result.Years, options);
-  result.Made = MakeCurves(BuildPondDays(result.Years, options), axes, title);
-  result.Record.Days = {};
-  result.Years.Daily = {};
+      CurveTitle(name, SourceText(SourceOfStation(station)), result.record, result.years, options);
+  result.made = MakeCurves(BuildPondDays(result.years, options), axes, title);
+  result.record.days = {};
+  result.years.daily = {};
+  result.years.dates = {};
   return result;
 }
 

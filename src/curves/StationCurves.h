@@ -14,11 +14,11 @@
 namespace orvik {
 
 struct StationCurves {
-  std::int16_t Station = 0;  // its number
-  RainRecord Record;         // without its days, to save memory
-  RainYears Years;           // likewise
-  PondOptions Options;       // that they were made with
-  MadeCurves Made;
+  std::int16_t station = 0;  // its number
+  RainRecord record;         // without its days, to save memory
+  RainYears years;           // likewise
+  PondOptions options;       // that they were made with
+  MadeCurves made;
 };
 
 // Makes the curves of a station from `<rainFolder><station>.csv`, whose depths are in inches.

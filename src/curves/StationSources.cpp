@@ -17,7 +17,7 @@ constexpr auto kSources = std::to_array<StationSource>({
 #include "engine/Stations.def"
 #undef ORVIK_STATION
 });
-static_assert(std::ranges::none_of(kSources, &std::string_view::empty, &StationSource::NoaaNumber));
+static_assert(std::ranges::none_of(kSources, &std::string_view::empty, &StationSource::noaaNumber));
 
 }  // namespace
 
@@ -27,19 +27,19 @@ const StationSource& SourceOfStation(std::int16_t station) {
 }
 
 std::string SourceText(const StationSource& source) {
-  std::string text = "NOAA daily rainfall " + std::string(source.NoaaNumber);
-  if (!source.RecordOf.empty()) text += " (record of " + std::string(source.RecordOf) + ")";
+  std::string text = "NOAA daily rainfall " + std::string(source.noaaNumber);
+  if (!source.recordOf.empty()) text += " (record of " + std::string(source.recordOf) + ")";
   return text;
 }
 
 std::string CurveTitle(std::string_view name, std::string_view source, const RainRecord& record,
                        const RainYears& years, const PondOptions& options) {
   std::string method;
-  if (options.HoldOffDays > 0) method += ", " + HoldOffText(options);
-  if (options.AbstractionIn > 0) method += ", " + AbstractionText(options);
+  if (options.holdOffDays > 0) method += ", " + HoldOffText(options);
+  if (options.abstractionIn > 0) method += ", " + AbstractionText(options);
   return std::string(name) + " - computed by ORVIK from " + std::string(source) + ", " +
-         std::to_string(YearOf(record.First)) + "-" + std::to_string(YearOf(record.Last)) + ", " +
-         std::to_string(years.Years.size()) + " usable years" + method;
+         std::to_string(YearOf(record.first)) + "-" + std::to_string(YearOf(record.last)) + ", " +
+         std::to_string(years.kept.size()) + " usable years" + method;
 }
 
 }  // namespace orvik

@@ -12,8 +12,8 @@ struct RainRecord;
 struct RainYears;
 
 struct StationSource {
-  std::string_view RecordOf;    // the neighbour whose record is used; empty: its own
-  std::string_view NoaaNumber;  // cooperative-observer number(s) of NOAA, or its station id
+  std::string_view recordOf;    // the neighbour whose record is used; empty: its own
+  std::string_view noaaNumber;  // cooperative-observer number(s) of NOAA, or its station id
 };
 
 // The source of the climate station of this number. Throws SubscriptError where there is none.

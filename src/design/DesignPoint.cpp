@@ -40,9 +40,9 @@ void PlaceAt(DesignPoint& point, double V, double R, const PlotGeometry& geometr
 }
 
 void MoveBy(DesignPoint& point, int dX, int dY, const PlotGeometry& geometry) {
-  point.pixel = WithRoomForMark({ToInt16(point.pixel.X + dX), ToInt16(point.pixel.Y + dY)});
-  if (dX != 0) point.V = geometry.XFrameToXPlot(point.pixel.X);
-  if (dY != 0) point.R = geometry.YFrameToYPlot(point.pixel.Y);
+  point.pixel = WithRoomForMark({ToInt16(point.pixel.x + dX), ToInt16(point.pixel.y + dY)});
+  if (dX != 0) point.V = geometry.XFrameToXPlot(point.pixel.x);
+  if (dY != 0) point.R = geometry.YFrameToYPlot(point.pixel.y);
 }
 
 void ForgetE(DesignPoint& point) {

@@ -35,7 +35,7 @@ bool HasExtent(double min, double max) {
 }
 
 bool ReadHeader(clsIOStream& stream, CurveSet& set) {
-  return ScanLine(stream, set.Title) && ScanNumber(stream, set.VMin) &&
+  return ScanLine(stream, set.title) && ScanNumber(stream, set.VMin) &&
          ScanNumber(stream, set.VMax) && ScanNumber(stream, set.VInterval) &&
          ScanNumber(stream, set.RMin) && ScanNumber(stream, set.RMax) &&
          ScanNumber(stream, set.RInterval) && HasExtent(set.VMin, set.VMax) &&
@@ -63,9 +63,9 @@ bool ReadCurve(clsIOStream& stream, EfficiencyCurve& curve) {
 bool ReadCurves(clsIOStream& stream, CurveSet& set) {
   std::int16_t count = 0;
   if (!ScanCount(stream, count) || count < 1) return false;
-  set.Curves.clear();
+  set.curves.clear();
   for (int i = 0; i < count; ++i) {
-    if (!ReadCurve(stream, set.Curves.emplace_back())) return false;
+    if (!ReadCurve(stream, set.curves.emplace_back())) return false;
   }
   return true;
 }
@@ -79,9 +79,9 @@ bool ReadLabel(clsIOStream& stream, CurveLabel& label) {
 bool ReadLabels(clsIOStream& stream, CurveSet& set) {
   std::int16_t count = 0;
   if (!ScanCount(stream, count)) return false;
-  set.Labels.clear();
+  set.labels.clear();
   for (int i = 0; i < count; ++i) {
-    if (!ReadLabel(stream, set.Labels.emplace_back())) return false;
+    if (!ReadLabel(stream, set.labels.emplace_back())) return false;
   }
   return true;
 }

@@ -37,15 +37,15 @@ double RoundCoefficient(double value) {
 
 std::string CurveFileText(const CurveSet& set) {
   std::string text;
-  AddLine(text, set.Title);
+  AddLine(text, set.title);
   for (const double number :
        {set.VMin, set.VMax, set.VInterval, set.RMin, set.RMax, set.RInterval}) {
     AddNumber(text, number);
   }
-  AddLine(text, std::to_string(set.Curves.size()));
-  for (const EfficiencyCurve& curve : set.Curves) AddCurve(text, curve);
-  AddLine(text, std::to_string(set.Labels.size()));
-  for (const CurveLabel& label : set.Labels) {
+  AddLine(text, std::to_string(set.curves.size()));
+  for (const EfficiencyCurve& curve : set.curves) AddCurve(text, curve);
+  AddLine(text, std::to_string(set.labels.size()));
+  for (const CurveLabel& label : set.labels) {
     AddLine(text, label.Text);
     AddLine(text, ConvertToString(label.V) + "," + ConvertToString(label.R));
   }

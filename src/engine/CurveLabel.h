@@ -7,9 +7,9 @@
 namespace orvik {
 
 struct CurveLabel {
-  std::string Text;
-  double V = 0;  // inches on the EIA
-  double R = 0;  // inches per day on the EIA
+  std::string Text;  // NOLINT(readability-identifier-naming): the suite's name
+  double V = 0;      // inches on the EIA
+  double R = 0;      // inches per day on the EIA
 };
 
 // Splits "2.5,0.12" into X and Y; blanks around each number are allowed. False when there is no

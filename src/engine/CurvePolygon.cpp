@@ -9,9 +9,9 @@ namespace orvik {
 namespace {
 
 void Append(FramePolygon& polygon, std::int16_t X, std::int16_t Y) {
-  if (polygon.Count() > 0 && polygon.X.back() == X && polygon.Y.back() == Y) return;
-  polygon.X.push_back(X);
-  polygon.Y.push_back(Y);
+  if (polygon.Count() > 0 && polygon.x.back() == X && polygon.y.back() == Y) return;
+  polygon.x.push_back(X);
+  polygon.y.push_back(Y);
 }
 
 }  // namespace
@@ -20,16 +20,16 @@ FramePolygon FindPolygonInPlotCoordinates(const EfficiencyCurve& A, const Effici
                                           const PlotToFrame& mapping) {
   FramePolygon polygon;
   if (A.V.empty() || B.V.empty()) return polygon;
-  polygon.X.reserve(A.V.size() + B.V.size() + 1);
-  polygon.Y.reserve(A.V.size() + B.V.size() + 1);
+  polygon.x.reserve(A.V.size() + B.V.size() + 1);
+  polygon.y.reserve(A.V.size() + B.V.size() + 1);
   const auto appendSample = [&](const EfficiencyCurve& curve, std::size_t j) {
     Append(polygon, mapping.XPlotToXFrame(curve.V[j]), mapping.YPlotToYFrame(curve.R[j]));
   };
   for (std::size_t j = 0; j < A.V.size(); ++j) appendSample(A, j);
   for (std::size_t j = B.V.size(); j-- > 0;) appendSample(B, j);
   if (polygon.Count() >= 2) {
-    polygon.X.push_back(polygon.X.front());
-    polygon.Y.push_back(polygon.Y.front());
+    polygon.x.push_back(polygon.x.front());
+    polygon.y.push_back(polygon.y.front());
   }
   return polygon;
 }
@@ -50,7 +50,7 @@ bool IsPointInsidePolygon(std::int16_t X, std::int16_t Y, const FramePolygon& po
   bool inside = false;
   for (std::size_t k = 0; k + 1 < polygon.Count(); ++k) {
     const auto last =
-        LastCrossingColumn(Y, polygon.X[k], polygon.Y[k], polygon.X[k + 1], polygon.Y[k + 1]);
+        LastCrossingColumn(Y, polygon.x[k], polygon.y[k], polygon.x[k + 1], polygon.y[k + 1]);
     if (last && X <= *last) inside = !inside;
   }
   return inside;

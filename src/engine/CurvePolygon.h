@@ -25,9 +25,9 @@ class PlotToFrame {
 
 // Vertices in pixels, y down; element 0 is the first. Closed: the last vertex repeats the first.
 struct FramePolygon {
-  std::vector<std::int16_t> X;
-  std::vector<std::int16_t> Y;
-  std::size_t Count() const { return X.size(); }
+  std::vector<std::int16_t> x;
+  std::vector<std::int16_t> y;
+  std::size_t Count() const { return x.size(); }
 };
 
 // Curve A's samples in order, then curve B's from last to first, then the first point again. A

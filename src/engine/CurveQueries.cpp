@@ -65,12 +65,12 @@ EfficiencyCurve InterpolateCurve(const EfficiencyCurve& A, const EfficiencyCurve
 
 std::optional<EfficiencyCurve> ExtractCurve(const CurveSet& set, double E) {
   const float single = ToSingle(E);
-  for (const EfficiencyCurve& curve : set.Curves) {
+  for (const EfficiencyCurve& curve : set.curves) {
     if (single == curve.E) return WithoutSamples(curve);
   }
-  for (std::size_t i = 0; i + 1 < set.Curves.size(); ++i) {
-    const EfficiencyCurve& A = set.Curves[i];
-    const EfficiencyCurve& B = set.Curves[i + 1];
+  for (std::size_t i = 0; i + 1 < set.curves.size(); ++i) {
+    const EfficiencyCurve& A = set.curves[i];
+    const EfficiencyCurve& B = set.curves[i + 1];
     if (!(A.E <= single && single <= B.E)) continue;
     return InterpolateCurve(A, B, Share(E, A.E, B.E), single);
   }

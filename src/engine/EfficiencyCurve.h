@@ -16,7 +16,8 @@ struct EfficiencyCurve {
   double D = 0;
   double VStart = 0;  // inches on the EIA
   double VEnd = 0;
-  std::int16_t NumPoints = 0;  // number of samples
+  // Number of samples.
+  std::int16_t NumPoints = 0;  // NOLINT(readability-identifier-naming): the suite's name
   std::vector<double> V;  // the sampled curve, for drawing: element 0 is the first point, at VStart
   std::vector<double> R;
 };

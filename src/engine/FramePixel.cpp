@@ -5,7 +5,7 @@
 namespace orvik {
 
 FramePixel WithRoomForMark(FramePixel pixel) {
-  for (const int coordinate : {pixel.X, pixel.Y}) {
+  for (const int coordinate : {pixel.x, pixel.y}) {
     ToInt16(coordinate - kMarkReach);
     ToInt16(coordinate + kMarkReach);
   }

@@ -8,8 +8,8 @@
 namespace orvik {
 
 struct FramePixel {
-  std::int16_t X = 0;
-  std::int16_t Y = 0;  // down
+  std::int16_t x = 0;
+  std::int16_t y = 0;  // down
   bool operator==(const FramePixel&) const = default;
 };
 

@@ -55,11 +55,11 @@ Extents FitExtents(double usableWidth, double usableHeight, double aboveUnits, d
 }
 
 double AboveUnits(const Bands& bands, const LayoutHeights& heights) {
-  return bands.aboveInTitles * heights.Title;
+  return bands.aboveInTitles * heights.title;
 }
 
 double BelowUnits(const Bands& bands, const LayoutHeights& heights) {
-  return bands.belowInTitles * heights.Title + bands.belowInLabels * heights.Label;
+  return bands.belowInTitles * heights.title + bands.belowInLabels * heights.label;
 }
 
 FrameLayout LayOutIn(const clsRectangle_Integer& target, const clsPlotWindow& window,
@@ -77,15 +77,15 @@ FrameLayout LayOutIn(const clsRectangle_Integer& target, const clsPlotWindow& wi
   const double bottom = top + extents.frameHeight;
 
   FrameLayout layout;
-  layout.Frame = {ToInt16(left), ToInt16(left + extents.frameWidth), ToInt16(top), ToInt16(bottom)};
-  const clsRectangle_Integer& frame = layout.Frame;
+  layout.frame = {ToInt16(left), ToInt16(left + extents.frameWidth), ToInt16(top), ToInt16(bottom)};
+  const clsRectangle_Integer& frame = layout.frame;
   const double pixelsPerUnit = extents.frameHeight / (window.YMax - window.YMin);
-  const double lift = std::min(bands.mostTitleLift, kTitleLift * heights.Title * pixelsPerUnit);
-  const double gap = kNumberGap * heights.Label * pixelsPerUnit;
-  layout.Title = {frame.Left, frame.Right, ToInt16(titleTop - lift), frame.Top};
-  layout.HorizontalAxis = {frame.Left, frame.Right, ToInt16(frame.Bottom + 1),
+  const double lift = std::min(bands.mostTitleLift, kTitleLift * heights.title * pixelsPerUnit);
+  const double gap = kNumberGap * heights.label * pixelsPerUnit;
+  layout.title = {frame.Left, frame.Right, ToInt16(titleTop - lift), frame.Top};
+  layout.horizontalAxis = {frame.Left, frame.Right, ToInt16(frame.Bottom + 1),
                            ToInt16(bottom + extents.below)};
-  layout.VerticalAxis = {ToInt16(std::min(target.Left + kMargin, frame.Left - gap)),
+  layout.verticalAxis = {ToInt16(std::min(target.Left + kMargin, frame.Left - gap)),
                          ToInt16(frame.Left - gap), frame.Top, frame.Bottom};
   return layout;
 }
@@ -106,7 +106,7 @@ FrameLayout LayoutPrintedFrame(const clsRectangle_Integer& target, const clsPlot
 double PrintedHeight(double width, const clsPlotWindow& window, const LayoutHeights& heights) {
   const double plot = window.YMax - window.YMin;
   const double pixelsPerUnit = std::max(1.0, width - 2 * kMargin) /
-                               (kFrameShape * plot + 2 * kVerticalTexts * heights.Label);
+                               (kFrameShape * plot + 2 * kVerticalTexts * heights.label);
   const double units = AboveUnits(kPrintBands, heights) + plot + BelowUnits(kPrintBands, heights);
   return units * pixelsPerUnit + 2 * kMargin;
 }

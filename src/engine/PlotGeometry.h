@@ -15,19 +15,19 @@ inline constexpr int kReferenceHeight = 640;
 
 // Layout values of the control in units of the vertical axis (R, inches per day on the EIA).
 struct LayoutHeights {
-  float Title = 0.01F;  // height of the title block's text
-  float Label = static_cast<float>(kLabelHeight);
-  float Tick = 0.005F;  // length of a tick
+  float title = 0.01F;  // height of the title block's text
+  float label = static_cast<float>(kLabelHeight);
+  float tick = 0.005F;  // length of a tick
 };
 
 // The frame and the three bands that share its columns or rows. Texts start at the band's edge: the
 // title on the top row, the horizontal numbers on the top row, the vertical numbers against the
 // right column. Each edge lies a little off the frame, so that no text touches its lines.
 struct FrameLayout {
-  clsRectangle_Integer Frame;
-  clsRectangle_Integer Title;           // above the frame, its columns
-  clsRectangle_Integer HorizontalAxis;  // below the frame, its columns
-  clsRectangle_Integer VerticalAxis;    // left of the frame, its rows
+  clsRectangle_Integer frame;
+  clsRectangle_Integer title;           // above the frame, its columns
+  clsRectangle_Integer horizontalAxis;  // below the frame, its columns
+  clsRectangle_Integer verticalAxis;    // left of the frame, its rows
 };
 
 // The height of a text or a mark in pixels, from its height in units of the vertical axis. 0 where

@@ -7,6 +7,9 @@
 
 namespace orvik {
 
+// Their fields have the names of the suite.
+// NOLINTBEGIN(readability-identifier-naming)
+
 // The part of the chart's plane that the frame shows.
 struct clsPlotWindow {
   double XMin = 0;  // V at the left edge, inches on the EIA
@@ -33,14 +36,6 @@ struct clsRectangle_Single {
   bool operator==(const clsRectangle_Single&) const = default;
 };
 
-struct clsRectangle_Double {
-  double Left = 0;
-  double Right = 0;
-  double Top = 0;
-  double Bottom = 0;
-  bool operator==(const clsRectangle_Double&) const = default;
-};
-
 // Distances from the edges of a page, in the printer's units.
 struct clsMargins {
   float Left = 0;
@@ -57,5 +52,7 @@ struct clsPlotMetrics {
   clsPlotWindow Window;
   std::string Title;  // the station's name
 };
+
+// NOLINTEND(readability-identifier-naming)
 
 }  // namespace orvik

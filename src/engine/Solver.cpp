@@ -47,8 +47,8 @@ Outcome Solver::CheckR(double R) const {
 
 Outcome Solver::CheckE(double E) const {
   const float single = ToSingle(E);
-  const float lowest = Set().Curves.front().E;
-  const float highest = Set().Curves.back().E;
+  const float lowest = Set().curves.front().E;
+  const float highest = Set().curves.back().E;
   if (single < lowest) return {EfficiencyBelowCurves, lowest};
   if (single > highest) return {EfficiencyAboveCurves, highest};
   return kPassed;
@@ -98,7 +98,7 @@ Answer Solver::FindR(double E, double V) const {
 // The first pair of curves in their order that also solves.
 std::optional<Solution> Solver::Locate(double V, double R, FramePixel pixel) const {
   if (!curves_) return std::nullopt;
-  for (std::size_t i = 0; i + 1 < Set().Curves.size(); ++i) {
+  for (std::size_t i = 0; i + 1 < Set().curves.size(); ++i) {
     if (!curves_->IsBetweenCurves(i, pixel)) continue;
     if (auto found = LocateBetween(i, V, R)) return found;
   }
@@ -106,8 +106,8 @@ std::optional<Solution> Solver::Locate(double V, double R, FramePixel pixel) con
 }
 
 std::optional<Solution> Solver::LocateBetween(std::size_t i, double V, double R) const {
-  const EfficiencyCurve& A = Set().Curves[i];
-  const EfficiencyCurve& B = Set().Curves[i + 1];
+  const EfficiencyCurve& A = Set().curves[i];
+  const EfficiencyCurve& B = Set().curves[i + 1];
   const auto found = FindEBetweenCurves(V, R, A, B);
   if (!found) return std::nullopt;
   return Solution{V, R, found->E, InterpolateCurve(A, B, found->t, ToSingle(found->E))};

@@ -71,13 +71,13 @@ class Form1 {
   std::string Efficiency() const;
   std::string StorageVolume() const;
 
+  // The host's project, and the file that a program is started with.
+  FileCommands& Files() { return files_; }
+
+  // What the user sees and works: its widgets and its chart. For programs that work the window in
+  // the user's place; the module itself asks neither.
   ProjectForm& Fields() { return form_; }
   ctrlStormwaterReuse& Chart() { return ctrlStormwaterReuse1_; }
-  FileCommands& Files() { return files_; }
-  ProjectFile& File() { return file_; }
-  SolveForWorkflow& Workflow() { return workflow_; }
-  InteractiveSynchronisation& Interactive() { return interactive_; }
-  MainWindowPages& Pages() { return pages_; }
 
  private:
   void MakeMenus(Toolkit& toolkit);

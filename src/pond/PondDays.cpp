@@ -10,6 +10,15 @@
 namespace orvik {
 namespace {
 
+// What belongs to the days of the kept years, with that of the warm-up ahead: its days are the
+// first ones of the kept years.
+template <typename T>
+std::vector<T> RunAhead(const std::vector<T>& kept, std::size_t warmUpDays) {
+  std::vector<T> all(kept.begin(), kept.begin() + static_cast<std::ptrdiff_t>(warmUpDays));
+  all.insert(all.end(), kept.begin(), kept.end());
+  return all;
+}
+
 // True for each day that lies within `holdOff` days after a day with rain. Rain does not hold off
 // use on its own day.
 std::vector<bool> FindHeldOffDays(const std::vector<double>& rain, int holdOff) {
@@ -38,31 +47,30 @@ std::vector<double> ShareUse(const std::vector<bool>& heldOff, std::size_t warmU
 }  // namespace
 
 std::string HoldOffText(const PondOptions& options) {
-  return "hold-off " + std::to_string(options.HoldOffDays) +
-         (options.HoldOffDays == 1 ? " day" : " days");
+  return "hold-off " + std::to_string(options.holdOffDays) +
+         (options.holdOffDays == 1 ? " day" : " days");
 }
 
 std::string AbstractionText(const PondOptions& options) {
-  return "abstraction " + ConvertToString(options.AbstractionIn) + " in";
+  return "abstraction " + ConvertToString(options.abstractionIn) + " in";
 }
 
 PondDays BuildPondDays(const RainYears& years, const PondOptions& options) {
-  std::vector<double> rain;
-  rain.reserve(years.FirstYearDays + years.Daily.size());
-  const auto firstYearEnd = years.Daily.begin() + static_cast<std::ptrdiff_t>(years.FirstYearDays);
-  rain.assign(years.Daily.begin(), firstYearEnd);
-  rain.insert(rain.end(), years.Daily.begin(), years.Daily.end());
-
   PondDays days;
-  days.WarmUpDays = years.FirstYearDays;
-  days.UseShare = ShareUse(FindHeldOffDays(rain, options.HoldOffDays), days.WarmUpDays);
-  days.Runoff.resize(rain.size());
-  std::ranges::transform(rain, days.Runoff.begin(), [&](double depth) {
-    return std::max(0.0, depth - options.AbstractionIn);
+  days.warmUpDays = years.kept.front().days;
+  days.dates = RunAhead(years.dates, days.warmUpDays);
+  days.years = years.kept;
+  for (CalendarYear& year : days.years) year.firstDay += days.warmUpDays;
+
+  const std::vector<double> rain = RunAhead(years.daily, days.warmUpDays);
+  days.useShare = ShareUse(FindHeldOffDays(rain, options.holdOffDays), days.warmUpDays);
+  days.runoff.resize(rain.size());
+  std::ranges::transform(rain, days.runoff.begin(), [&](double depth) {
+    return std::max(0.0, depth - options.abstractionIn);
   });
-  const auto counted = days.Runoff.begin() + static_cast<std::ptrdiff_t>(days.WarmUpDays);
-  days.TotalRunoff = std::accumulate(counted, days.Runoff.end(), 0.0);
-  if (!(days.TotalRunoff > 0)) {
+  const auto counted = days.runoff.begin() + static_cast<std::ptrdiff_t>(days.warmUpDays);
+  days.totalRunoff = std::accumulate(counted, days.runoff.end(), 0.0);
+  if (!(days.totalRunoff > 0)) {
     throw Refusal("No day has more rain than the abstraction: nothing runs off.");
   }
   return days;

@@ -1,9 +1,12 @@
 // What a pond is given day by day: the runoff that arrives, and the depth that reuse asks for.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <vector>
+
+#include "rain/CalendarYear.h"
 
 namespace orvik {
 
@@ -11,8 +14,8 @@ struct RainYears;
 
 // How rainfall becomes runoff and demand.
 struct PondOptions {
-  int HoldOffDays = 0;       // days without use after each day with rain; 0: use on every day
-  double AbstractionIn = 0;  // inches lost from each day with rain before it runs off
+  int holdOffDays = 0;       // days without use after each day with rain; 0: use on every day
+  double abstractionIn = 0;  // inches lost from each day with rain before it runs off
 };
 
 // "hold-off 2 days" and "abstraction 0.1 in", for titles and tables of curves.
@@ -23,13 +26,15 @@ std::string AbstractionText(const PondOptions& options);
 // days a usual storage to begin with, then all kept years, the first included. Everything is per
 // unit of equivalent impervious area.
 struct PondDays {
-  std::vector<double> Runoff;    // inches on the EIA
-  std::vector<double> UseShare;  // depth asked for on the day as a multiple of R; 0 while held off
-  std::size_t WarmUpDays = 0;    // days at the beginning that are simulated and not counted
-  double TotalRunoff = 0;        // inches, over the counted days
-  std::size_t CountedDays() const { return Runoff.size() - WarmUpDays; }
+  std::vector<std::chrono::sys_days> dates;  // the warm-up has those of the year that it runs ahead
+  std::vector<CalendarYear> years;           // those counted, rising; their days are places below
+  std::vector<double> runoff;                // inches on the EIA
+  std::vector<double> useShare;  // depth asked for on the day as a multiple of R; 0 while held off
+  std::size_t warmUpDays = 0;    // days at the beginning that are simulated and not counted
+  double totalRunoff = 0;        // inches, over the counted days
+  std::size_t CountedDays() const { return runoff.size() - warmUpDays; }
   // Inches per day, over the counted days.
-  double MeanRunoff() const { return TotalRunoff / static_cast<double>(CountedDays()); }
+  double MeanRunoff() const { return totalRunoff / static_cast<double>(CountedDays()); }
 };
 
 // Throws Refusal where nothing runs off, or the hold-off leaves no day with use.

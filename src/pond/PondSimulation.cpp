@@ -25,8 +25,8 @@ struct alignas(64) Block {
 // that becomes one minimum instruction.
 void RunDays(Block& block, const PondDays& days, std::size_t first, std::size_t last) {
   for (std::size_t d = first; d < last; ++d) {
-    const double runoff = days.Runoff[d];
-    const double share = days.UseShare[d];
+    const double runoff = days.runoff[d];
+    const double share = days.useShare[d];
     for (std::size_t i = 0; i < kBlockCells; ++i) {
       const double filled = block.storage[i] + runoff;
       const double kept = filled < block.V[i] ? filled : block.V[i];
@@ -52,17 +52,17 @@ Block FillBlock(const std::vector<PondCell>& cells, std::size_t first, std::size
 PondBalance SimulatePond(const PondDays& days, const PondCell& cell) {
   PondBalance balance;
   double storage = 0;
-  for (std::size_t d = 0; d < days.Runoff.size(); ++d) {
-    if (d == days.WarmUpDays) balance = {.StorageBefore = storage};
-    const double filled = storage + days.Runoff[d];
+  for (std::size_t d = 0; d < days.runoff.size(); ++d) {
+    if (d == days.warmUpDays) balance = {.storageBefore = storage};
+    const double filled = storage + days.runoff[d];
     const double kept = std::min(filled, cell.V);
-    const double taken = std::min(kept, cell.R * days.UseShare[d]);
+    const double taken = std::min(kept, cell.R * days.useShare[d]);
     storage = kept - taken;
-    balance.Runoff += days.Runoff[d];
-    balance.Used += taken;
-    balance.Spilled += filled - kept;
+    balance.runoff += days.runoff[d];
+    balance.used += taken;
+    balance.spilled += filled - kept;
   }
-  balance.StorageAfter = storage;
+  balance.storageAfter = storage;
   return balance;
 }
 
@@ -71,11 +71,11 @@ std::vector<double> SimulateEfficiencies(const PondDays& days, const std::vector
   for (std::size_t first = 0; first < cells.size(); first += kBlockCells) {
     const std::size_t count = std::min(kBlockCells, cells.size() - first);
     Block block = FillBlock(cells, first, count);
-    RunDays(block, days, 0, days.WarmUpDays);
+    RunDays(block, days, 0, days.warmUpDays);
     block.used.fill(0);
-    RunDays(block, days, days.WarmUpDays, days.Runoff.size());
+    RunDays(block, days, days.warmUpDays, days.runoff.size());
     for (std::size_t i = 0; i < count; ++i) {
-      E[first + i] = block.used[i] / days.TotalRunoff * 100;
+      E[first + i] = block.used[i] / days.totalRunoff * 100;
     }
   }
   return E;

@@ -20,14 +20,14 @@ struct PondCell {
 };
 
 // The water balance of one pond over the counted days, inches on the EIA:
-// StorageBefore + Runoff = Used + Spilled + StorageAfter, up to rounding.
+// storageBefore + runoff = used + spilled + storageAfter, up to rounding.
 struct PondBalance {
-  double Runoff = 0;
-  double Used = 0;
-  double Spilled = 0;
-  double StorageBefore = 0;
-  double StorageAfter = 0;
-  double Efficiency() const { return Used / Runoff * 100; }  // percent
+  double runoff = 0;
+  double used = 0;
+  double spilled = 0;
+  double storageBefore = 0;
+  double storageAfter = 0;
+  double Efficiency() const { return used / runoff * 100; }  // percent
 };
 
 // One pond, all terms of its balance.

@@ -110,7 +110,7 @@ void ProjectReport::PrintSolutionParameters(ReportLines& lines) {
   lines.Heading("Solution Parameters:");
   lines.Rows(std::array{
       ReportRow{PlainCaption(ListField::ClimateStation), project_.StationName()},
-      ReportRow{"Source of the curves", curves_ ? curves_->Title : ""},
+      ReportRow{"Source of the curves", curves_ ? curves_->title : ""},
       ReportRow{PlainCaption(ListField::SolveForMode), project_.ModeName()},
   });
 }

@@ -51,19 +51,19 @@ bool clsFont::ReadFont(std::string_view text) {
   text = Trim(text);
   clsFont read;
   if (!TakeKey(text)) return false;
-  for (bool* flag : {&read.Strikethrough, &read.Underline, &read.Italic, &read.Bold}) {
+  for (bool* flag : {&read.strikethrough, &read.underline, &read.italic, &read.bold}) {
     if (!ReadFlag(text, *flag)) return false;
   }
-  if (!ReadSize(text, read.Size)) return false;
-  read.Name = Trim(text);
-  if (read.Name.empty()) return false;
+  if (!ReadSize(text, read.size)) return false;
+  read.name = Trim(text);
+  if (read.name.empty()) return false;
   *this = read;
   return true;
 }
 
 std::string clsFont::WriteFont() const {
-  return std::string(kKey) + Name + "," + ConvertToString(Size) + FlagText(Bold) +
-         FlagText(Italic) + FlagText(Underline) + FlagText(Strikethrough);
+  return std::string(kKey) + name + "," + ConvertToString(size) + FlagText(bold) +
+         FlagText(italic) + FlagText(underline) + FlagText(strikethrough);
 }
 
 }  // namespace orvik

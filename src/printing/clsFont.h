@@ -7,12 +7,12 @@
 namespace orvik {
 
 struct clsFont {
-  std::string Name;
-  float Size = 0;  // points, 72 to the inch
-  bool Bold = false;
-  bool Italic = false;
-  bool Underline = false;
-  bool Strikethrough = false;
+  std::string name;
+  float size = 0;  // points, 72 to the inch
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+  bool strikethrough = false;
   bool operator==(const clsFont&) const = default;
 
   // Takes the font from a text as WriteFont makes it; the key may be in any case of letters, with

@@ -43,13 +43,13 @@ const clsFont& clsPageControl::Font(int index) const {
 
 void clsPageControl::SetPrinterFont(Printer& printer, const clsFont& font) {
   orvik::Font applied;
-  applied.face = font.Name;
+  applied.face = font.name;
   applied.pixelHeight =
-      ToInt16(static_cast<double>(font.Size) * printer.Resolution() / kPointsPerInch);
-  applied.bold = font.Bold;
-  applied.italic = font.Italic;
-  applied.underline = font.Underline;
-  applied.strikethrough = font.Strikethrough;
+      ToInt16(static_cast<double>(font.size) * printer.Resolution() / kPointsPerInch);
+  applied.bold = font.bold;
+  applied.italic = font.italic;
+  applied.underline = font.underline;
+  applied.strikethrough = font.strikethrough;
   printer.SetFont(applied);
   currentFont_ = font;
 }

@@ -36,10 +36,6 @@ void InteractiveSynchronisation::AnswerMouseReleased() {
   form_.txtErrMsg.BeepOn(true);
 }
 
-std::int16_t InteractiveSynchronisation::GuessBestInteractiveSolution() const {
-  return orvik::GuessBestInteractiveSolution(binding_.Snapshot(), chart_.IsLoaded());
-}
-
 bool InteractiveSynchronisation::PlaceHotspotByNumbers() {
   const Project project = binding_.Snapshot();
   return chart_.ChangePoint([&](DesignPoint& point, const FramedCurves* curves) {

@@ -28,7 +28,6 @@ class InteractiveSynchronisation {
   void AnswerMouseReleased();
 
   // See design/PointByNumbers. Throws NumericError.
-  std::int16_t GuessBestInteractiveSolution() const;
   bool PlaceHotspotByNumbers();
   bool HotspotShowsNumbers() const;
 

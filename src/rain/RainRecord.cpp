@@ -63,9 +63,9 @@ std::size_t RequireColumn(const std::vector<std::string>& header, const std::str
 
 ColumnPlaces FindColumns(const std::vector<std::string>& header, const RainColumns& columns) {
   return {
-      RequireColumn(header, columns.Date, {"date", "day", "obs_date", "observation_date"}, "date"),
+      RequireColumn(header, columns.date, {"date", "day", "obs_date", "observation_date"}, "date"),
       RequireColumn(
-          header, columns.Depth,
+          header, columns.depth,
           {"precipitation_in", "precipitation_mm", "precipitation", "prcp", "precip", "rainfall_in",
            "rainfall_mm", "rainfall", "rain_in", "rain_mm", "rain", "depth"},
           "rainfall depth"),
@@ -124,7 +124,7 @@ class RowReader {
       throw FileError(errors_);
     }
     if (rows_.empty()) throw FileError("The file has no rows of rainfall.");
-    findings_.Rows = static_cast<int>(rows_.size());
+    findings_.rows = static_cast<int>(rows_.size());
     return std::move(rows_);
   }
 
@@ -151,14 +151,14 @@ class RowReader {
   // Empty and "M" are missing, "T" is a trace.
   bool ReadDepth(const std::string& text, Row& row) {
     if (text.empty() || text == "M") {
-      ++findings_.Missing;
+      ++findings_.missing;
     } else if (text == "T") {
-      ++findings_.Trace;
+      ++findings_.trace;
       row.depth = 0;
     } else if (!IsNumericText(text)) {
       return false;
     } else if (const double depth = ParseNumber(text); depth < 0) {
-      if (findings_.Negative++ == 0) findings_.FirstNegativeLine = row.line;
+      if (findings_.negative++ == 0) findings_.firstNegativeLine = row.line;
     } else {
       row.depth = depth;
     }
@@ -178,36 +178,36 @@ class RowReader {
 // Appends the day of rows [first, last), which have the same date: the first value counts.
 void AppendDay(const std::vector<Row>& rows, std::size_t first, std::size_t last,
                RainRecord& record) {
-  RainFindings& findings = record.Findings;
-  findings.Duplicate += static_cast<int>(last - first) - 1;
+  RainFindings& findings = record.findings;
+  findings.duplicate += static_cast<int>(last - first) - 1;
   std::optional<double> depth;
   for (std::size_t i = first; i < last; ++i) {
     if (!rows[i].depth) continue;
     if (!depth) {
       depth = rows[i].depth;
-    } else if (*depth != *rows[i].depth && findings.Conflicting++ == 0) {
-      findings.FirstConflictingLine = rows[i].line;
+    } else if (*depth != *rows[i].depth && findings.conflicting++ == 0) {
+      findings.firstConflictingLine = rows[i].line;
     }
   }
-  if (depth) record.Days.push_back({rows[first].date, *depth / UnitsPerInch(record.Unit)});
+  if (depth) record.days.push_back({rows[first].date, *depth / UnitsPerInch(record.unit)});
 }
 
 void CountGap(std::chrono::sys_days before, std::chrono::sys_days after, RainFindings& findings) {
   const auto days = static_cast<int>((after - before).count()) - 1;
   if (days <= 0) return;
-  ++findings.Gaps;
-  findings.GapDays += days;
+  ++findings.gaps;
+  findings.gapDays += days;
 }
 
 void AppendDays(std::vector<Row>& rows, RainRecord& record) {
   std::ranges::stable_sort(rows, {}, &Row::date);
-  record.First = rows.front().date;
-  record.Last = rows.back().date;
+  record.first = rows.front().date;
+  record.last = rows.back().date;
   for (std::size_t first = 0; first < rows.size();) {
     std::size_t last = first + 1;
     while (last < rows.size() && rows[last].date == rows[first].date) ++last;
     AppendDay(rows, first, last, record);
-    if (last < rows.size()) CountGap(rows[first].date, rows[last].date, record.Findings);
+    if (last < rows.size()) CountGap(rows[first].date, rows[last].date, record.findings);
     first = last;
   }
 }
@@ -222,8 +222,8 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
     throw FileError("The file has no header line with the names of its columns.");
   }
   RainRecord record;
-  record.Unit = unit;
-  RowReader reader(FindColumns(header, columns), header.size(), record.Findings);
+  record.unit = unit;
+  RowReader reader(FindColumns(header, columns), header.size(), record.findings);
   while (const auto line = lines.Next()) reader.Read(*line, lines.LineNumber());
   std::vector<Row> rows = reader.Finish();
   AppendDays(rows, record);
@@ -241,30 +241,30 @@ RainRecord ReadRainRecord(const std::string& path, RainUnit unit, const RainColu
 }
 
 std::string DescribeFindings(const RainRecord& record) {
-  const RainFindings& found = record.Findings;
+  const RainFindings& found = record.findings;
   const auto count = [](int n, const char* one, const char* many) {
     return std::to_string(n) + (n == 1 ? one : many);
   };
   std::string text =
-      "The record runs from " + IsoDate(record.First) + " to " + IsoDate(record.Last) + ": " +
-      count(static_cast<int>(record.Days.size()), " day", " days") + " with a value, " +
-      count(found.Missing, " row", " rows") + " without, " + count(found.Gaps, " gap", " gaps") +
-      " (" + count(found.GapDays, " day", " days") + " without a row).";
-  if (found.Trace > 0) {
-    text += "\nTraces of rain, counted as zero: " + count(found.Trace, " row.", " rows.");
+      "The record runs from " + IsoDate(record.first) + " to " + IsoDate(record.last) + ": " +
+      count(static_cast<int>(record.days.size()), " day", " days") + " with a value, " +
+      count(found.missing, " row", " rows") + " without, " + count(found.gaps, " gap", " gaps") +
+      " (" + count(found.gapDays, " day", " days") + " without a row).";
+  if (found.trace > 0) {
+    text += "\nTraces of rain, counted as zero: " + count(found.trace, " row.", " rows.");
   }
-  if (found.Duplicate > 0) {
-    text += "\nRepeated dates: " + count(found.Duplicate, " row", " rows") +
+  if (found.duplicate > 0) {
+    text += "\nRepeated dates: " + count(found.duplicate, " row", " rows") +
             "; the first value counts.";
   }
-  if (found.Conflicting > 0) {
+  if (found.conflicting > 0) {
     text +=
-        "\nRepeated dates with a different depth: " + count(found.Conflicting, " row", " rows") +
-        ", the first in line " + std::to_string(found.FirstConflictingLine) + ".";
+        "\nRepeated dates with a different depth: " + count(found.conflicting, " row", " rows") +
+        ", the first in line " + std::to_string(found.firstConflictingLine) + ".";
   }
-  if (found.Negative > 0) {
-    text += "\nNegative depths, taken as missing: " + count(found.Negative, " row", " rows") +
-            ", the first in line " + std::to_string(found.FirstNegativeLine) + ".";
+  if (found.negative > 0) {
+    text += "\nNegative depths, taken as missing: " + count(found.negative, " row", " rows") +
+            ", the first in line " + std::to_string(found.firstNegativeLine) + ".";
   }
   return text;
 }

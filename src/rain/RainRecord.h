@@ -12,37 +12,37 @@ namespace orvik {
 
 // One day with a value.
 struct RainDay {
-  std::chrono::sys_days Date;
-  double DepthIn = 0;  // inches
+  std::chrono::sys_days date;
+  double depthIn = 0;  // inches
 };
 
 // How many rows were not used as they are, and the line of the first (line 1 is the header).
 struct RainFindings {
-  int Rows = 0;         // rows with a date
-  int Missing = 0;      // rows without a depth
-  int Duplicate = 0;    // rows that repeat a date; the first value counts
-  int Conflicting = 0;  // of these: the depth differs from the first one
-  int Negative = 0;     // rows with a depth below zero, which counts as missing
-  int Trace = 0;        // rows with "T", too little to measure, which counts as 0
-  int GapDays = 0;      // days without a row, between the first and the last date
-  int Gaps = 0;         // runs of such days
-  int FirstConflictingLine = 0;
-  int FirstNegativeLine = 0;
+  int rows = 0;         // rows with a date
+  int missing = 0;      // rows without a depth
+  int duplicate = 0;    // rows that repeat a date; the first value counts
+  int conflicting = 0;  // of these: the depth differs from the first one
+  int negative = 0;     // rows with a depth below zero, which counts as missing
+  int trace = 0;        // rows with "T", too little to measure, which counts as 0
+  int gapDays = 0;      // days without a row, between the first and the last date
+  int gaps = 0;         // runs of such days
+  int firstConflictingLine = 0;
+  int firstNegativeLine = 0;
 };
 
 struct RainRecord {
-  RainUnit Unit = RainUnit::Inches;
-  std::chrono::sys_days First;  // the earliest and the latest date
-  std::chrono::sys_days Last;
-  std::vector<RainDay> Days;  // days with a value, by rising date, each date once
-  RainFindings Findings;
+  RainUnit unit = RainUnit::Inches;
+  std::chrono::sys_days first;  // the earliest and the latest date
+  std::chrono::sys_days last;
+  std::vector<RainDay> days;  // days with a value, by rising date, each date once
+  RainFindings findings;
 };
 
 // Names of the columns to read. For an empty one the usual names are tried ("date";
 // "precipitation_in", "precipitation", "PRCP", "rainfall" and the like), in upper or lower case.
 struct RainColumns {
-  std::string Date;
-  std::string Depth;
+  std::string date;
+  std::string depth;
 };
 
 // Reads a record from the text of a file. The first line names the columns. Dates are ISO

@@ -19,22 +19,24 @@ constexpr double kWettestDayIn = 72;
 // Depths above this do not occur twice to the hundredth of an inch at one place.
 constexpr double kSuspectDayIn = 15;
 
-std::chrono::sys_days NewYear(int year) {
-  return std::chrono::sys_days(std::chrono::year(year) / std::chrono::January / 1);
-}
-
 std::size_t DaysOfYear(int year) {
   return static_cast<std::size_t>((NewYear(year + 1) - NewYear(year)).count());
 }
 
 void NoteWettest(const RainDay& day, RainYears& years) {
-  if (years.WettestDays > 0 && day.DepthIn < years.WettestDayIn) return;
-  if (years.WettestDays == 0 || day.DepthIn > years.WettestDayIn) {
-    years.WettestDayIn = day.DepthIn;
-    years.WettestDay = day.Date;
-    years.WettestDays = 0;
+  if (years.wettestDays > 0 && day.depthIn < years.wettestDayIn) return;
+  if (years.wettestDays == 0 || day.depthIn > years.wettestDayIn) {
+    years.wettestDayIn = day.depthIn;
+    years.wettestDay = day.date;
+    years.wettestDays = 0;
   }
-  ++years.WettestDays;
+  ++years.wettestDays;
+}
+
+void AppendDates(const CalendarYear& year, std::vector<std::chrono::sys_days>& dates) {
+  for (std::size_t day = 0; day < year.days; ++day) {
+    dates.push_back(NewYear(year.year) + std::chrono::days(day));
+  }
 }
 
 // Appends the year, or notes that it is left out. [begin, end) are its days with a value.
@@ -43,19 +45,19 @@ void AppendYear(int year, std::vector<RainDay>::const_iterator begin,
   const std::size_t days = DaysOfYear(year);
   const int missing = static_cast<int>(days) - static_cast<int>(end - begin);
   if (missing > kMostMissingDays) {
-    years.LeftOutYears.push_back(year);
+    years.leftOutYears.push_back(year);
     return;
   }
-  const std::size_t offset = years.Daily.size();
-  years.Daily.resize(offset + days, 0.0);
+  const std::size_t firstDay = years.daily.size();
+  years.kept.push_back({year, firstDay, days});
+  AppendDates(years.kept.back(), years.dates);
+  years.daily.resize(firstDay + days, 0.0);
   for (auto day = begin; day != end; ++day) {
-    years.Daily[offset + static_cast<std::size_t>((day->Date - NewYear(year)).count())] =
-        day->DepthIn;
+    years.daily[firstDay + static_cast<std::size_t>((day->date - NewYear(year)).count())] =
+        day->depthIn;
     NoteWettest(*day, years);
   }
-  if (years.Years.empty()) years.FirstYearDays = days;
-  years.Years.push_back(year);
-  years.MissingDays += missing;
+  years.missingDays += missing;
 }
 
 bool IsPlausible(double meanAnnualIn) {
@@ -72,15 +74,15 @@ std::vector<MeanInUnit> PlausibleUnits(double meanAnnualIn, RainUnit unit) {
 }
 
 void RefuseImplausible(const RainYears& years, RainUnit unit) {
-  if (!IsPlausible(years.MeanAnnualIn)) {
+  if (!IsPlausible(years.meanAnnualIn)) {
     throw ImplausibleRain(
         "Read as \"" + std::string(RainUnitName(unit)) + "\", the mean annual rainfall is " +
-            RoundedDepth(years.MeanAnnualIn) + " inches; " + ConvertToString(kLeastAnnualIn) +
+            RoundedDepth(years.meanAnnualIn) + " inches; " + ConvertToString(kLeastAnnualIn) +
             " to " + ConvertToString(kMostAnnualIn) + " inches are expected.",
-        PlausibleUnits(years.MeanAnnualIn, unit));
+        PlausibleUnits(years.meanAnnualIn, unit));
   }
-  if (years.WettestDayIn > kWettestDayIn) {
-    throw Refusal("The wettest day of the record has " + RoundedDepth(years.WettestDayIn) +
+  if (years.wettestDayIn > kWettestDayIn) {
+    throw Refusal("The wettest day of the record has " + RoundedDepth(years.wettestDayIn) +
                   " inches, more than has ever been measured anywhere. If this is a code "
                   "for a missing value, leave the depth empty.");
   }
@@ -95,29 +97,29 @@ std::string RoundedDepth(double inches) {
 
 RainYears SelectRainYears(const RainRecord& record) {
   RainYears years;
-  auto begin = record.Days.begin();
-  for (int year = YearOf(record.First); year <= YearOf(record.Last); ++year) {
+  auto begin = record.days.begin();
+  for (int year = YearOf(record.first); year <= YearOf(record.last); ++year) {
     const auto end = std::lower_bound(
-        begin, record.Days.end(), NewYear(year + 1),
-        [](const RainDay& day, std::chrono::sys_days date) { return day.Date < date; });
+        begin, record.days.end(), NewYear(year + 1),
+        [](const RainDay& day, std::chrono::sys_days date) { return day.date < date; });
     AppendYear(year, begin, end, years);
     begin = end;
   }
-  const auto count = static_cast<int>(years.Years.size());
+  const auto count = static_cast<int>(years.kept.size());
   if (count < kFewestYears) {
     throw Refusal("The record has " + std::to_string(count) + " usable years; at least " +
                   std::to_string(kFewestYears) + " are needed. A calendar year with more than " +
                   std::to_string(kMostMissingDays) + " missing days is not usable.");
   }
-  years.MeanAnnualIn = std::accumulate(years.Daily.begin(), years.Daily.end(), 0.0) / count;
-  RefuseImplausible(years, record.Unit);
+  years.meanAnnualIn = std::accumulate(years.daily.begin(), years.daily.end(), 0.0) / count;
+  RefuseImplausible(years, record.unit);
   return years;
 }
 
 std::string DescribeSuspectedCode(const RainYears& years) {
-  if (years.WettestDays < 2 || years.WettestDayIn <= kSuspectDayIn) return {};
-  return "The largest depth, " + FixedText(years.WettestDayIn, 2) + " inches, occurs on " +
-         std::to_string(years.WettestDays) + " days, first on " + IsoDate(years.WettestDay) +
+  if (years.wettestDays < 2 || years.wettestDayIn <= kSuspectDayIn) return {};
+  return "The largest depth, " + FixedText(years.wettestDayIn, 2) + " inches, occurs on " +
+         std::to_string(years.wettestDays) + " days, first on " + IsoDate(years.wettestDay) +
          ". Is it a code for a missing value? If so, leave these depths empty.";
 }
 

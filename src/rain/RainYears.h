@@ -2,12 +2,12 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "base/Refusal.h"
+#include "rain/CalendarYear.h"
 #include "rain/RainRecord.h"
 
 namespace orvik {
@@ -23,8 +23,8 @@ inline constexpr double kMostAnnualIn = 200;
 
 // A unit, and the mean annual depth of the record when it is read in this unit.
 struct MeanInUnit {
-  RainUnit Unit;
-  double AnnualIn;  // inches
+  RainUnit unit;
+  double annualIn;  // inches
 };
 
 // The mean annual depth is implausible: the record is probably in another unit.
@@ -45,15 +45,15 @@ std::string RoundedDepth(double inches);
 
 // The nearly complete calendar years of a record, one after the other, without the years left out.
 struct RainYears {
-  std::vector<int> Years;            // the kept calendar years, rising
-  std::vector<double> Daily;         // inches on each day of the kept years; 0 on missing days
-  std::size_t FirstYearDays = 0;     // 365 or 366
-  std::vector<int> LeftOutYears;     // years of the record with too many missing days
-  int MissingDays = 0;               // days without a value in the kept years
-  double MeanAnnualIn = 0;           // inches per kept year
-  double WettestDayIn = 0;           // inches
-  int WettestDays = 0;               // days with exactly this depth
-  std::chrono::sys_days WettestDay;  // the first of them
+  std::vector<CalendarYear> kept;  // rising; their days are places in `daily` and in `dates`
+  std::vector<double> daily;       // inches on each day of the kept years; 0 on missing days
+  std::vector<std::chrono::sys_days> dates;  // of the same days
+  std::vector<int> leftOutYears;             // years of the record with too many missing days
+  int missingDays = 0;                       // days without a value in the kept years
+  double meanAnnualIn = 0;                   // inches per kept year
+  double wettestDayIn = 0;                   // inches
+  int wettestDays = 0;                       // days with exactly this depth
+  std::chrono::sys_days wettestDay;          // the first of them
 };
 
 // Throws ImplausibleRain for a mean annual depth outside the limits above, and Refusal for too few

@@ -91,7 +91,7 @@ TEST_F(CancelDrag, FollowsANewSize) {
   chart_.Resize(400, 900);  // the frame is 360 wide, from 20 on
   chart_.KeyDown(kEscape);
   EXPECT_EQ(chart_.Point().V, 3.5);
-  EXPECT_EQ(chart_.Point().pixel.X, 20 + 180);
+  EXPECT_EQ(chart_.Point().pixel.x, 20 + 180);
 }
 
 // The point of other curves is nothing to go back to.

@@ -128,7 +128,7 @@ TEST_F(ChartPainting, ShrinkingRemovesTheTextAndKeepsTheCurves) {
   for (int height = 640; height >= 90; height -= 5) {
     chart_.Resize(height * 3 / 2, height);
     const Log calls = Paint();
-    const int frame = chart_.Layout().Frame.Bottom - chart_.Layout().Frame.Top;
+    const int frame = chart_.Layout().frame.Bottom - chart_.Layout().frame.Top;
     EXPECT_EQ(
         std::ranges::any_of(
             calls, [](const auto& call) { return call.find("V, Reuse") != std::string::npos; }),

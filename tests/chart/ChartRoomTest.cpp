@@ -67,7 +67,7 @@ class ChartRoom : public testing::Test {
     EXPECT_TRUE(area.left >= 3 && area.top >= 3 && area.right <= width - 3 &&
                 area.bottom <= height - 3)
         << where << text.text << " leaves the control";
-    const clsRectangle_Integer& frame = chart_.Layout().Frame;
+    const clsRectangle_Integer& frame = chart_.Layout().frame;
     const bool isOff = area.right <= frame.Left || area.left > frame.Right ||
                        area.bottom <= frame.Top || area.top > frame.Bottom;
     const bool isWithin = area.left > frame.Left && area.right <= frame.Right &&

@@ -36,8 +36,8 @@ TEST_F(HostedChartTest, TheMouseDragsTheHotspot) {
   EXPECT_TRUE(chart_.MouseCaptured());
   host_.OnMouseUp(1, 500, 440);
   EXPECT_FALSE(chart_.MouseCaptured());
-  EXPECT_EQ(chart_.Point().pixel.X, 500);
-  EXPECT_EQ(chart_.Point().pixel.Y, 440);
+  EXPECT_EQ(chart_.Point().pixel.x, 500);
+  EXPECT_EQ(chart_.Point().pixel.y, 440);
 }
 
 TEST_F(HostedChartTest, AnyButtonReleasedEndsTheDrag) {
@@ -59,7 +59,7 @@ TEST_F(HostedChartTest, KeysAndFocusArrive) {
   EXPECT_TRUE(chart_.HasFocus());
   host_.OnKeyDown(39);
   host_.OnKeyUp(39);
-  EXPECT_EQ(chart_.Point().pixel.X, 481);
+  EXPECT_EQ(chart_.Point().pixel.x, 481);
   host_.OnLostFocus();
   EXPECT_FALSE(chart_.HasFocus());
   EXPECT_TRUE(host_.WantsKey(39));
@@ -79,7 +79,7 @@ TEST_F(HostedChartTest, TheChartOutlivesItsWindow) {
   hosted_.reset();
   chart_.MouseDown(1, 480, 434);
   chart_.MouseUp();
-  EXPECT_EQ(chart_.Point().pixel.X, 480);
+  EXPECT_EQ(chart_.Point().pixel.x, 480);
 }
 
 }  // namespace

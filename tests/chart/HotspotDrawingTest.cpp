@@ -103,9 +103,9 @@ TEST_F(HotspotDrawing, TwoDrawingsLeaveThePictureUnchanged) {
   PixelSurface screen;
   screen.Line({100, 440}, {300, 440}, {0x123456, 1, DrawMode::ExclusiveOr});  // to draw upon
   const auto before = screen.pixels;
-  DrawHotspot(screen, hotspot, chart_.Layout().Frame, 1);
+  DrawHotspot(screen, hotspot, chart_.Layout().frame, 1);
   EXPECT_NE(screen.pixels, before);
-  DrawHotspot(screen, hotspot, chart_.Layout().Frame, 1);
+  DrawHotspot(screen, hotspot, chart_.Layout().frame, 1);
   EXPECT_EQ(screen.pixels, before);
 }
 

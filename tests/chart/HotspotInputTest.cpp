@@ -171,8 +171,8 @@ TEST_F(HotspotInput, ArrowKeysMoveByOnePixelAndKeepTheOtherCoordinateExactly) {
   for (const Case& c : {Case{kArrowRight, 1, 0}, Case{kArrowLeft, -1, 0}, Case{kArrowUp, 0, -1},
                         Case{kArrowDown, 0, 1}}) {
     ASSERT_TRUE(chart_.SetHotspotUsing_RV("0.1234567", "3.1415926", ignored));
-    const int X = chart_.Point().pixel.X;  // 108 + 744 * 3.1415926 / 7 = 441.9
-    const int Y = chart_.Point().pixel.Y;  // 592 - 558 * 0.1234567 / 0.4 = 419.8
+    const int X = chart_.Point().pixel.x;  // 108 + 744 * 3.1415926 / 7 = 441.9
+    const int Y = chart_.Point().pixel.y;  // 592 - 558 * 0.1234567 / 0.4 = 419.8
     ASSERT_EQ(X, 442);
     ASSERT_EQ(Y, 420);
     host_.Take();
@@ -234,7 +234,7 @@ TEST_F(HotspotInput, ResizingKeepsThePlotPosition) {
   chart_.Resize(400, 900);  // usable 360 x 860: the width is the limit, the frame is 360 x 270
   EXPECT_EQ(chart_.Point().V, V);
   EXPECT_EQ(chart_.Point().R, R);
-  EXPECT_EQ(chart_.Point().pixel.X, 20 + 180);  // V = 3.5 of 7
+  EXPECT_EQ(chart_.Point().pixel.x, 20 + 180);  // V = 3.5 of 7
   EXPECT_THAT(host_.Take(), ElementsAre("invalidate"));
   chart_.Resize(960, 640);
   ExpectPixel(480, 434);

@@ -43,8 +43,8 @@ class InteractiveFixture : public ChartFixture {
   }
 
   void ExpectPixel(int X, int Y) {
-    EXPECT_EQ(chart_.Point().pixel.X, X);
-    EXPECT_EQ(chart_.Point().pixel.Y, Y);
+    EXPECT_EQ(chart_.Point().pixel.x, X);
+    EXPECT_EQ(chart_.Point().pixel.y, Y);
   }
 
   RecordingHost host_;

@@ -251,13 +251,13 @@ TEST_F(PrintingAShownChart, DisturbsNeitherScreenNorHotspotNorHighlight) {
   PressAndRelease(480, 400);  // R = 0.138, V = 3.5: E = 70
   chart_.KeyDown(kSpace);
   host_.Take();
-  const auto x = chart_.Point().pixel.X;
+  const auto x = chart_.Point().pixel.x;
   const auto v = chart_.Point().V;
   RecordingPrinter printer;
   chart_.PrintDesignChart(printer, 100, 200, 900, 800);
   EXPECT_FALSE(printer.Calls().empty());
   EXPECT_THAT(host_.Take(), testing::IsEmpty());
-  EXPECT_EQ(chart_.Point().pixel.X, x);
+  EXPECT_EQ(chart_.Point().pixel.x, x);
   EXPECT_EQ(chart_.Point().V, v);
   chart_.KeyUp(kSpace);
   EXPECT_FALSE(host_.Take().empty()) << "the highlight was still there to be taken away";

@@ -29,12 +29,12 @@ TEST_F(SetCurveData, LoadsTheStationsFile) {
   EXPECT_TRUE(chart_.IsLoaded());
   EXPECT_EQ(chart_.StationIndex(), kTampa);
   EXPECT_EQ(chart_.StationName(), "Tampa");
-  EXPECT_EQ(chart_.Curves().Title, "Test station");
+  EXPECT_EQ(chart_.Curves().title, "Test station");
   EXPECT_EQ(chart_.MinX(), 0);
   EXPECT_EQ(chart_.MaxX(), 7);
   EXPECT_EQ(chart_.MinY(), 0);
   EXPECT_EQ(chart_.MaxY(), 0.4);
-  EXPECT_EQ(chart_.Layout().Frame, (clsRectangle_Integer{108, 852, 34, 592}));
+  EXPECT_EQ(chart_.Layout().frame, (clsRectangle_Integer{108, 852, 34, 592}));
 }
 
 TEST_F(SetCurveData, StationFourReadsTheFileOfItsOwnSpelling) {
@@ -118,11 +118,11 @@ TEST_F(SetCurveData, ResizeLaysOutAgainAndKeepsTheHotspotsPlace) {
   Load(LogarithmicCurves());
   std::string result;
   ASSERT_TRUE(chart_.SetHotspotUsing_RV("0.12", "3", result));
-  EXPECT_EQ(chart_.Point().pixel.X, 427);  // 108 + 744 x 3 / 7 = 426.86
+  EXPECT_EQ(chart_.Point().pixel.x, 427);  // 108 + 744 x 3 / 7 = 426.86
   chart_.Resize(340, 640);
-  EXPECT_EQ(chart_.Layout().Frame, (clsRectangle_Integer{20, 320, 205, 430}));
-  EXPECT_EQ(chart_.Point().pixel.X, 149);  // 20 + 300 x 3 / 7 = 148.57
-  EXPECT_EQ(chart_.Point().pixel.Y, 362);  // 430 - 225 x 0.3 = 362.5: to the even neighbour
+  EXPECT_EQ(chart_.Layout().frame, (clsRectangle_Integer{20, 320, 205, 430}));
+  EXPECT_EQ(chart_.Point().pixel.x, 149);  // 20 + 300 x 3 / 7 = 148.57
+  EXPECT_EQ(chart_.Point().pixel.y, 362);  // 430 - 225 x 0.3 = 362.5: to the even neighbour
   float V = 0;
   ASSERT_TRUE(chart_.GetV(V));
   EXPECT_EQ(V, 3.0F);

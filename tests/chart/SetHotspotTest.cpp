@@ -308,8 +308,8 @@ TEST_F(SetHotspot, GivesTheHotspotsValues) {
   EXPECT_NEAR(R, 0.1200694, 1e-7);
   EXPECT_EQ(V, 3.0F);
   EXPECT_EQ(E, 60.0F);
-  EXPECT_EQ(chart_.Point().pixel.X, 427);  // 108 + 744 x 3 / 7
-  EXPECT_EQ(chart_.Point().pixel.Y, 425);  // 592 - 558 x 0.1200694 / 0.4 = 424.5
+  EXPECT_EQ(chart_.Point().pixel.x, 427);  // 108 + 744 x 3 / 7
+  EXPECT_EQ(chart_.Point().pixel.y, 425);  // 592 - 558 x 0.1200694 / 0.4 = 424.5
 }
 
 TEST_F(SetHotspot, CurvesThatMeetAreANumericErrorNotAnAnswer) {

@@ -92,7 +92,7 @@ TEST_F(Calc, AFileThatCannotBeReadExitsThreeWithTheCommandsOwnSentences) {
   EXPECT_EQ(foreign.err,
             "The data file does not appear to be a valid ORVIK 3.3 KAV file.\n"
             "Error reading data file.\n");
-  const KavRun newer = Calculate("KAV3.3.02\r\n" + ProjectText().substr(11));
+  const KavRun newer = Calculate("KAV3.3.99\r\n" + ProjectText().substr(11));
   EXPECT_EQ(newer.err, "Invalid file version.\nError reading data file.\n");
   auto lines = ProjectLines();
   lines.pop_back();

@@ -126,7 +126,7 @@ TEST_F(Button, ReleasedOverTheCaptionCountsAsInside) {
   Painting();
   const ButtonLabel& label = button_.lblCaption();
   button_.MouseDown();
-  button_.MouseUp(label.Left + 1, label.Top + 1);
+  button_.MouseUp(label.left + 1, label.top + 1);
   EXPECT_EQ(host_.Take().back(), "click");
 }
 
@@ -181,10 +181,10 @@ TEST_F(Button, TheReportOfItsOwnReleaseDoesNotCostTheClick) {
 TEST_F(Button, AnEmptyCaptionHidesTheLabelAndALaterOneIsCentredAgain) {
   button_.Caption("");
   EXPECT_THAT(Painting(), ElementsAreArray(Join(kFace, kRaisedEdges)));
-  EXPECT_FALSE(button_.lblCaption().Visible);
+  EXPECT_FALSE(button_.lblCaption().visible);
   button_.Caption("Discard");  // 7 characters of 6 pixels: (80 - 42) / 2
   EXPECT_EQ(Painting().back(), "text 19,5 \"Discard\" Arial 13 colour 0x80000012");
-  EXPECT_TRUE(button_.lblCaption().Visible);
+  EXPECT_TRUE(button_.lblCaption().visible);
 }
 
 TEST_F(Button, TheSameCaptionAgainAsksForNoPainting) {
@@ -201,8 +201,8 @@ TEST_F(Button, PaintingAsksForNoPainting) {
 
 TEST_F(Button, CenterLabelMeasuresOnTheScreen) {
   button_.CenterLabel();
-  EXPECT_EQ(button_.lblCaption().Left, 28);
-  EXPECT_EQ(button_.lblCaption().Top, 5);
+  EXPECT_EQ(button_.lblCaption().left, 28);
+  EXPECT_EQ(button_.lblCaption().top, 5);
   EXPECT_THAT(host_.Take(), IsEmpty());
 }
 
@@ -228,7 +228,7 @@ TEST_F(Button, FlashTurnsTheCaptionRedAndBoldAndBack) {
 TEST_F(Button, ATickCentresTheCaptionAtOnce) {
   button_.Flash(true);
   Timer1_->OnTick();
-  EXPECT_EQ(button_.lblCaption().Left, 26);  // (80 - 4 * 7) / 2
+  EXPECT_EQ(button_.lblCaption().left, 26);  // (80 - 4 * 7) / 2
 }
 
 TEST_F(Button, TurningFlashOffWhileRedRestoresTheNormalColourAtOnce) {
@@ -236,9 +236,9 @@ TEST_F(Button, TurningFlashOffWhileRedRestoresTheNormalColourAtOnce) {
   Timer1_->OnTick();
   host_.Take();
   button_.Flash(false);
-  EXPECT_EQ(button_.lblCaption().ForeColor, kButtonText);
-  EXPECT_FALSE(button_.lblCaption().FontBold);
-  EXPECT_EQ(button_.lblCaption().Left, 28);
+  EXPECT_EQ(button_.lblCaption().foreColor, kButtonText);
+  EXPECT_FALSE(button_.lblCaption().fontBold);
+  EXPECT_EQ(button_.lblCaption().left, 28);
   EXPECT_THAT(host_.Take(), ElementsAre("invalidate"));
 }
 
@@ -277,7 +277,7 @@ TEST_F(Button, TheMnemonicIsUnderlinedAndItsMarkIsNotShown) {
   button_.Caption("Sa&ve");
   const std::vector<std::string> marked = CaptionCalls(Painting());
   EXPECT_EQ(button_.Caption(), "Sa&ve");
-  EXPECT_EQ(button_.lblCaption().Left, 28) << "centred as the caption without its mark";
+  EXPECT_EQ(button_.lblCaption().left, 28) << "centred as the caption without its mark";
   ASSERT_EQ(marked.size(), 3U);
   EXPECT_THAT(marked[0], testing::AllOf(testing::HasSubstr("\"Sa\""), testing::HasSubstr("28,5")));
   EXPECT_THAT(marked[1], testing::AllOf(testing::HasSubstr("\"v\""), testing::HasSubstr("40,5")));

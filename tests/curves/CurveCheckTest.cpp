@@ -31,13 +31,13 @@ CurveSet GoodSet() {
   set.VInterval = 1;
   set.RMax = 0.4;
   set.RInterval = 0.05;
-  set.Curves = {Curve(50, 1, 0.2, -0.05), Curve(60, 1.5, 0.25, -0.05), Curve(70, 2, 0.3, -0.05)};
-  set.Labels = {{"E=50%", 3, 0.2}};
+  set.curves = {Curve(50, 1, 0.2, -0.05), Curve(60, 1.5, 0.25, -0.05), Curve(70, 2, 0.3, -0.05)};
+  set.labels = {{"E=50%", 3, 0.2}};
   return set;
 }
 
 std::vector<std::string> Check(CurveSet set, std::optional<double> meanRunoff = std::nullopt) {
-  for (EfficiencyCurve& curve : set.Curves) SampleCurve(curve);
+  for (EfficiencyCurve& curve : set.curves) SampleCurve(curve);
   return CheckCurves(set, meanRunoff);
 }
 
@@ -55,19 +55,19 @@ TEST(CheckCurves, NamesEachRuleThatIsBroken) {
       {"interval of the V axis", [](CurveSet& s) { s.VInterval = 0; }},
       {"interval of the R axis", [](CurveSet& s) { s.RInterval = 0.07; }},
       {"Curve 2 (E = 60%) has numbers that are not finite",
-       [=](CurveSet& s) { s.Curves[1].C = nan; }},
+       [=](CurveSet& s) { s.curves[1].C = nan; }},
       {"Curve 1 (E = 50%) must begin above V = 0 and end at a larger volume",
-       [](CurveSet& s) { s.Curves[0].VEnd = 1; }},
+       [](CurveSet& s) { s.curves[0].VEnd = 1; }},
       {"Curve 3 (E = 170%) has an efficiency that is not between 0 and 100%",
-       [](CurveSet& s) { s.Curves[2].E = 170; }},
+       [](CurveSet& s) { s.curves[2].E = 170; }},
       {"Curve 3 (E = 60%) does not have a higher efficiency",
-       [](CurveSet& s) { s.Curves[2].E = 60; }},
-      {"Curve 3 (E = 70%) does not fall everywhere", [](CurveSet& s) { s.Curves[2].D = 0.02; }},
-      {"Curve 1 (E = 50%) goes beyond the V axis", [](CurveSet& s) { s.Curves[0].VEnd = 7.1; }},
-      {"Curve 3 (E = 70%) goes beyond the R axis", [](CurveSet& s) { s.Curves[2].A = 0.45; }},
-      {"Curve 2 (E = 60%) crosses the curve before it", [](CurveSet& s) { s.Curves[1].B = -0.09; }},
-      {"Curve 2 (E = 60%) comes too close", [](CurveSet& s) { s.Curves[1].A = 0.201; }},
-      {"label \"E=50%\" lies outside", [](CurveSet& s) { s.Labels[0].R = 0.41; }},
+       [](CurveSet& s) { s.curves[2].E = 60; }},
+      {"Curve 3 (E = 70%) does not fall everywhere", [](CurveSet& s) { s.curves[2].D = 0.02; }},
+      {"Curve 1 (E = 50%) goes beyond the V axis", [](CurveSet& s) { s.curves[0].VEnd = 7.1; }},
+      {"Curve 3 (E = 70%) goes beyond the R axis", [](CurveSet& s) { s.curves[2].A = 0.45; }},
+      {"Curve 2 (E = 60%) crosses the curve before it", [](CurveSet& s) { s.curves[1].B = -0.09; }},
+      {"Curve 2 (E = 60%) comes too close", [](CurveSet& s) { s.curves[1].A = 0.201; }},
+      {"label \"E=50%\" lies outside", [](CurveSet& s) { s.labels[0].R = 0.41; }},
   };
   for (const auto& [sentence, breakIt] : cases) {
     CurveSet set = GoodSet();
@@ -79,7 +79,7 @@ TEST(CheckCurves, NamesEachRuleThatIsBroken) {
 TEST(CheckCurves, FindsACrossingBeforeTheUpperCurveBegins) {
   // Curve 2 begins at 3 but is evaluated from 1 on, where it lies below curve 1.
   CurveSet set = GoodSet();
-  set.Curves = {Curve(50, 1, 0.3, -0.1), Curve(60, 3, 0.27, -0.05)};
+  set.curves = {Curve(50, 1, 0.3, -0.1), Curve(60, 3, 0.27, -0.05)};
   EXPECT_THAT(Check(set), ElementsAre(HasSubstr("crosses the curve before it at V = 1.00 in")));
 }
 

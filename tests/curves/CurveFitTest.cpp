@@ -28,7 +28,7 @@ std::vector<RateBand> BandsOf(Rate rate, double halfWidth) {
   return bands;
 }
 
-const FitLimits kWide{.MostError = 1, .VStart = 1, .VEnd = 7, .MostR = 9, .LeastR = 0};
+const FitLimits kWide{.mostError = 1, .VStart = 1, .VEnd = 7, .mostR = 9, .leastR = 0};
 
 TEST(FitCurve, RecoversACubicInLnV) {
   const EfficiencyCurve cubic = Cubic(0.4, -0.2, 0.05, -0.006);
@@ -62,7 +62,7 @@ TEST(FitCurve, StaysAboveItsNeighbourAlsoBeforeItsOwnStart) {
   lower.VStart = 0.5;
   FitLimits limits = kWide;
   limits.lower = &lower;
-  limits.Gap = 0.02;
+  limits.gap = 0.02;
   const auto bands = BandsOf([&](double V) { return CurveR(V, lower) + 0.021; }, 0.01);
   const auto fitted = FitCurve(bands, limits);
   ASSERT_TRUE(fitted);
@@ -76,13 +76,13 @@ TEST(FitCurve, KeepsTheLimitsOfTheAxisAndOfTheRunoff) {
   const EfficiencyCurve cubic = Cubic(0.4, -0.2, 0.05, -0.006);
   const auto bands = BandsOf([&](double V) { return CurveR(V, cubic); }, 0.02);
   FitLimits limits = kWide;
-  limits.MostR = 0.39;
-  limits.LeastR = CurveR(7, cubic) + 0.01;
+  limits.mostR = 0.39;
+  limits.leastR = CurveR(7, cubic) + 0.01;
   const auto fitted = FitCurve(bands, limits);
   ASSERT_TRUE(fitted);
   EXPECT_LE(CurveR(1, *fitted), 0.39 + 1e-9);
-  EXPECT_GE(CurveR(7, *fitted), limits.LeastR - 1e-9);
-  limits.MostR = 0.3;  // more than the bound allows
+  EXPECT_GE(CurveR(7, *fitted), limits.leastR - 1e-9);
+  limits.mostR = 0.3;  // more than the bound allows
   EXPECT_FALSE(FitCurve(bands, limits));
 }
 

@@ -24,9 +24,9 @@ PondDays SampleDays(const PondOptions& options = {}) {
 TEST(MakeCurves, MakesTenCurvesWithinTheLimitsOfError) {
   const PondDays days = SampleDays();
   const MadeCurves made = MakeCurves(days, {}, "Sampleville");
-  ASSERT_EQ(made.Set.Curves.size(), 10U);
+  ASSERT_EQ(made.set.curves.size(), 10U);
   for (std::size_t i = 0; i < 10; ++i) {
-    const EfficiencyCurve& curve = made.Set.Curves[i];
+    const EfficiencyCurve& curve = made.set.curves[i];
     EXPECT_EQ(curve.E, static_cast<float>(50 + 5 * i));
     EXPECT_EQ(curve.VEnd, 7);
     // Independently of the judging in the maker: one pond at a time, at other volumes.
@@ -39,7 +39,7 @@ TEST(MakeCurves, MakesTenCurvesWithinTheLimitsOfError) {
       ++count;
     }
     EXPECT_LE(sum / count, 0.6) << curve.E;
-    EXPECT_NEAR(sum / count, made.Errors[i].Mean, 0.02) << curve.E;
+    EXPECT_NEAR(sum / count, made.errors[i].mean, 0.02) << curve.E;
   }
 }
 
@@ -62,13 +62,13 @@ bool CanBeginAt(const PondDays& days, double VStart, double E, const EfficiencyC
     bands.push_back({V, RateFor(days, V, E - 1), RateFor(days, V, E), RateFor(days, V, E + 1)});
   }
   const double asymptote = days.MeanRunoff() / 100;
-  return FitCurve(bands, {.MostError = 1,
+  return FitCurve(bands, {.mostError = 1,
                           .VStart = VStart,
                           .VEnd = 7,
-                          .MostR = 0.4,
-                          .LeastR = asymptote * E * 1.001,
+                          .mostR = 0.4,
+                          .leastR = asymptote * E * 1.001,
                           .lower = lower,
-                          .Gap = 2.5 * asymptote})
+                          .gap = 2.5 * asymptote})
       .has_value();
 }
 
@@ -78,7 +78,7 @@ TEST(MakeCurves, NoCurveCouldBeginMuchSmaller) {
   const PondDays days = SampleDays();
   const MadeCurves made = MakeCurves(days, {}, "x");
   const EfficiencyCurve* lower = nullptr;
-  for (const EfficiencyCurve& curve : made.Set.Curves) {
+  for (const EfficiencyCurve& curve : made.set.curves) {
     const auto E = static_cast<double>(curve.E);
     EXPECT_FALSE(CanBeginAt(days, curve.VStart - 0.1, E, lower)) << E;
     EXPECT_TRUE(CanBeginAt(days, curve.VStart + 0.1, E, lower)) << E;
@@ -88,33 +88,33 @@ TEST(MakeCurves, NoCurveCouldBeginMuchSmaller) {
 
 TEST(MakeCurves, StartsDoNotFallFromCurveToCurve) {
   const MadeCurves made = MakeCurves(SampleDays(), {}, "x");
-  for (std::size_t i = 1; i < made.Set.Curves.size(); ++i) {
-    EXPECT_GE(made.Set.Curves[i].VStart, made.Set.Curves[i - 1].VStart);
+  for (std::size_t i = 1; i < made.set.curves.size(); ++i) {
+    EXPECT_GE(made.set.curves[i].VStart, made.set.curves[i - 1].VStart);
   }
 }
 
 TEST(MakeCurves, TheSetPassesAllChecks) {
   const PondDays days = SampleDays();
   const MadeCurves made = MakeCurves(days, {}, "x");
-  EXPECT_THAT(CheckCurves(made.Set, days.MeanRunoff()), testing::IsEmpty());
+  EXPECT_THAT(CheckCurves(made.set, days.MeanRunoff()), testing::IsEmpty());
 }
 
 TEST(MakeCurves, GivesTheSameBytesEveryTime) {
   const PondDays days = SampleDays();
-  EXPECT_EQ(CurveFileText(MakeCurves(days, {}, "x").Set),
-            CurveFileText(MakeCurves(days, {}, "x").Set));
+  EXPECT_EQ(CurveFileText(MakeCurves(days, {}, "x").set),
+            CurveFileText(MakeCurves(days, {}, "x").set));
 }
 
 TEST(MakeCurves, WorksOnOtherAxesAndWithHoldOffAndAbstraction) {
   const ChartAxes wide{.VMax = 10, .VInterval = 2, .RMax = 0.8, .RInterval = 0.1};
   for (const PondOptions& options :
-       {PondOptions{}, PondOptions{.HoldOffDays = 1}, PondOptions{.AbstractionIn = 0.1}}) {
+       {PondOptions{}, PondOptions{.holdOffDays = 1}, PondOptions{.abstractionIn = 0.1}}) {
     const PondDays days = SampleDays(options);
     const MadeCurves made = MakeCurves(days, wide, "x");
-    EXPECT_EQ(made.Set.RMax, 0.8);
-    for (const CurveError& error : made.Errors) {
-      EXPECT_LE(error.Max, kMostError);
-      EXPECT_LE(error.Mean, kMostMeanError);
+    EXPECT_EQ(made.set.RMax, 0.8);
+    for (const CurveError& error : made.errors) {
+      EXPECT_LE(error.max, kMostError);
+      EXPECT_LE(error.mean, kMostMeanError);
     }
   }
 }
@@ -166,7 +166,7 @@ TEST(MakeCurves, ARefusalDoesNotContradictTheAxis) {
 
 TEST(MakeCurves, UnderConstantRainEveryCurveIsItsShareOfTheRain) {
   const MadeCurves made = MakeCurves(BuildPondDays(test::ConstantRain(0.2, 6), {}), {}, "x");
-  for (const EfficiencyCurve& curve : made.Set.Curves) {
+  for (const EfficiencyCurve& curve : made.set.curves) {
     const double share = 0.002 * static_cast<double>(curve.E);
     for (const double R : curve.R) EXPECT_NEAR(R, share, 0.002) << curve.E;
   }

@@ -33,8 +33,8 @@ CurveSet ReadStation(std::int16_t station) {
 TEST(ShippedCurves, AllStationsHaveTenCurvesThatPassTheChecks) {
   for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
     const CurveSet set = ReadStation(i);
-    EXPECT_EQ(set.Curves.size(), 10U);
-    EXPECT_EQ(set.Labels.size(), 10U);
+    EXPECT_EQ(set.curves.size(), 10U);
+    EXPECT_EQ(set.labels.size(), 10U);
     EXPECT_EQ(set.VMax, 7);
     EXPECT_EQ(set.RMax, 0.4);
     EXPECT_THAT(CheckCurves(set, std::nullopt), testing::IsEmpty()) << ClimateStationName(i);
@@ -43,12 +43,12 @@ TEST(ShippedCurves, AllStationsHaveTenCurvesThatPassTheChecks) {
 
 TEST(ShippedCurves, TitlesNameTheStationItsSourceAndThatWeComputedIt) {
   for (std::int16_t i = 1; i <= NumRainfallStations(); ++i) {
-    const std::string title = ReadStation(i).Title;
+    const std::string title = ReadStation(i).title;
     EXPECT_THAT(title, testing::StartsWith(std::string(ClimateStationName(i)) +
                                            " - computed by ORVIK from NOAA daily rainfall " +
-                                           std::string(SourceOfStation(i).NoaaNumber)));
+                                           std::string(SourceOfStation(i).noaaNumber)));
   }
-  EXPECT_THAT(ReadStation(6).Title, testing::HasSubstr("085539 (record of Mayo), 1949-2021, 62 "));
+  EXPECT_THAT(ReadStation(6).title, testing::HasSubstr("085539 (record of Mayo), 1949-2021, 62 "));
 }
 
 TEST(ShippedCurves, LinesEndWithCrLf) {

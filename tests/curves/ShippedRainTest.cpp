@@ -50,10 +50,10 @@ TEST(ShippedRain, EveryStationHasARecord) {
 TEST(ShippedRain, MatchesTheTableOfChecksums) {
   for (const RecordSum& sum : ReadTable()) {
     const RainRecord record = ReadRainRecord(kRainFolder + sum.file, RainUnit::Inches);
-    EXPECT_EQ(record.Findings.Rows, sum.rows) << sum.file;
-    EXPECT_EQ(record.Days.size(), static_cast<std::size_t>(sum.values)) << sum.file;
+    EXPECT_EQ(record.findings.rows, sum.rows) << sum.file;
+    EXPECT_EQ(record.days.size(), static_cast<std::size_t>(sum.values)) << sum.file;
     long hundredths = 0;
-    for (const RainDay& day : record.Days) hundredths += std::lround(day.DepthIn * 100);
+    for (const RainDay& day : record.days) hundredths += std::lround(day.depthIn * 100);
     EXPECT_EQ(hundredths, sum.hundredths) << sum.file;
   }
 }

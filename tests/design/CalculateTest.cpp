@@ -29,7 +29,7 @@ FramedCurves Curves() {
   CurveSet set;
   set.VMax = 7;
   set.RMax = 0.4;
-  set.Curves = {Curve(50, 0.15, 1), Curve(70, 0.20, 1.5), Curve(90, 0.25, 2)};
+  set.curves = {Curve(50, 0.15, 1), Curve(70, 0.20, 1.5), Curve(90, 0.25, 2)};
   const PlotGeometry geometry = ReferenceGeometry(set);
   return {std::make_shared<const CurveSet>(std::move(set)), geometry};
 }

@@ -25,25 +25,25 @@ bool Read(std::string_view text, CurveSet& set) {
 TEST(ReadCurveFile, ReadsEveryValueInItsPlace) {
   CurveSet set;
   ASSERT_TRUE(Read(LogarithmicCurves().Text(), set));
-  EXPECT_EQ(set.Title, "Test station");
+  EXPECT_EQ(set.title, "Test station");
   EXPECT_EQ(set.VMin, 0);
   EXPECT_EQ(set.VMax, 7);
   EXPECT_EQ(set.VInterval, 1);
   EXPECT_EQ(set.RMin, 0);
   EXPECT_EQ(set.RMax, 0.4);
   EXPECT_EQ(set.RInterval, 0.1);
-  ASSERT_EQ(set.Curves.size(), 3U);
-  EXPECT_EQ(set.Curves[1].E, 70.0F);
-  EXPECT_EQ(set.Curves[1].VStart, 1.5);
-  EXPECT_EQ(set.Curves[1].VEnd, 7);
-  EXPECT_EQ(set.Curves[1].A, 0.20);
-  EXPECT_EQ(set.Curves[1].B, -0.05);
-  EXPECT_EQ(set.Curves[1].NumPoints, 100);
-  ASSERT_EQ(set.Labels.size(), 2U);
-  EXPECT_EQ(set.Labels[0].Text, "E=50%");
-  EXPECT_EQ(set.Labels[0].V, 2.5);
-  EXPECT_EQ(set.Labels[0].R, 0.12);
-  EXPECT_EQ(set.Labels[1].R, 0.2);  // the blank behind its comma does not matter
+  ASSERT_EQ(set.curves.size(), 3U);
+  EXPECT_EQ(set.curves[1].E, 70.0F);
+  EXPECT_EQ(set.curves[1].VStart, 1.5);
+  EXPECT_EQ(set.curves[1].VEnd, 7);
+  EXPECT_EQ(set.curves[1].A, 0.20);
+  EXPECT_EQ(set.curves[1].B, -0.05);
+  EXPECT_EQ(set.curves[1].NumPoints, 100);
+  ASSERT_EQ(set.labels.size(), 2U);
+  EXPECT_EQ(set.labels[0].Text, "E=50%");
+  EXPECT_EQ(set.labels[0].V, 2.5);
+  EXPECT_EQ(set.labels[0].R, 0.12);
+  EXPECT_EQ(set.labels[1].R, 0.2);  // the blank behind its comma does not matter
 }
 
 TEST(ReadCurveFile, ReadsEAndTheCountsAsFields) {
@@ -53,9 +53,9 @@ TEST(ReadCurveFile, ReadsEAndTheCountsAsFields) {
                "\r\n3 50,");  // count, first E and the next line on one line
   CurveSet set;
   ASSERT_TRUE(Read(text, set));
-  EXPECT_EQ(set.Curves.size(), 3U);
-  EXPECT_EQ(set.Curves[0].E, 50.0F);
-  EXPECT_EQ(set.Curves[0].VStart, 1);
+  EXPECT_EQ(set.curves.size(), 3U);
+  EXPECT_EQ(set.curves[0].E, 50.0F);
+  EXPECT_EQ(set.curves[0].VStart, 1);
 }
 
 TEST(ReadCurveFile, ReadsLettersAsZero) {
@@ -65,7 +65,7 @@ TEST(ReadCurveFile, ReadsLettersAsZero) {
   CurveSet set;
   ASSERT_TRUE(Read(file.Text(), set));
   EXPECT_EQ(set.VInterval, 0);
-  EXPECT_EQ(set.Curves[0].C, 0);
+  EXPECT_EQ(set.curves[0].C, 0);
 }
 
 TEST(ReadCurveFile, TakesTheNumericPrefixOfALine) {
@@ -84,7 +84,7 @@ TEST(ReadCurveFile, HasNoLabelsWhereTheCountIsZeroOrLess) {
     text.replace(text.rfind("0\r\n"), 1, count);
     CurveSet set;
     ASSERT_TRUE(Read(text, set)) << count;
-    EXPECT_TRUE(set.Labels.empty()) << count;
+    EXPECT_TRUE(set.labels.empty()) << count;
   }
 }
 

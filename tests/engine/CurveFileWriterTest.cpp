@@ -14,7 +14,7 @@ namespace {
 
 CurveSet SampleSet() {
   CurveSet set;
-  set.Title = "Sampleville - computed, \"quoted\", 2001-2010";
+  set.title = "Sampleville - computed, \"quoted\", 2001-2010";
   set.VMax = 7;
   set.VInterval = 1;
   set.RMax = 0.4;
@@ -27,17 +27,17 @@ CurveSet SampleSet() {
   curve.B = -0.059849;
   curve.C = 0.039198;
   curve.D = -0.00883;
-  set.Curves.push_back(curve);
+  set.curves.push_back(curve);
   curve.E = 52.5F;
   curve.A = 2;
-  set.Curves.push_back(curve);
-  set.Labels.push_back({"E=50%", 2.3125, 0.0838});
+  set.curves.push_back(curve);
+  set.labels.push_back({"E=50%", 2.3125, 0.0838});
   return set;
 }
 
 TEST(CurveFileText, HasOneValueOnEachLine) {
   CurveSet set = SampleSet();
-  set.Curves.pop_back();
+  set.curves.pop_back();
   EXPECT_EQ(CurveFileText(set),
             "Sampleville - computed, \"quoted\", 2001-2010\r\n"
             "0\r\n7\r\n1\r\n0\r\n0.4\r\n0.05\r\n"
@@ -54,27 +54,27 @@ TEST(CurveFileText, ReadsBackToTheSameNumbers) {
   stream.OpenFile(folder.Write("a.crv", CurveFileText(set)), enumIOStreamMode::AsciiFileInput);
   CurveSet read;
   ASSERT_TRUE(ReadCurveFile(stream, read));
-  EXPECT_EQ(read.Title, set.Title);
+  EXPECT_EQ(read.title, set.title);
   EXPECT_EQ(read.VMin, set.VMin);
   EXPECT_EQ(read.VMax, set.VMax);
   EXPECT_EQ(read.VInterval, set.VInterval);
   EXPECT_EQ(read.RMin, set.RMin);
   EXPECT_EQ(read.RMax, set.RMax);
   EXPECT_EQ(read.RInterval, set.RInterval);
-  ASSERT_EQ(read.Curves.size(), set.Curves.size());
-  for (std::size_t i = 0; i < set.Curves.size(); ++i) {
-    EXPECT_EQ(read.Curves[i].E, set.Curves[i].E);
-    EXPECT_EQ(read.Curves[i].VStart, set.Curves[i].VStart);
-    EXPECT_EQ(read.Curves[i].VEnd, set.Curves[i].VEnd);
-    EXPECT_EQ(read.Curves[i].A, set.Curves[i].A);
-    EXPECT_EQ(read.Curves[i].B, set.Curves[i].B);
-    EXPECT_EQ(read.Curves[i].C, set.Curves[i].C);
-    EXPECT_EQ(read.Curves[i].D, set.Curves[i].D);
+  ASSERT_EQ(read.curves.size(), set.curves.size());
+  for (std::size_t i = 0; i < set.curves.size(); ++i) {
+    EXPECT_EQ(read.curves[i].E, set.curves[i].E);
+    EXPECT_EQ(read.curves[i].VStart, set.curves[i].VStart);
+    EXPECT_EQ(read.curves[i].VEnd, set.curves[i].VEnd);
+    EXPECT_EQ(read.curves[i].A, set.curves[i].A);
+    EXPECT_EQ(read.curves[i].B, set.curves[i].B);
+    EXPECT_EQ(read.curves[i].C, set.curves[i].C);
+    EXPECT_EQ(read.curves[i].D, set.curves[i].D);
   }
-  ASSERT_EQ(read.Labels.size(), 1U);
-  EXPECT_EQ(read.Labels[0].Text, "E=50%");
-  EXPECT_EQ(read.Labels[0].V, 2.3125);
-  EXPECT_EQ(read.Labels[0].R, 0.0838);
+  ASSERT_EQ(read.labels.size(), 1U);
+  EXPECT_EQ(read.labels[0].Text, "E=50%");
+  EXPECT_EQ(read.labels[0].V, 2.3125);
+  EXPECT_EQ(read.labels[0].R, 0.0838);
 }
 
 TEST(RoundCoefficient, IsWhatTheTextReadsBackAs) {
@@ -84,7 +84,7 @@ TEST(RoundCoefficient, IsWhatTheTextReadsBackAs) {
 
 TEST(CurveFileText, NeverWritesANumberThatIsNotFinite) {
   CurveSet set = SampleSet();
-  set.Curves[0].B = std::numeric_limits<double>::quiet_NaN();
+  set.curves[0].B = std::numeric_limits<double>::quiet_NaN();
   EXPECT_THROW(CurveFileText(set), OverflowError);
 }
 

@@ -29,15 +29,15 @@ using Pixels = std::vector<std::int16_t>;
 TEST(FindPolygon, GoesAlongTheFirstCurveAndBackAlongTheSecond) {
   const auto polygon = FindPolygonInPlotCoordinates(Through({0, 10}, {0, 0}),
                                                     Through({0, 10}, {5, 5}), UnitMapping());
-  EXPECT_EQ(polygon.X, (Pixels{0, 10, 10, 0, 0}));
-  EXPECT_EQ(polygon.Y, (Pixels{0, 0, -5, -5, 0}));
+  EXPECT_EQ(polygon.x, (Pixels{0, 10, 10, 0, 0}));
+  EXPECT_EQ(polygon.y, (Pixels{0, 0, -5, -5, 0}));
 }
 
 TEST(FindPolygon, LeavesOutAPointOnThePixelOfTheOneBefore) {
   const auto polygon = FindPolygonInPlotCoordinates(Through({0, 0.2, 10}, {0, 0.3, 0}),
                                                     Through({10}, {5}), UnitMapping());
-  EXPECT_EQ(polygon.X, (Pixels{0, 10, 10, 0}));
-  EXPECT_EQ(polygon.Y, (Pixels{0, 0, -5, 0}));
+  EXPECT_EQ(polygon.x, (Pixels{0, 10, 10, 0}));
+  EXPECT_EQ(polygon.y, (Pixels{0, 0, -5, 0}));
 }
 
 TEST(FindPolygon, IsEmptyWhereACurveHasNoPoints) {
@@ -50,8 +50,8 @@ TEST(FindPolygon, IsEmptyWhereACurveHasNoPoints) {
 TEST(FindPolygon, LeavesASinglePixelUnclosed) {
   const auto polygon =
       FindPolygonInPlotCoordinates(Through({3}, {4}), Through({3}, {4}), UnitMapping());
-  EXPECT_EQ(polygon.X, (Pixels{3}));
-  EXPECT_EQ(polygon.Y, (Pixels{-4}));
+  EXPECT_EQ(polygon.x, (Pixels{3}));
+  EXPECT_EQ(polygon.y, (Pixels{-4}));
 }
 
 const FramePolygon kSquare{{0, 10, 10, 0, 0}, {0, 0, 10, 10, 0}};
@@ -103,10 +103,10 @@ TEST(IsPointInsidePolygon, AgreesWithTheWindingNumberOnARandomPolygon) {
     for (int y = 3; y < 100; y += 7) {
       double angle = 0;
       for (std::size_t k = 0; k + 1 < polygon.Count(); ++k) {
-        const double ax = polygon.X[k] - x;
-        const double ay = polygon.Y[k] - y;
-        const double bx = polygon.X[k + 1] - x;
-        const double by = polygon.Y[k + 1] - y;
+        const double ax = polygon.x[k] - x;
+        const double ay = polygon.y[k] - y;
+        const double bx = polygon.x[k + 1] - x;
+        const double by = polygon.y[k + 1] - y;
         angle += std::atan2(ax * by - ay * bx, ax * bx + ay * by);
       }
       const bool wound = std::fabs(angle) > 3;

@@ -22,7 +22,7 @@ EfficiencyCurve Logarithmic(float E, double A, double VStart, double VEnd = 7) {
 
 CurveSet ThreeCurves() {
   CurveSet set;
-  set.Curves = {Logarithmic(50, 0.15, 1), Logarithmic(70, 0.20, 1.5), Logarithmic(90, 0.25, 2)};
+  set.curves = {Logarithmic(50, 0.15, 1), Logarithmic(70, 0.20, 1.5), Logarithmic(90, 0.25, 2)};
   return set;
 }
 
@@ -31,9 +31,9 @@ TEST(ExtractCurve, TakesAStoredCurveUnchanged) {
   const auto curve = ExtractCurve(set, 70);
   ASSERT_TRUE(curve);
   EXPECT_EQ(curve->E, 70.0F);
-  EXPECT_EQ(curve->A, set.Curves[1].A);
-  EXPECT_EQ(curve->VStart, set.Curves[1].VStart);
-  EXPECT_EQ(curve->VEnd, set.Curves[1].VEnd);
+  EXPECT_EQ(curve->A, set.curves[1].A);
+  EXPECT_EQ(curve->VStart, set.curves[1].VStart);
+  EXPECT_EQ(curve->VEnd, set.curves[1].VEnd);
 }
 
 TEST(ExtractCurve, ComparesInSinglePrecision) {
@@ -65,7 +65,7 @@ CurveSet TwoDifferentCurves() {
   B.C = 0.75;
   B.D = -1;
   CurveSet set;
-  set.Curves = {A, B};
+  set.curves = {A, B};
   return set;
 }
 
@@ -174,8 +174,8 @@ TEST(FindEBetweenCurves, TakesTheCurveItselfWithinTheTolerance) {
 TEST(FindEBetweenCurves, InterpolatesEveryCoefficient) {
   // At one V every coefficient moves R in proportion to E, so E = 50 + 20 (R - R50) / (R70 - R50).
   const CurveSet set = TwoDifferentCurves();
-  const EfficiencyCurve& A = set.Curves[0];
-  const EfficiencyCurve& B = set.Curves[1];
+  const EfficiencyCurve& A = set.curves[0];
+  const EfficiencyCurve& B = set.curves[1];
   const double V = 3;
   const double lower = CurveR(V, A);
   const double upper = CurveR(V, B);

@@ -18,63 +18,63 @@ TEST(LayoutFrame, IsLimitedByTheHeightInAWideControl) {
   // 960 x 640 leaves 920 x 600. Frame height 600 x 0.4 / 0.4301 = 558.01, width 744.02, free width
   // 175.98.
   const FrameLayout layout = Layout(960, 640);
-  EXPECT_EQ(layout.Frame.Left, 108);    // 20 + 87.99
-  EXPECT_EQ(layout.Frame.Right, 852);   // 107.99 + 744.02
-  EXPECT_EQ(layout.Frame.Top, 34);      // 20 + 600 x 0.0101 / 0.4301 = 34.09
-  EXPECT_EQ(layout.Frame.Bottom, 592);  // 34.09 + 558.01
+  EXPECT_EQ(layout.frame.Left, 108);    // 20 + 87.99
+  EXPECT_EQ(layout.frame.Right, 852);   // 107.99 + 744.02
+  EXPECT_EQ(layout.frame.Top, 34);      // 20 + 600 x 0.0101 / 0.4301 = 34.09
+  EXPECT_EQ(layout.frame.Bottom, 592);  // 34.09 + 558.01
 }
 
 TEST(LayoutFrame, LabelsHaveTheHeightThatCurveSetsPlaceThemFor) {
-  EXPECT_EQ(LayoutHeights().Label, 0.008F);
+  EXPECT_EQ(LayoutHeights().label, 0.008F);
   EXPECT_EQ(kLabelHeight, 0.008);
 }
 
 TEST(LayoutFrame, CountsTheBandAboveWithItsOwnFactor) {
   // 2250 x 1500 leaves 2210 x 1460. Frame height 1460 x 0.4 / 0.4301 = 1357.82, width 1810.43; the
   // top is 20 + 1460 x 0.0101 / 0.4301 = 54.29 (a factor of 1.02 would give 54.62).
-  EXPECT_EQ(Layout(2250, 1500).Frame, (clsRectangle_Integer{220, 2030, 54, 1412}));
+  EXPECT_EQ(Layout(2250, 1500).frame, (clsRectangle_Integer{220, 2030, 54, 1412}));
 }
 
 TEST(LayoutFrame, IsLimitedByTheWidthInATallControl) {
   // 340 x 640 leaves 300 x 600. Frame 300 x 225; bands 225 x 0.0101 / 0.4 = 5.68 above and 11.25
   // below; free height 358.07.
   const FrameLayout layout = Layout(340, 640);
-  EXPECT_EQ(layout.Frame.Left, 20);
-  EXPECT_EQ(layout.Frame.Right, 320);
-  EXPECT_EQ(layout.Frame.Top, 205);     // 20 + 179.03 + 5.68 = 204.72
-  EXPECT_EQ(layout.Frame.Bottom, 430);  // + 225 = 429.72
+  EXPECT_EQ(layout.frame.Left, 20);
+  EXPECT_EQ(layout.frame.Right, 320);
+  EXPECT_EQ(layout.frame.Top, 205);     // 20 + 179.03 + 5.68 = 204.72
+  EXPECT_EQ(layout.frame.Bottom, 430);  // + 225 = 429.72
 }
 
 TEST(LayoutFrame, BandsShareTheFramesColumnsOrRows) {
   const FrameLayout layout = Layout(960, 640);
-  for (const auto& band : {layout.Title, layout.HorizontalAxis}) {
-    EXPECT_EQ(band.Left, layout.Frame.Left);
-    EXPECT_EQ(band.Right, layout.Frame.Right);
+  for (const auto& band : {layout.title, layout.horizontalAxis}) {
+    EXPECT_EQ(band.Left, layout.frame.Left);
+    EXPECT_EQ(band.Right, layout.frame.Right);
   }
-  EXPECT_EQ(layout.Title.Bottom, layout.Frame.Top);
-  EXPECT_EQ(layout.HorizontalAxis.Bottom, 620);  // the bands fill the usable height
-  EXPECT_EQ(layout.VerticalAxis.Top, layout.Frame.Top);
-  EXPECT_EQ(layout.VerticalAxis.Bottom, layout.Frame.Bottom);
+  EXPECT_EQ(layout.title.Bottom, layout.frame.Top);
+  EXPECT_EQ(layout.horizontalAxis.Bottom, 620);  // the bands fill the usable height
+  EXPECT_EQ(layout.verticalAxis.Top, layout.frame.Top);
+  EXPECT_EQ(layout.verticalAxis.Bottom, layout.frame.Bottom);
 }
 
 // 558.01 pixels for 0.4 in/day: a title is 13.95 pixels high, a label 11.16.
 TEST(LayoutFrame, BandsBeginOffTheFrame) {
   const FrameLayout layout = Layout(960, 640);
-  EXPECT_EQ(layout.Title.Top, 17);            // a quarter of a title above the usable 20: 16.51
-  EXPECT_EQ(layout.HorizontalAxis.Top, 593);  // the row under the frame's line
-  EXPECT_EQ(layout.VerticalAxis.Right, 104);  // 0.4 of a label off column 108: 103.5, to even
+  EXPECT_EQ(layout.title.Top, 17);            // a quarter of a title above the usable 20: 16.51
+  EXPECT_EQ(layout.horizontalAxis.Top, 593);  // the row under the frame's line
+  EXPECT_EQ(layout.verticalAxis.Right, 104);  // 0.4 of a label off column 108: 103.5, to even
 }
 
 TEST(LayoutFrame, BandsStayWhereTheFrameLeavesNoRoom) {
   const FrameLayout layout = Layout(340, 640);
-  EXPECT_EQ(layout.Frame.Left, 20);
-  EXPECT_LE(layout.VerticalAxis.Left, layout.VerticalAxis.Right);
+  EXPECT_EQ(layout.frame.Left, 20);
+  EXPECT_LE(layout.verticalAxis.Left, layout.verticalAxis.Right);
 }
 
 TEST(LayoutFrame, KeepsFourToThreeAndTheMarginsAtEverySize) {
   for (int width = 120; width <= 3840; width += 93) {
     for (int height = 90; height <= 2160; height += 71) {
-      const clsRectangle_Integer frame = Layout(width, height).Frame;
+      const clsRectangle_Integer frame = Layout(width, height).frame;
       const double frameWidth = frame.Right - frame.Left;
       const double frameHeight = frame.Bottom - frame.Top;
       EXPECT_NEAR(frameWidth, frameHeight * 4 / 3, 2) << width << " x " << height;
@@ -89,7 +89,7 @@ TEST(LayoutFrame, KeepsFourToThreeAndTheMarginsAtEverySize) {
 
 TEST(LayoutFrame, ATinyControlGetsATinyFrame) {
   for (const int size : {-5, 0, 1, 40}) {
-    const clsRectangle_Integer frame = Layout(size, size).Frame;
+    const clsRectangle_Integer frame = Layout(size, size).frame;
     EXPECT_LE(frame.Right - frame.Left, 1) << size;
     EXPECT_GE(frame.Right, frame.Left) << size;
     EXPECT_GE(frame.Bottom, frame.Top) << size;

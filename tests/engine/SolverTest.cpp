@@ -30,7 +30,7 @@ CurveSet Set() {
   set.VInterval = 1;
   set.RMax = 0.4;
   set.RInterval = 0.1;
-  set.Curves = {Curve(50, 0.15, 1), Curve(70, 0.20, 1.5), Curve(90, 0.25, 2)};
+  set.curves = {Curve(50, 0.15, 1), Curve(70, 0.20, 1.5), Curve(90, 0.25, 2)};
   return set;
 }
 
@@ -97,7 +97,7 @@ TEST_F(SolverTest, AValueOnALimitPasses) {
 
 TEST_F(SolverTest, VolumesBeyondTheEndOfACurveThatEndsEarlyAreRefused) {
   CurveSet set = Set();
-  set.Curves[1].VEnd = 5;
+  set.curves[1].VEnd = 5;
   const FramedCurves curves = Framed(std::move(set));
   EXPECT_EQ(Solver(&curves).FindR(70, 5.5).outcome, (Outcome{VolumeAboveCurve, 5}));
 }
@@ -110,7 +110,7 @@ TEST_F(SolverTest, APointOutsideTheCurvesIsBetweenNoTwo) {
 
 TEST_F(SolverTest, OneCurveHasNoRegions) {
   CurveSet set = Set();
-  set.Curves.resize(1);
+  set.curves.resize(1);
   const FramedCurves curves = Framed(std::move(set));
   EXPECT_EQ(Solver(&curves).FindE(0.1, 3).outcome.kind, PointOffCurves);
   EXPECT_TRUE(Solver(&curves).FindR(50, 3).outcome.IsSolved());
@@ -127,7 +127,7 @@ TEST(Solver, WithoutCurvesNothingIsSolved) {
 // Curves 2 and 3 leave the 16-bit pixels; whoever asks between curves 1 and 2 never meets them.
 TEST(Solver, OnlyAQuestionThatNeedsTheUnusableCurvesIsAFault) {
   CurveSet set = Set();
-  set.Curves.push_back(Curve(95, 1e6, 2));
+  set.curves.push_back(Curve(95, 1e6, 2));
   const FramedCurves curves = Framed(std::move(set));
   EXPECT_TRUE(Solver(&curves).FindE(0.125, 3).outcome.IsSolved());
   EXPECT_THROW(Solver(&curves).FindE(0.39, 0.5), OverflowError);
@@ -135,7 +135,7 @@ TEST(Solver, OnlyAQuestionThatNeedsTheUnusableCurvesIsAFault) {
 
 TEST(Solver, CurvesThatMeetAreAFault) {
   CurveSet set = Set();
-  set.Curves[1].E = 50;  // two curves of the same E
+  set.curves[1].E = 50;  // two curves of the same E
   const FramedCurves curves = Framed(std::move(set));
   EXPECT_THROW(Solver(&curves).FindE(0.125, 3), DivisionByZeroError);
 }
@@ -143,7 +143,7 @@ TEST(Solver, CurvesThatMeetAreAFault) {
 // The extents of a region only spare work: every pixel gets the answer of the crossing test alone.
 TEST(FramedCurves, AnswersForEveryPixelAsThePolygonDoes) {
   const FramedCurves curves = Framed(Set());
-  const auto& all = curves.Curves().Curves;
+  const auto& all = curves.Curves().curves;
   for (std::size_t i = 0; i + 1 < all.size(); ++i) {
     const FramePolygon polygon =
         FindPolygonInPlotCoordinates(all[i], all[i + 1], curves.Geometry());

@@ -41,7 +41,7 @@ double Root(const std::function<double(double)>& f, double low, double high) {
 // The neighbour pair that holds E.
 std::size_t PairOf(const CurveSet& set, double E) {
   std::size_t i = 0;
-  while (i + 2 < set.Curves.size() && E > set.Curves[i + 1].E) ++i;
+  while (i + 2 < set.curves.size() && E > set.curves[i + 1].E) ++i;
   return i;
 }
 
@@ -53,13 +53,13 @@ class SolvingByBoost : public testing::TestWithParam<int> {
   }
 
   Line At(double E) const {
-    const auto& curves = chart_.Curves().Curves;
+    const auto& curves = chart_.Curves().curves;
     const std::size_t i = PairOf(chart_.Curves(), E);
     return Mix(curves[i], curves[i + 1], E);
   }
 
-  double LowestE() const { return chart_.Curves().Curves.front().E; }
-  double HighestE() const { return chart_.Curves().Curves.back().E; }
+  double LowestE() const { return chart_.Curves().curves.front().E; }
+  double HighestE() const { return chart_.Curves().curves.back().E; }
 
   HeadlessDesktop desktop_;
   ctrlStormwaterReuse chart_{ORVIK_DATA_DIR};
@@ -112,7 +112,7 @@ TEST_P(SolvingByBoost, EfficiencyAgreesToTheRatesTolerance) {
   int nextDoor = 0;
   const double pixelV = chart_.Geometry().XFrameToXPlot(101) - chart_.Geometry().XFrameToXPlot(100);
   const double pixelR = chart_.Geometry().YFrameToYPlot(100) - chart_.Geometry().YFrameToYPlot(101);
-  const auto& curves = chart_.Curves().Curves;
+  const auto& curves = chart_.Curves().curves;
   for (std::size_t i = 0; i + 1 < curves.size(); ++i) {
     const int solvedBefore = solved;
     for (double V = curves[i + 1].VStart; V <= 7; V += 0.0917) {

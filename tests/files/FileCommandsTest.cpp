@@ -64,7 +64,7 @@ TEST_F(FileMenu, AForeignFileShowsTwoErrors) {
 }
 
 TEST_F(FileMenu, AnotherVersionShowsTwoErrors) {
-  Open(folder_.Write("new.kav", "KAV3.3.02\r\n"));
+  Open(folder_.Write("new.kav", "KAV3.3.99\r\n"));
   ASSERT_EQ(desktop_.Messages().size(), 2U);
   EXPECT_EQ(desktop_.Messages()[0].text, "Invalid file version.");
   EXPECT_EQ(desktop_.Messages()[1].text, "Error reading data file.");

@@ -32,6 +32,11 @@ class ProjectFileTest : public FormFixture {
     EXPECT_EQ(desktop_.Messages().front(),
               (HeadlessDesktop::Message{text, "Error", MessageIcon::Exclamation}));
   }
+
+  // Reads and writes the same form as the window's own commands do.
+  FormBinding binding_{form_->Fields(), form_->Chart()};
+  SolveForWorkflow workflow_{form_->Fields(), form_->Chart(), binding_};
+  ProjectFile file_{form_->Fields(), form_->Chart(), binding_, workflow_, desktop_};
 };
 
 // --- Writing ---
@@ -85,7 +90,7 @@ TEST_F(ProjectFileTest, ALineEndInsideAValueBecomesABlank) {
 
 TEST_F(ProjectFileTest, AStreamThatIsNotOpenForOutputIsAFailure) {
   clsIOStream closed;
-  EXPECT_FALSE(form_->File().SaveDataInBuffer(closed));
+  EXPECT_FALSE(file_.SaveDataInBuffer(closed));
 }
 
 // --- Reading ---
@@ -146,7 +151,7 @@ TEST_F(ProjectFileTest, TheInteractiveModeWithoutATailFailsWithoutAMessageOfItsO
   lines[kModeLine] = "0";
   clsIOStream stream;
   stream.OpenFile(ProjectText(lines), enumIOStreamMode::AsciiBufferInput);
-  EXPECT_FALSE(form_->File().ReadDataFromBuffer(stream));
+  EXPECT_FALSE(file_.ReadDataFromBuffer(stream));
   EXPECT_TRUE(desktop_.Messages().empty());
   EXPECT_EQ(Text("txtIrrigationArea"), "5") << "fields before the fault keep their values";
 }
@@ -224,7 +229,7 @@ TEST_F(ProjectFileTest, ClearDataEmptiesTheChartsOutcomeAlsoWithoutAStation) {
   std::string E;
   EXPECT_FALSE(form_->Chart().SetHotspotUsing_RV("1", "1", E));
   EXPECT_NE(form_->Chart().ErrMsg(), "");
-  form_->File().ClearData();
+  file_.ClearData();
   EXPECT_EQ(form_->Chart().ErrMsg(), "");
   EXPECT_EQ(form_->Chart().HelpTopicIndex(), 0);
 }

@@ -15,39 +15,39 @@ using test::IrregularRain;
 // Days without a warm-up.
 PondDays PlainDays(std::vector<double> runoff) {
   PondDays days;
-  days.UseShare.assign(runoff.size(), 1.0);
-  for (const double depth : runoff) days.TotalRunoff += depth;
-  days.Runoff = std::move(runoff);
+  days.useShare.assign(runoff.size(), 1.0);
+  for (const double depth : runoff) days.totalRunoff += depth;
+  days.runoff = std::move(runoff);
   return days;
 }
 
 TEST(SimulatePond, FollowsAHandCalculationDayByDay) {
   // V = 1, R = 0.25. Storage after: 0.25, 0 (only 0.25 there), 0.75 (1 spilled), 0.5, 0.25.
   const PondBalance balance = SimulatePond(PlainDays({0.5, 0, 2, 0, 0}), {1, 0.25});
-  EXPECT_DOUBLE_EQ(balance.Runoff, 2.5);
-  EXPECT_DOUBLE_EQ(balance.Used, 1.25);
-  EXPECT_DOUBLE_EQ(balance.Spilled, 1.0);
-  EXPECT_DOUBLE_EQ(balance.StorageBefore, 0);
-  EXPECT_DOUBLE_EQ(balance.StorageAfter, 0.25);
+  EXPECT_DOUBLE_EQ(balance.runoff, 2.5);
+  EXPECT_DOUBLE_EQ(balance.used, 1.25);
+  EXPECT_DOUBLE_EQ(balance.spilled, 1.0);
+  EXPECT_DOUBLE_EQ(balance.storageBefore, 0);
+  EXPECT_DOUBLE_EQ(balance.storageAfter, 0.25);
   EXPECT_DOUBLE_EQ(balance.Efficiency(), 50);
 }
 
 TEST(SimulatePond, SpillsBeforeItUses) {
   // The first day leaves 0.75, so 0.75 of the second day spill; using first would spill only 0.5.
   const PondBalance balance = SimulatePond(PlainDays({1, 1}), {1, 0.25});
-  EXPECT_DOUBLE_EQ(balance.Spilled, 0.75);
-  EXPECT_DOUBLE_EQ(balance.Used, 0.5);
+  EXPECT_DOUBLE_EQ(balance.spilled, 0.75);
+  EXPECT_DOUBLE_EQ(balance.used, 0.5);
 }
 
 TEST(SimulatePond, DoesNotCountTheWarmUpButKeepsItsStorage) {
   PondDays days = PlainDays({3, 0, 0, 1});
-  days.WarmUpDays = 2;
-  days.TotalRunoff = 1;
+  days.warmUpDays = 2;
+  days.totalRunoff = 1;
   const PondBalance balance = SimulatePond(days, {2, 0.5});
-  EXPECT_DOUBLE_EQ(balance.StorageBefore, 1);  // 2 kept, 0.5 used on each of two days
-  EXPECT_DOUBLE_EQ(balance.Runoff, 1);
-  EXPECT_DOUBLE_EQ(balance.Used, 1);
-  EXPECT_DOUBLE_EQ(balance.StorageAfter, 1);
+  EXPECT_DOUBLE_EQ(balance.storageBefore, 1);  // 2 kept, 0.5 used on each of two days
+  EXPECT_DOUBLE_EQ(balance.runoff, 1);
+  EXPECT_DOUBLE_EQ(balance.used, 1);
+  EXPECT_DOUBLE_EQ(balance.storageAfter, 1);
 }
 
 TEST(SimulatePond, BalancesTheWater) {
@@ -55,15 +55,15 @@ TEST(SimulatePond, BalancesTheWater) {
   for (const double V : {0.05, 0.5, 2.0, 7.0}) {
     for (const double R : {0.0, 0.05, 0.15, 0.4}) {
       const PondBalance b = SimulatePond(days, {V, R});
-      EXPECT_NEAR(b.StorageBefore + b.Runoff, b.Used + b.Spilled + b.StorageAfter, 1e-9)
+      EXPECT_NEAR(b.storageBefore + b.runoff, b.used + b.spilled + b.storageAfter, 1e-9)
           << V << " " << R;
-      EXPECT_NEAR(b.Runoff, days.TotalRunoff, 1e-9);
+      EXPECT_NEAR(b.runoff, days.totalRunoff, 1e-9);
     }
   }
 }
 
 TEST(SimulatePond, UsesNothingWithoutARate) {
-  EXPECT_EQ(SimulatePond(BuildPondDays(IrregularRain(), {}), {3, 0}).Used, 0);
+  EXPECT_EQ(SimulatePond(BuildPondDays(IrregularRain(), {}), {3, 0}).used, 0);
 }
 
 TEST(SimulatePond, UnderConstantRainUsesTheSmallerOfRateRainAndVolume) {
@@ -101,7 +101,7 @@ TEST(SimulateEfficiencies, GrowWithVolumeAndRate) {
 
 TEST(SimulateEfficiencies, EqualOnePondAtATimeBitForBit) {
   for (const PondOptions& options :
-       {PondOptions{}, PondOptions{.HoldOffDays = 2, .AbstractionIn = 0.1}}) {
+       {PondOptions{}, PondOptions{.holdOffDays = 2, .abstractionIn = 0.1}}) {
     const PondDays days = BuildPondDays(IrregularRain(), options);
     std::vector<PondCell> cells;  // neither a whole block nor a multiple of one
     cells.reserve(301);

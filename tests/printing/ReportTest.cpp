@@ -34,7 +34,7 @@ class Report : public FormFixture {
     TypeSite();
     std::string E;
     form_->Chart().SetHotspotUsing_RV("0.125", "3", E);
-    form_->Interactive().AnswerChange();
+    form_->Chart().OnChange();
   }
 
   std::vector<PrintedPage> Print(RecordingPrinter& printer) {
@@ -333,13 +333,13 @@ TEST_F(Report, ChangesNeitherTheFieldsNorTheChart) {
   RecordingSurface screenBefore;
   RecordingSurface screenAfter;
   form_->Chart().Paint(screenBefore);
-  const auto box = std::pair(form_->Chart().Point().pixel.X, form_->Chart().Point().pixel.Y);
+  const auto box = std::pair(form_->Chart().Point().pixel.x, form_->Chart().Point().pixel.y);
   Print();
   form_->Chart().Paint(screenAfter);
   ASSERT_TRUE(form_->Files().SaveText(after));
   EXPECT_EQ(before, after);
   EXPECT_EQ(screenBefore.Calls(), screenAfter.Calls());
-  EXPECT_EQ(std::pair(form_->Chart().Point().pixel.X, form_->Chart().Point().pixel.Y), box);
+  EXPECT_EQ(std::pair(form_->Chart().Point().pixel.x, form_->Chart().Point().pixel.y), box);
 }
 
 TEST_F(Report, ASecondDocumentBeginsWithoutABlankSheet) {

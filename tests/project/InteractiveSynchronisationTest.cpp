@@ -1,4 +1,5 @@
 // The interactive mode: the chart's point into the fields, and numbers in the fields to the point.
+#include "design/PointByNumbers.h"
 #include "support/FormFixture.h"
 
 namespace orvik {
@@ -24,7 +25,10 @@ class Interactive : public FormFixture {
     Type("txtE", E);
     Type("txtV", V);
   }
-  std::int16_t Guess() { return form_->Interactive().GuessBestInteractiveSolution(); }
+  std::int16_t Guess() {
+    const Project project = FormBinding(form_->Fields(), form_->Chart()).Snapshot();
+    return GuessBestInteractiveSolution(project, form_->Chart().IsLoaded());
+  }
 };
 
 // --- The answer to a change ---

@@ -226,7 +226,10 @@ TEST_F(Validation, TheEiaCannotBeTyped) {
 
 class IsDataDefined : public FormFixture {
  protected:
-  bool Asked() { return form_->Workflow().IsDataDefined(); }
+  bool Asked() {
+    FormBinding binding(form_->Fields(), form_->Chart());
+    return SolveForWorkflow(form_->Fields(), form_->Chart(), binding).IsDataDefined();
+  }
 };
 
 TEST_F(IsDataDefined, NeedsTheCurvesAndThreeNumbers) {

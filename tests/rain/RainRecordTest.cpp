@@ -23,10 +23,10 @@ std::string ErrorOf(std::string_view text, const RainColumns& columns = {}) {
 TEST(RainRecord, ReadsDatesAndDepths) {
   const RainRecord record =
       ParseRainRecord("date,precipitation_in\n2001-01-01,0.5\n2001-01-02,0\n", RainUnit::Inches);
-  ASSERT_EQ(record.Days.size(), 2U);
-  EXPECT_EQ(IsoDate(record.Days[0].Date), "2001-01-01");
-  EXPECT_EQ(record.Days[0].DepthIn, 0.5);
-  EXPECT_EQ(IsoDate(record.Last), "2001-01-02");
+  ASSERT_EQ(record.days.size(), 2U);
+  EXPECT_EQ(IsoDate(record.days[0].date), "2001-01-01");
+  EXPECT_EQ(record.days[0].depthIn, 0.5);
+  EXPECT_EQ(IsoDate(record.last), "2001-01-02");
 }
 
 TEST(RainRecord, ConvertsEachUnitToInches) {
@@ -39,7 +39,7 @@ TEST(RainRecord, ConvertsEachUnitToInches) {
     const auto found = FindRainUnit(unit);
     ASSERT_TRUE(found) << unit;
     const RainRecord record = ParseRainRecord("date,rain\n2001-01-01,254\n", *found);
-    EXPECT_DOUBLE_EQ(record.Days[0].DepthIn, inches) << unit;
+    EXPECT_DOUBLE_EQ(record.days[0].depthIn, inches) << unit;
   }
   EXPECT_FALSE(FindRainUnit("cm"));
 }
@@ -51,23 +51,23 @@ TEST(RainRecord, FindsColumnsByNameInAnyCaseAndOrder) {
         "date,rainfall\n1960-05-01,7\n"}) {
     test::TempFolder folder;
     const RainRecord record = ReadRainRecord(folder.Write("r.csv", text), RainUnit::Inches);
-    ASSERT_EQ(record.Days.size(), 1U) << text;
-    EXPECT_EQ(record.Days[0].DepthIn, 7) << text;
+    ASSERT_EQ(record.days.size(), 1U) << text;
+    EXPECT_EQ(record.days[0].depthIn, 7) << text;
   }
 }
 
 TEST(RainRecord, TakesTheColumnsThatTheUserNames) {
   const RainRecord record = ParseRainRecord("d,a,date,prcp\n2001-01-01,1,2002-02-02,2\n",
-                                            RainUnit::Inches, {.Date = "D", .Depth = "a"});
-  EXPECT_EQ(IsoDate(record.First), "2001-01-01");
-  EXPECT_EQ(record.Days[0].DepthIn, 1);
+                                            RainUnit::Inches, {.date = "D", .depth = "a"});
+  EXPECT_EQ(IsoDate(record.first), "2001-01-01");
+  EXPECT_EQ(record.days[0].depthIn, 1);
 }
 
 TEST(RainRecord, ColumnsThatAreNotFoundAreNamed) {
   EXPECT_THAT(ErrorOf("when,prcp\n"),
               HasSubstr("no column with a known name for the date. Its columns are: when, prcp."));
   EXPECT_THAT(ErrorOf("date,snow\n"), HasSubstr("a known name for the rainfall depth"));
-  EXPECT_THAT(ErrorOf("date,prcp\n", {.Date = "", .Depth = "rain"}),
+  EXPECT_THAT(ErrorOf("date,prcp\n", {.date = "", .depth = "rain"}),
               HasSubstr("no column \"rain\""));
   EXPECT_THAT(ErrorOf(""), HasSubstr("no header line"));
   EXPECT_THAT(ErrorOf("date,prcp\n"), HasSubstr("no rows"));
@@ -106,7 +106,7 @@ TEST(RainRecord, ADecimalCommaIsRefusedAndExplained) {
 
 TEST(RainRecord, EmptyColumnsAfterTheOthersAreColumns) {
   const RainRecord record = ParseRainRecord("date,prcp,\n2001-01-01,1,\n", RainUnit::Inches);
-  EXPECT_EQ(record.Days.at(0).DepthIn, 1);
+  EXPECT_EQ(record.days.at(0).depthIn, 1);
 }
 
 TEST(RainRecord, OnlyTheFirstBadRowsAreListed) {
@@ -136,18 +136,18 @@ TEST(RainRecord, CountsWhatItDoesNotUse) {
       "\n"
       "2001-01-10,1\n",
       RainUnit::Inches);
-  EXPECT_EQ(record.Findings.Rows, 9);
-  EXPECT_EQ(record.Findings.Missing, 2);
-  EXPECT_EQ(record.Findings.Negative, 1);
-  EXPECT_EQ(record.Findings.FirstNegativeLine, 5);
-  EXPECT_EQ(record.Findings.Duplicate, 2);
-  EXPECT_EQ(record.Findings.Conflicting, 1);
-  EXPECT_EQ(record.Findings.FirstConflictingLine, 7);
-  EXPECT_EQ(record.Findings.Trace, 1);
-  EXPECT_EQ(record.Findings.Gaps, 2);
-  EXPECT_EQ(record.Findings.GapDays, 3);  // January 4, 8 and 9
-  ASSERT_EQ(record.Days.size(), 4U);
-  EXPECT_EQ(record.Days[1].DepthIn, 0.5);  // the first of the two values of January 5
+  EXPECT_EQ(record.findings.rows, 9);
+  EXPECT_EQ(record.findings.missing, 2);
+  EXPECT_EQ(record.findings.negative, 1);
+  EXPECT_EQ(record.findings.firstNegativeLine, 5);
+  EXPECT_EQ(record.findings.duplicate, 2);
+  EXPECT_EQ(record.findings.conflicting, 1);
+  EXPECT_EQ(record.findings.firstConflictingLine, 7);
+  EXPECT_EQ(record.findings.trace, 1);
+  EXPECT_EQ(record.findings.gaps, 2);
+  EXPECT_EQ(record.findings.gapDays, 3);  // January 4, 8 and 9
+  ASSERT_EQ(record.days.size(), 4U);
+  EXPECT_EQ(record.days[1].depthIn, 0.5);  // the first of the two values of January 5
   const std::string text = DescribeFindings(record);
   EXPECT_THAT(text, HasSubstr("from 2001-01-01 to 2001-01-10: 4 days with a value, 2 rows without, "
                               "2 gaps (3 days without a row)."));

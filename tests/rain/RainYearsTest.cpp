@@ -19,17 +19,17 @@ using testing::HasSubstr;
 // A record with `depth` on every day from the first day of `from` to the last of `to`.
 RainRecord FullYears(int from, int to, double depth) {
   RainRecord record;
-  record.First = sys_days(year(from) / January / 1);
-  record.Last = sys_days(year(to + 1) / January / 1) - days(1);
-  for (sys_days day = record.First; day <= record.Last; day += days(1)) {
-    record.Days.push_back({day, depth});
+  record.first = sys_days(year(from) / January / 1);
+  record.last = sys_days(year(to + 1) / January / 1) - days(1);
+  for (sys_days day = record.first; day <= record.last; day += days(1)) {
+    record.days.push_back({day, depth});
   }
   return record;
 }
 
 void Remove(RainRecord& record, sys_days first, int count) {
-  std::erase_if(record.Days, [&](const RainDay& day) {
-    return day.Date >= first && day.Date < first + days(count);
+  std::erase_if(record.days, [&](const RainDay& day) {
+    return day.date >= first && day.date < first + days(count);
   });
 }
 
@@ -42,31 +42,68 @@ std::string RefusalOf(const RainRecord& record) {
   return "not refused";
 }
 
+std::vector<int> KeptOf(const RainYears& years) {
+  std::vector<int> kept;
+  for (const CalendarYear& year : years.kept) kept.push_back(year.year);
+  return kept;
+}
+
 TEST(RainYears, KeepAYearThatMissesTenDaysAndCountThemDry) {
   RainRecord record = FullYears(2001, 2006, 0.1);
   Remove(record, sys_days(year(2003) / 3 / 1), 10);
   const RainYears years = SelectRainYears(record);
-  EXPECT_THAT(years.Years, ElementsAre(2001, 2002, 2003, 2004, 2005, 2006));
-  EXPECT_EQ(years.MissingDays, 10);
-  EXPECT_EQ(years.Daily.size(), 365U * 6 + 1);  // 2004 has a leap day
-  EXPECT_EQ(std::count(years.Daily.begin(), years.Daily.end(), 0.0), 10);
-  EXPECT_EQ(years.Daily[365 * 2 + 31 + 28], 0);  // March 1, 2003
-  EXPECT_EQ(years.Daily[365 * 2 + 31 + 27], 0.1);
+  EXPECT_THAT(KeptOf(years), ElementsAre(2001, 2002, 2003, 2004, 2005, 2006));
+  EXPECT_EQ(years.missingDays, 10);
+  EXPECT_EQ(years.daily.size(), 365U * 6 + 1);  // 2004 has a leap day
+  EXPECT_EQ(std::count(years.daily.begin(), years.daily.end(), 0.0), 10);
+  EXPECT_EQ(years.daily[365 * 2 + 31 + 28], 0);  // March 1, 2003
+  EXPECT_EQ(years.daily[365 * 2 + 31 + 27], 0.1);
 }
 
 TEST(RainYears, LeaveOutAYearThatMissesElevenDays) {
   RainRecord record = FullYears(2001, 2006, 0.1);
   Remove(record, sys_days(year(2001) / 3 / 1), 11);
   const RainYears years = SelectRainYears(record);
-  EXPECT_THAT(years.Years, ElementsAre(2002, 2003, 2004, 2005, 2006));
-  EXPECT_THAT(years.LeftOutYears, ElementsAre(2001));
-  EXPECT_EQ(years.FirstYearDays, 365U);
-  EXPECT_EQ(years.Daily.size(), 365U * 5 + 1);
+  EXPECT_THAT(KeptOf(years), ElementsAre(2002, 2003, 2004, 2005, 2006));
+  EXPECT_THAT(years.leftOutYears, ElementsAre(2001));
+  EXPECT_EQ(years.daily.size(), 365U * 5 + 1);
+}
+
+TEST(RainYears, KnowWhichDaysAreThoseOfEachKeptYear) {
+  RainRecord record = FullYears(2001, 2007, 0.1);
+  Remove(record, sys_days(year(2003) / 3 / 1), 11);  // 2003 is left out
+  const RainYears years = SelectRainYears(record);
+  EXPECT_THAT(KeptOf(years), ElementsAre(2001, 2002, 2004, 2005, 2006, 2007));
+  EXPECT_EQ(years.kept[2].firstDay, 365U * 2);
+  EXPECT_EQ(years.kept[2].days, 366U);  // a leap year
+  EXPECT_EQ(years.kept[3].firstDay, 365U * 2 + 366);
+  EXPECT_EQ(years.kept[3].days, 365U);
+  EXPECT_EQ(years.kept.back().firstDay + years.kept.back().days, years.daily.size());
+}
+
+TEST(RainYears, KnowTheDateOfEachDayAcrossAYearThatIsLeftOut) {
+  RainRecord record = FullYears(2001, 2007, 0.1);
+  Remove(record, sys_days(year(2003) / 3 / 1), 11);  // 2003 is left out
+  const RainYears years = SelectRainYears(record);
+  ASSERT_EQ(years.dates.size(), years.daily.size());
+  EXPECT_EQ(years.dates.front(), sys_days(year(2001) / 1 / 1));
+  EXPECT_EQ(years.dates[365 * 2 - 1], sys_days(year(2002) / 12 / 31));
+  EXPECT_EQ(years.dates[365 * 2], sys_days(year(2004) / 1 / 1));
+  EXPECT_EQ(years.dates[365 * 2 + 31 + 28], sys_days(year(2004) / 2 / 29));
+  EXPECT_EQ(years.dates.back(), sys_days(year(2007) / 12 / 31));
+}
+
+TEST(RainYears, MissingDaysOfAKeptYearHaveTheirDates) {
+  RainRecord record = FullYears(2001, 2005, 0.1);
+  Remove(record, sys_days(year(2001) / 1 / 1), 3);
+  const RainYears years = SelectRainYears(record);
+  EXPECT_EQ(years.daily.front(), 0);
+  EXPECT_EQ(years.dates.front(), sys_days(year(2001) / 1 / 1));
 }
 
 TEST(RainYears, MeanIsThatOfTheKeptYears) {
   RainRecord record = FullYears(2001, 2005, 0.1);  // 2004 has a leap day
-  EXPECT_NEAR(SelectRainYears(record).MeanAnnualIn, 36.52, 1e-9);
+  EXPECT_NEAR(SelectRainYears(record).meanAnnualIn, 36.52, 1e-9);
 }
 
 TEST(RainYears, FewerThanFiveAreRefused) {
@@ -95,7 +132,7 @@ TEST(RainYears, AnImplausibleDepthIsRefusedWithTheUnitsThatMakeSense) {
   EXPECT_THAT(UnitsFor(record), ElementsAre("hundredths-in 110", "tenths-mm 43.1"));
 
   RainRecord inches = FullYears(2001, 2005, 0.15 / 254);  // inches, read as tenths of a millimetre
-  inches.Unit = RainUnit::TenthsOfMillimetre;
+  inches.unit = RainUnit::TenthsOfMillimetre;
   EXPECT_THAT(UnitsFor(inches), ElementsAre("in 54.8"));
   EXPECT_THAT(UnitsFor(FullYears(2001, 2005, 1e6)), testing::IsEmpty());
 }
@@ -111,18 +148,18 @@ TEST(RainYears, LimitsOfTheMeanDepthAreAllowed) {
 
 TEST(RainYears, ACodeForAMissingValueIsNotRain) {
   RainRecord record = FullYears(2001, 2005, 0.1);
-  record.Days[100].DepthIn = 99.99;
+  record.days[100].depthIn = 99.99;
   EXPECT_THAT(RefusalOf(record), HasSubstr("has 100 inches, more than has ever been measured"));
 }
 
 TEST(RainYears, KnowTheirWettestDay) {
   RainRecord record = FullYears(2001, 2005, 0.1);
-  record.Days[31 + 4].DepthIn = 7.5;
-  record.Days[31 + 9].DepthIn = 7.25;
+  record.days[31 + 4].depthIn = 7.5;
+  record.days[31 + 9].depthIn = 7.25;
   const RainYears years = SelectRainYears(record);
-  EXPECT_EQ(years.WettestDayIn, 7.5);
-  EXPECT_EQ(years.WettestDay, sys_days(year(2001) / 2 / 5));
-  EXPECT_EQ(years.WettestDays, 1);
+  EXPECT_EQ(years.wettestDayIn, 7.5);
+  EXPECT_EQ(years.wettestDay, sys_days(year(2001) / 2 / 5));
+  EXPECT_EQ(years.wettestDays, 1);
 }
 
 TEST(RainYears, TheSameLargestDepthAboveFifteenInchesTwiceIsSuspect) {
@@ -136,13 +173,13 @@ TEST(RainYears, TheSameLargestDepthAboveFifteenInchesTwiceIsSuspect) {
        {Case{999.9 / 25.4, 999.9 / 25.4, true}, Case{15.01, 15.01, true}, Case{15, 15, false},
         Case{22.75, 22.5, false}, Case{22.75, 0.1, false}}) {
     RainRecord record = FullYears(2001, 2005, 0.1);
-    record.Days[59].DepthIn = first;
-    record.Days[500].DepthIn = second;
+    record.days[59].depthIn = first;
+    record.days[500].depthIn = second;
     const std::string text = DescribeSuspectedCode(SelectRainYears(record));
     EXPECT_EQ(!text.empty(), isSuspect) << first << " " << second << ": " << text;
   }
   RainRecord record = FullYears(2001, 2005, 0.1);
-  for (const std::size_t day : {59U, 400U, 500U}) record.Days[day].DepthIn = 999.9 / 25.4;
+  for (const std::size_t day : {59U, 400U, 500U}) record.days[day].depthIn = 999.9 / 25.4;
   EXPECT_EQ(DescribeSuspectedCode(SelectRainYears(record)),
             "The largest depth, 39.37 inches, occurs on 3 days, first on 2001-03-01. Is it a code "
             "for a missing value? If so, leave these depths empty.");

@@ -47,12 +47,13 @@ TEST_F(MainWindowPagesTest, MenusAndOptionButtonsTurnThePages) {
 }
 
 TEST_F(MainWindowPagesTest, AnyOtherOptionChangesNothing) {
+  MainWindowPages pages(toolkit_, desktop_, form_->Fields());
   for (const std::int16_t index : {std::int16_t{0}, std::int16_t{3}, std::int16_t{-1}}) {
-    form_->Pages().optPage_Click(1);
-    form_->Pages().optPage_Click(index);
+    pages.optPage_Click(1);
+    pages.optPage_Click(index);
     EXPECT_EQ(ShownPage(), "project") << index;
-    form_->Pages().optPage_Click(2);
-    form_->Pages().optPage_Click(index);
+    pages.optPage_Click(2);
+    pages.optPage_Click(index);
     EXPECT_EQ(ShownPage(), "data") << index;
   }
 }

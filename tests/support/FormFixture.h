@@ -1,4 +1,5 @@
-// The whole window without a screen, over curve files of its own, worked as a user works it.
+// The project's fields, or the whole window, without a screen, over curve files of their own,
+// worked as a user works them.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -27,15 +28,15 @@ inline CurveFileText WideCurves() {
   return file;
 }
 
-class FormFixture : public testing::Test {
+// A user before the project's fields, and curves to work with.
+class UserFixture : public testing::Test {
  protected:
   // Tampa has the narrow curves (V to 7, R to 0.4), Orlando the wide ones, Miami a file that is
   // damaged; the other stations have none.
-  FormFixture() {
+  UserFixture() {
     folder_.Write("KAV Data/Tampa.crv", LogarithmicCurves().Text());
     folder_.Write("KAV Data/Orlando.crv", WideCurves().Text());
     folder_.Write("KAV Data/Miami.crv", "Nothing else");
-    form_ = std::make_unique<Form1>(toolkit_, desktop_, folder_.Path());
   }
 
   void Type(std::string_view field, std::string_view text) { toolkit_.Type(field, text); }
@@ -49,7 +50,6 @@ class FormFixture : public testing::Test {
   std::string Text(std::string_view field) const { return toolkit_.Text(field); }
   std::string Message() const { return toolkit_.Text("txtErrMsg"); }
   double Number(std::string_view field) const { return ParseNumber(Text(field)); }
-  bool HotspotIsVisible() { return form_->Chart().HotSpotVisibile(); }
 
   // Basin 10 ac with C = 0.5, so EIA 5 ac; 5 ac to irrigate. Then V = 2.4 S and R = Q / 7.
   void TypeSite(std::string_view station = "Tampa") {
@@ -71,7 +71,13 @@ class FormFixture : public testing::Test {
   TempFolder folder_;
   AnsweringDesktop desktop_;
   UserToolkit toolkit_;
-  std::unique_ptr<Form1> form_;
+};
+
+class FormFixture : public UserFixture {
+ protected:
+  bool HotspotIsVisible() { return form_->Chart().HotSpotVisibile(); }
+
+  std::unique_ptr<Form1> form_ = std::make_unique<Form1>(toolkit_, desktop_, folder_.Path());
 };
 
 }  // namespace orvik::test

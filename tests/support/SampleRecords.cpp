@@ -1,5 +1,6 @@
 #include "support/SampleRecords.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <numeric>
@@ -9,10 +10,15 @@ namespace orvik::test {
 
 RainYears YearsOf(std::vector<double> daily, std::size_t firstYearDays) {
   RainYears years;
-  years.Daily = std::move(daily);
-  years.FirstYearDays = firstYearDays;
-  const auto count = (years.Daily.size() + 200) / 365;
-  for (std::size_t i = 0; i < count; ++i) years.Years.push_back(2001 + static_cast<int>(i));
+  years.daily = std::move(daily);
+  for (std::size_t day = 0; day < years.daily.size(); day += years.kept.back().days) {
+    const std::size_t length = years.kept.empty() ? firstYearDays : 365;
+    const int year = 2001 + static_cast<int>(years.kept.size());
+    years.kept.push_back({year, day, std::min(length, years.daily.size() - day)});
+    for (std::size_t i = 0; i < years.kept.back().days; ++i) {
+      years.dates.push_back(NewYear(year) + std::chrono::days(i));
+    }
+  }
   return years;
 }
 

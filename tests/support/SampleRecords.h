@@ -8,7 +8,8 @@
 
 namespace orvik::test {
 
-// Kept years of these daily depths; the first `firstYearDays` of them are the first year.
+// Kept years of these daily depths, from January 1, 2001 on: the first year has `firstYearDays` of
+// them, each other one up to 365. A year that ends early is enough for a sum by hand.
 RainYears YearsOf(std::vector<double> daily, std::size_t firstYearDays);
 
 // The same depth on every day of so many years.

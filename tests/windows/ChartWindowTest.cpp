@@ -269,7 +269,7 @@ TEST_F(ChartWindow, ResizingKeepsThePointInPlotCoordinates) {
   Release(480, 434);
   hosted_.Place().Move(0, 0, 400, 600);
   ExpectHotspotAt(480, 434);
-  EXPECT_EQ(chart_.Point().pixel.X, 20 + 180);  // the frame is 360 wide here, and V = 3.5 of 7
+  EXPECT_EQ(chart_.Point().pixel.x, 20 + 180);  // the frame is 360 wide here, and V = 3.5 of 7
   HandleMessages();
   const Picture shown = Shown();
   EXPECT_EQ(shown.size, (Size{400, 600}));
