@@ -15,7 +15,7 @@ constexpr double kTolerance = 1e-10;  // a requirement violated by less counts a
 constexpr double kSingular = 1e-14;  // of a diagonal element: a pivot that rounding alone can leave
 constexpr double kNoShare = 1e-12;   // the coefficient of a normal that does not take part
 constexpr double kDependent = 1e-18;  // squared length that is left of a dependent direction
-constexpr int kMostSteps = 1000;      // a dozen is usual
+constexpr int kMostExchanges = 1000;  // a dozen is usual
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 double Dot(const Vector& a, const Vector& b) {
@@ -126,7 +126,7 @@ class NearestPoint {
     while (const HalfSpace* space = MostBroken()) {
       double force = 0;
       while (true) {
-        if (++steps_ > kMostSteps) return std::nullopt;
+        if (++steps_ > kMostExchanges) return std::nullopt;
         const Move move = Push(*space, force);
         if (move == Move::Impossible) return std::nullopt;
         if (move == Move::Arrived) break;

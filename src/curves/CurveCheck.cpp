@@ -15,7 +15,7 @@ namespace {
 
 // In a chart 640 pixels high the frame has some 560 rows: a gap of this share of the range is two
 // of them.
-constexpr double kGapShare = 1.0 / 250;
+constexpr double kLeastGapShare = 1.0 / 250;
 constexpr int kPoints = 400;     // volumes at which curves are compared
 constexpr double kSlack = 1e-9;  // inches, and inches per day: what rounding can add to a sample
 
@@ -125,7 +125,7 @@ class Checker {
       least = distance;
       leastV = V;
     }
-    if (least >= kGapShare * (set_.RMax - set_.RMin)) return;
+    if (least >= kLeastGapShare * (set_.RMax - set_.RMin)) return;
     Say(Name(i) + (least <= 0 ? " crosses" : " comes too close to") + " the curve before it" +
         At(leastV) + " (distance " + FixedText(least, 4) + " in/day).");
   }

@@ -10,15 +10,15 @@
 namespace orvik {
 namespace {
 
-constexpr double kStepV = 0.05;      // inches
-constexpr double kStepSlack = 1e-9;  // of a step: rounding must not add another one
-constexpr double kMostSteps = 2000;  // for curves beyond any chart
+constexpr double kStepV = 0.05;        // inches
+constexpr double kSampleSlack = 1e-9;  // of a step: rounding must not add another one
+constexpr double kMostSamples = 2000;  // for curves beyond any chart
 
 }  // namespace
 
 std::vector<double> JudgedVolumes(double first, double last) {
   const auto steps = static_cast<int>(
-      std::clamp(std::ceil((last - first) / kStepV - kStepSlack), 1.0, kMostSteps));
+      std::clamp(std::ceil((last - first) / kStepV - kSampleSlack), 1.0, kMostSamples));
   std::vector<double> volumes;
   volumes.reserve(static_cast<std::size_t>(steps) + 1);
   for (int i = 0; i < steps; ++i) volumes.push_back(first + (last - first) * i / steps);

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "design/Placeholders.h"
+
 namespace orvik {
 namespace {
 
@@ -17,8 +19,6 @@ constexpr std::array kRows{
 #undef ORVIK_MESSAGE
 };
 
-constexpr std::string_view kPlace = "{}";
-
 const Row& RowOf(MessageId id) {
   return kRows.at(static_cast<std::size_t>(id));
 }
@@ -26,10 +26,7 @@ const Row& RowOf(MessageId id) {
 }  // namespace
 
 std::string Sentence(const Message& message) {
-  std::string sentence(RowOf(message.id).sentence);
-  const std::size_t place = sentence.find(kPlace);
-  if (place != std::string::npos) sentence.replace(place, kPlace.size(), message.value);
-  return sentence;
+  return FilledIn(RowOf(message.id).sentence, {&message.value, 1});
 }
 
 std::string_view SentencePattern(MessageId id) {
