@@ -2,12 +2,13 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "base/FixedText.h"
 #include "base/Paths.h"
+#include "base/PrintableText.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/JsonOutput.h"
 #include "cli/OutputFile.h"
 #include "curves/ChartAxes.h"
 #include "curves/CurveMaker.h"
@@ -37,7 +38,7 @@ std::string SourceOf(const CurvesMakeRequest& request) {
 
 void PrintText(std::ostream& out, const RainRecord& record, const RainYears& years,
                const MadeCurves& made) {
-  out << made.Set.Title << '\n'
+  out << PrintableText(made.Set.Title) << '\n'
       << "Record " << IsoDate(record.First) << " to " << IsoDate(record.Last) << ", "
       << years.Years.size() << " usable years (" << years.LeftOutYears.size() << " left out, "
       << years.MissingDays << " missing days taken as dry), mean "
@@ -46,22 +47,21 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
   PrintCurvesTable(out, made.Set, AllJudged(made.Errors));
 }
 
-void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRecord& record,
-               const RainYears& years, const MadeCurves& made) {
+nlohmann::ordered_json JsonOf(const CurvesMakeRequest& request, const RainRecord& record,
+                              const RainYears& years, const MadeCurves& made) {
   const PondOptions pond = ToPondOptions(request.pond);
-  const nlohmann::ordered_json object{{"name", request.name},
-                                      {"title", made.Set.Title},
-                                      {"file", request.file},
-                                      {"first", IsoDate(record.First)},
-                                      {"last", IsoDate(record.Last)},
-                                      {"usableYears", years.Years.size()},
-                                      {"meanAnnualIn", years.MeanAnnualIn},
-                                      {"wettestDayIn", years.WettestDayIn},
-                                      {"wettestDay", IsoDate(years.WettestDay)},
-                                      {"holdOffDays", pond.HoldOffDays},
-                                      {"abstractionIn", pond.AbstractionIn},
-                                      {"curves", CurvesJson(made.Set, AllJudged(made.Errors))}};
-  out << object.dump(2) << '\n';
+  return {{"name", request.name},
+          {"title", made.Set.Title},
+          {"file", request.file},
+          {"first", IsoDate(record.First)},
+          {"last", IsoDate(record.Last)},
+          {"usableYears", years.Years.size()},
+          {"meanAnnualIn", years.MeanAnnualIn},
+          {"wettestDayIn", years.WettestDayIn},
+          {"wettestDay", IsoDate(years.WettestDay)},
+          {"holdOffDays", pond.HoldOffDays},
+          {"abstractionIn", pond.AbstractionIn},
+          {"curves", CurvesJson(made.Set, AllJudged(made.Errors))}};
 }
 
 // What can be refused before any work is done.
@@ -91,7 +91,7 @@ ExitCode Make(Console& console, bool json, const CurvesMakeRequest& request) {
                  CurveTitle(request.name, SourceOf(request), record, years, pond));
   WriteOutputFile(request.file, CurveFileText(made.Set));
   if (json) {
-    PrintJson(console.out, request, record, years, made);
+    PrintJson(console, JsonOf(request, record, years, made));
   } else {
     PrintText(console.out, record, years, made);
   }
