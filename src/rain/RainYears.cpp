@@ -80,7 +80,8 @@ void RefuseImplausible(const RainYears& years, RainUnit unit) {
         PlausibleUnits(years.MeanAnnualIn, unit));
   }
   if (years.WettestDayIn > kWettestDayIn) {
-    throw Refusal("The wettest day of the record has " + RoundedDepth(years.WettestDayIn) +
+    throw Refusal("The wettest day of the record, " + IsoDate(years.WettestDay) + ", has " +
+                  RoundedDepth(years.WettestDayIn) +
                   " inches, more than has ever been measured anywhere. If this is a code "
                   "for a missing value, leave the depth empty.");
   }
