@@ -15,8 +15,8 @@ constexpr float kIndent = 1.2F;         // of captions, in body lines
 constexpr float kColumnGap = 2;         // between captions and values, in body lines
 constexpr float kMostCaption = 0.6F;    // of the body's width
 
-// Some three pages; of a longer text, which nobody types, the report has the beginning and "...".
-constexpr std::size_t kMostPrinted = 10000;
+// Some pages; of a longer text, which nobody types, the report has the beginning and "...".
+constexpr std::size_t kMostPrinted = 12000;
 
 // One line of printable text: what breaks lines or moves the pen is a blank.
 std::string Printable(std::string_view text) {

@@ -80,6 +80,7 @@ TEST_F(Calc, AMessageOnTheBarIsPrintedAsAnErrorAndExitsOne) {
 TEST_F(Calc, AProjectWithoutAStationExitsOne) {
   auto lines = ProjectLines();
   lines[kStationLine] = "-1";
+  lines[kStationNameLine] = "";
   const KavRun run = Calculate(ProjectText(lines));
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.err, "The climate station has not been selected.\n");

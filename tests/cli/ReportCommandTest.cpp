@@ -124,7 +124,7 @@ TEST_F(ReportCommand, ThePdfHasItsTitlePagesPaperAndFonts) {
   EXPECT_GE(count, 2);
 }
 
-// Three pages or so of it are printed, and the footer of each page fits it once.
+// A few pages of it are printed, and the footer of each page fits it once.
 TEST_F(ReportCommand, ANameOfAMillionLettersIsCutOnPaperAndInTheTitle) {
   auto lines = Solved();
   lines[kProjectNameLine] = std::string(1'000'000, 'x');

@@ -401,7 +401,7 @@ TEST(CurvesCheck, NumbersOfAnAxisThatHaveNoRoomAreAFault) {
   std::string text = test::ReadBytes(kTampa);
   const auto interval = text.find("\r\n7\r\n1\r\n");
   ASSERT_NE(interval, std::string::npos);
-  text.replace(interval, 8, "\r\n7\r\n1e-300");
+  text.replace(interval, 8, "\r\n7\r\n1e-300\r\n");
   const test::TempFolder folder;
   const KavRun result = RunCommand({"curves", "check", folder.Write("a.crv", text)});
   EXPECT_EQ(result.exitCode, 1);

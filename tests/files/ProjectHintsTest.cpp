@@ -23,7 +23,7 @@ class ProjectHints : public test::FormFixture {
  protected:
   // What is said on opening the file without a window and in one, which must agree.
   std::vector<Hint> HintsOf(const std::string& bytes) {
-    path_ = folder_.Write("Pond.kav", bytes);
+    folder_.Write("Pond.kav", bytes);
     opened_ = OpenProjectFile(path_, folder_.Path());
     form_->Files().OpenProject(path_);
     EXPECT_EQ(form_->Files().Hints(), opened_.hints);
@@ -39,7 +39,7 @@ class ProjectHints : public test::FormFixture {
     return ProjectText(lines);
   }
 
-  std::string path_;
+  const std::string path_ = folder_ / "Pond.kav";
   OpenedProject opened_;
 };
 
