@@ -15,9 +15,10 @@ constexpr std::array<std::uint16_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-// Length of the well-formed sequence at the front of `bytes`, 0 if there is none (RFC 3629, section
-// 4).
-std::size_t SequenceLength(std::string_view bytes) {
+}  // namespace
+
+// RFC 3629, section 4.
+std::size_t LengthOfUtf8(std::string_view bytes) {
   const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
   const unsigned char lead = at(0);
   if (lead < 0x80) return 1;
@@ -32,15 +33,20 @@ std::size_t SequenceLength(std::string_view bytes) {
   return overlong || outside ? 0 : length;
 }
 
-}  // namespace
-
 bool IsUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
-    const std::size_t length = SequenceLength(bytes);
+    const std::size_t length = LengthOfUtf8(bytes);
     if (length == 0) return false;
     bytes.remove_prefix(length);
   }
   return true;
+}
+
+// A byte-order mark; else one of the first two bytes is zero, as in the UTF-16 of an ASCII letter.
+bool IsUtf16(std::string_view bytes) {
+  if (bytes.size() < 2) return false;
+  if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
+  return (bytes[0] == '\0') != (bytes[1] == '\0');
 }
 
 std::string DecodeFileText(std::string_view bytes) {

@@ -8,6 +8,7 @@
 #include "chart/ChartPrinting.h"
 #include "chart/ChartScene.h"
 #include "chart/HotspotDrawing.h"
+#include "design/FileHints.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveLoading.h"
 #include "platform/Printer.h"
@@ -32,6 +33,7 @@ LoadOutcome ctrlStormwaterReuse::SetCurveData(std::int16_t StationIndex) {
   stationName_ = ClimateStationName(StationIndex);
   stationIndex_ = StationIndex;
   LoadedCurves loaded = LoadStationCurves(CurveFolder(), StationIndex);
+  loadHints_ = HintsOf(loaded);
   if (loaded.outcome == LoadOutcome::Loaded) {
     ForgetE(state_.point);  // it was that of the curves before
     LayOut(std::move(loaded.curves));
@@ -65,6 +67,7 @@ std::optional<double> ctrlStormwaterReuse::MaxY() const {
 }
 
 void ctrlStormwaterReuse::Clear() {
+  loadHints_.clear();
   state_.point.message = {};
   state_.point.isShown = false;
   Unload();

@@ -9,10 +9,12 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "chart/ChartState.h"
 #include "chart/HotspotInput.h"
 #include "chart/ScreenMarks.h"
+#include "design/Hints.h"
 #include "platform/Surface.h"
 
 namespace orvik {
@@ -47,6 +49,9 @@ class ctrlStormwaterReuse {
   // Loads the curves of the station of this number (SubscriptError where there is none), or clears
   // them (0). Whoever asked tells the user what went wrong.
   LoadOutcome SetCurveData(std::int16_t StationIndex);
+
+  // What is to be said of the curves that were loaded last, or why none were.
+  const std::vector<Hint>& LoadHints() const { return loadHints_; }
 
   // The folder of the curve files, with a path separator at its end; empty means the default.
   const std::string& DesignDataDirectory() const { return designDataDirectory_; }
@@ -179,6 +184,7 @@ class ctrlStormwaterReuse {
   std::string designDataDirectory_;
   std::int16_t stationIndex_ = 0;  // 0: none
   std::string stationName_;
+  std::vector<Hint> loadHints_;
   Size size_{kReferenceWidth, kReferenceHeight};
   FrameLayout layout_;
   ChartState state_;

@@ -2,9 +2,10 @@
 #include <algorithm>
 #include <iomanip>
 #include <memory>
-#include <nlohmann/json.hpp>
 
+#include "base/PrintableText.h"
 #include "cli/Command.h"
+#include "cli/JsonOutput.h"
 #include "cli/ProjectOpening.h"
 #include "design/Calculate.h"
 #include "design/HostResults.h"
@@ -68,22 +69,12 @@ std::vector<Row> RowsOf(const Project& project) {
   return rows;
 }
 
-void PrintJson(std::ostream& out, const std::vector<Row>& rows, const Message& shown) {
+nlohmann::ordered_json JsonOf(const std::vector<Row>& rows, const Message& shown) {
   nlohmann::ordered_json object;
   for (const Row& row : rows) object[row.name] = row.value;
   object["txtErrMsg"] = Sentence(shown);
   object["helpTopic"] = HelpTopic(shown.id);
-  // Bytes of a damaged file that are not UTF-8 become U+FFFD, the replacement character.
-  out << object.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
-}
-
-// A field of a damaged file can hold anything, and a terminal would obey its control characters.
-std::string Printable(std::string text) {
-  for (char& c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20 || byte == 0x7F) c = ' ';
-  }
-  return text;
+  return object;
 }
 
 void PrintText(std::ostream& out, const std::vector<Row>& rows) {
@@ -91,9 +82,9 @@ void PrintText(std::ostream& out, const std::vector<Row>& rows) {
     if (row.value.empty()) {
       out << row.caption;
     } else if (row.unit.empty()) {
-      out << std::left << std::setw(29) << row.caption << Printable(row.value);
+      out << std::left << std::setw(29) << row.caption << PrintableText(row.value);
     } else {
-      out << std::left << std::setw(29) << row.caption << std::setw(12) << Printable(row.value)
+      out << std::left << std::setw(29) << row.caption << std::setw(12) << PrintableText(row.value)
           << row.unit;
     }
     out << '\n';
@@ -104,7 +95,11 @@ ExitCode RunCalc(Console& console, const CommonOptions& options, const std::stri
   const auto opened = OpenProject(console, path, DataFolder(console, options));
   if (!opened) return ExitCode::FileError;
   const auto rows = RowsOf(opened->project);
-  options.json ? PrintJson(console.out, rows, opened->shown) : PrintText(console.out, rows);
+  if (options.json) {
+    PrintJson(console, JsonOf(rows, opened->shown));
+  } else {
+    PrintText(console.out, rows);
+  }
   return PrintMissingResult(console, *opened);
 }
 

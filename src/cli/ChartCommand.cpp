@@ -6,6 +6,7 @@
 #include "base/RuntimeErrors.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "cli/Command.h"
+#include "cli/JsonOutput.h"
 #include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
 #include "cli/StationQuestion.h"
@@ -49,13 +50,12 @@ std::string ValidatePicture(const std::string& path) {
                              : "\"" + path + "\" does not end in .png, .svg or .pdf";
 }
 
-ExitCode DrawToFile(const ChartRequest& request, ctrlStormwaterReuse& chart) {
+void DrawToFile(const ChartRequest& request, ctrlStormwaterReuse& chart) {
   const Size size = request.size.empty() ? kDefaultSize : *ParseSize(request.size);
   chart.Resize(size.width, size.height);
   const std::string title = "Design curves of " + chart.StationName();
   WriteOutputFile(request.output, MakePictureFile(*PictureKindOf(request.output), size, title,
                                                   [&](Surface& surface) { chart.Paint(surface); }));
-  return ExitCode::Done;
 }
 
 ExitCode Refuse(Console& console, std::string_view message) {
@@ -69,7 +69,9 @@ ExitCode DrawChart(const CommonOptions& options, Console& console, const ChartRe
   ctrlStormwaterReuse chart(DataFolder(console, options));
   chart.SetCurveData(station);
   chart.Point(point);
-  return DrawToFile(request, chart);
+  DrawToFile(request, chart);
+  if (options.json) PrintJson(console, {{"file", request.output}});
+  return ExitCode::Done;
 }
 
 ExitCode ChartOfStation(Console& console, const CommonOptions& options,

@@ -4,8 +4,11 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvik {
+
+struct Hint;
 
 // Exit codes of every command.
 enum class ExitCode : int {
@@ -21,9 +24,17 @@ struct Console {
   bool isErrTerminal;         // progress is shown on a terminal only
   std::string programFolder;  // folder of the program's file, with a separator at its end; the data
                               // lies beside it
+  // What was printed so far, for the JSON object.
+  std::vector<std::string> messages = {};
+  std::vector<std::string> hints = {};
+  bool hasPrintedJson = false;
 };
 
-// Prints a message to `err`, with a line end; a CR LF inside it becomes a line end too.
+// Prints a message to `err`, with a line end; a CR LF inside it becomes a line end too. Each of its
+// lines is made fit for a terminal (base/PrintableText.h).
 void PrintMessage(Console& console, std::string_view message);
+
+// Prints hints to `err`, each on a line that begins with "hint: ".
+void PrintHints(Console& console, const std::vector<Hint>& hints);
 
 }  // namespace orvik

@@ -1,20 +1,20 @@
 // kav curves check: is a curve file fit for calculation?
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
 
-#include "base/FileError.h"
-#include "base/Paths.h"
+#include "base/PrintableText.h"
+#include "base/TextFault.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/JsonOutput.h"
+#include "cli/StationQuestion.h"
 #include "curves/CurveCheck.h"
 #include "curves/CurveJudge.h"
-#include "engine/CurveFile.h"
-#include "engine/CurveFileDiagnosis.h"
+#include "design/FileHints.h"
+#include "engine/CurveLoading.h"
 #include "engine/CurveSet.h"
 #include "pond/PondDays.h"
 #include "rain/RainYears.h"
-#include "stream/clsIOStream.h"
 
 namespace orvik {
 namespace {
@@ -25,18 +25,18 @@ struct CurvesCheckRequest {
   PondArguments pond;
 };
 
-CurveSet ReadCurves(const std::string& path) {
-  if (!FileExists(path)) throw FileError("The curve file " + path + " cannot be read.");
-  clsIOStream stream;
-  CurveSet set;
-  if (!stream.OpenFile(path, enumIOStreamMode::AsciiFileInput) || !ReadCurveFile(stream, set)) {
-    const std::string why = DiagnoseCurveFile(path);
-    if (!why.empty()) throw FileError("The curve file " + path + " cannot be read: " + why + ".");
-    throw FileError("The curve file " + path +
-                    " is damaged: it ends early, has no curves, or has a number that cannot be "
-                    "used.");
+ExitCode SayWhyUnusable(Console& console, const LoadedCurves& loaded) {
+  const std::string file = "The curve file " + loaded.path;
+  if (loaded.outcome == LoadOutcome::Unreadable) {
+    PrintMessage(console, SentenceOfDamage(file, loaded));
+    PrintHints(console, HintsOf(loaded));
+  } else {
+    PrintMessage(console, file + " cannot be read.");
+    if (const auto hint = HintOf(FindTextFault(loaded.path), loaded.path)) {
+      PrintHints(console, {*hint});
+    }
   }
-  return set;
+  return ExitCode::FileError;
 }
 
 std::optional<PondDays> ReadDays(Console& console, const CurvesCheckRequest& request) {
@@ -61,19 +61,21 @@ CurveErrors JudgeAll(const CurveSet& set, const std::optional<PondDays>& days) {
 }
 
 ExitCode Check(Console& console, bool json, const CurvesCheckRequest& request) {
-  const CurveSet set = ReadCurves(request.file);
+  const LoadedCurves loaded = LoadCurveFile(request.file);
+  if (!loaded.curves) return SayWhyUnusable(console, loaded);
+  PrintHints(console, HintsOf(loaded));
+  const CurveSet& set = *loaded.curves;
   const std::optional<PondDays> days = ReadDays(console, request);
   const auto meanRunoff = days ? std::optional(days->MeanRunoff()) : std::nullopt;
   const std::vector<std::string> faults = CheckCurves(set, meanRunoff);
   const CurveErrors errors = JudgeAll(set, days);
   if (json) {
-    const nlohmann::ordered_json object{{"file", request.file},
-                                        {"title", set.title},
-                                        {"faults", faults},
-                                        {"curves", CurvesJson(set, errors)}};
-    console.out << object.dump(2) << '\n';
+    PrintJson(console, {{"file", request.file},
+                        {"title", set.title},
+                        {"faults", faults},
+                        {"curves", CurvesJson(set, errors)}});
   } else {
-    console.out << set.title << "\n\n";
+    console.out << PrintableText(set.title) << "\n\n";
     PrintCurvesTable(console.out, set, errors);
     if (faults.empty()) console.out << "\nAll checks passed.\n";
   }

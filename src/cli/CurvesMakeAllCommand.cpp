@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <iomanip>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "base/FixedText.h"
 #include "base/Paths.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/JsonOutput.h"
 #include "cli/OutputFile.h"
 #include "curves/ChartAxes.h"
 #include "curves/StationCurves.h"
@@ -123,7 +123,7 @@ nlohmann::ordered_json FindingsJson(const StationCurves& station) {
           {"negatives", found.negative}};
 }
 
-void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
+nlohmann::ordered_json JsonOf(const std::vector<StationCurves>& stations) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const StationCurves& station : stations) {
     list.push_back({{"station", NameOf(station)},
@@ -136,7 +136,7 @@ void PrintJson(std::ostream& out, const std::vector<StationCurves>& stations) {
                     {"abstractionIn", station.options.abstractionIn},
                     {"curves", CurvesJson(station.made.set, AllJudged(station.made.errors))}});
   }
-  out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
+  return {{"stations", list}};
 }
 
 }  // namespace
@@ -170,7 +170,11 @@ Example:
         WarnOfSuspectedCode(console, station.years, NameOf(station));
       }
       WriteAll(request->folder, stations);
-      options.json ? PrintJson(console.out, stations) : PrintText(console.out, stations);
+      if (options.json) {
+        PrintJson(console, JsonOf(stations));
+      } else {
+        PrintText(console.out, stations);
+      }
       return ExitCode::Done;
     });
   };

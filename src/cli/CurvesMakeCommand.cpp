@@ -2,12 +2,13 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "base/FixedText.h"
 #include "base/Paths.h"
+#include "base/PrintableText.h"
 #include "cli/CurvesOptions.h"
 #include "cli/CurvesTable.h"
+#include "cli/JsonOutput.h"
 #include "cli/OutputFile.h"
 #include "curves/ChartAxes.h"
 #include "curves/CurveMaker.h"
@@ -37,7 +38,7 @@ std::string SourceOf(const CurvesMakeRequest& request) {
 
 void PrintText(std::ostream& out, const RainRecord& record, const RainYears& years,
                const MadeCurves& made) {
-  out << made.set.title << '\n'
+  out << PrintableText(made.set.title) << '\n'
       << "Record " << IsoDate(record.first) << " to " << IsoDate(record.last) << ", "
       << years.kept.size() << " usable years (" << years.leftOutYears.size() << " left out, "
       << years.missingDays << " missing days taken as dry), mean "
@@ -46,22 +47,21 @@ void PrintText(std::ostream& out, const RainRecord& record, const RainYears& yea
   PrintCurvesTable(out, made.set, AllJudged(made.errors));
 }
 
-void PrintJson(std::ostream& out, const CurvesMakeRequest& request, const RainRecord& record,
-               const RainYears& years, const MadeCurves& made) {
+nlohmann::ordered_json JsonOf(const CurvesMakeRequest& request, const RainRecord& record,
+                              const RainYears& years, const MadeCurves& made) {
   const PondOptions pond = ToPondOptions(request.pond);
-  const nlohmann::ordered_json object{{"name", request.name},
-                                      {"title", made.set.title},
-                                      {"file", request.file},
-                                      {"first", IsoDate(record.first)},
-                                      {"last", IsoDate(record.last)},
-                                      {"usableYears", years.kept.size()},
-                                      {"meanAnnualIn", years.meanAnnualIn},
-                                      {"wettestDayIn", years.wettestDayIn},
-                                      {"wettestDay", IsoDate(years.wettestDay)},
-                                      {"holdOffDays", pond.holdOffDays},
-                                      {"abstractionIn", pond.abstractionIn},
-                                      {"curves", CurvesJson(made.set, AllJudged(made.errors))}};
-  out << object.dump(2) << '\n';
+  return {{"name", request.name},
+          {"title", made.set.title},
+          {"file", request.file},
+          {"first", IsoDate(record.first)},
+          {"last", IsoDate(record.last)},
+          {"usableYears", years.kept.size()},
+          {"meanAnnualIn", years.meanAnnualIn},
+          {"wettestDayIn", years.wettestDayIn},
+          {"wettestDay", IsoDate(years.wettestDay)},
+          {"holdOffDays", pond.holdOffDays},
+          {"abstractionIn", pond.abstractionIn},
+          {"curves", CurvesJson(made.set, AllJudged(made.errors))}};
 }
 
 // What can be refused before any work is done.
@@ -91,7 +91,7 @@ ExitCode Make(Console& console, bool json, const CurvesMakeRequest& request) {
                  CurveTitle(request.name, SourceOf(request), record, years, pond));
   WriteOutputFile(request.file, CurveFileText(made.set));
   if (json) {
-    PrintJson(console.out, request, record, years, made);
+    PrintJson(console, JsonOf(request, record, years, made));
   } else {
     PrintText(console.out, record, years, made);
   }

@@ -25,13 +25,20 @@ available every day.)";
 namespace {
 
 constexpr int kMostHoldOff = 365;  // days; a longer hold-off would leave hardly a day with use
+constexpr double kMostAbstraction = 10;  // inches; hardly a day of any climate would run off
 
-// The ends that axes may have. A curve covers at least an inch of V and begins above 0, and an R of
-// a few hundredths is less than any irrigation. The upper limits are far beyond any pond.
-constexpr double kLeastVMax = 2;
-constexpr double kMostVMax = 100;
-constexpr double kLeastRMax = 0.05;
-constexpr double kMostRMax = 10;
+// The ends that an axis may have.
+struct AxisLimits {
+  const char* name;  // in its options
+  double least;
+  double largest;
+  const char* unit;
+};
+
+// A curve covers at least an inch of V and begins above 0, and an R of a few hundredths is less
+// than any irrigation. The upper limits are far beyond any pond.
+constexpr AxisLimits kLimitsOfV{"v", 2, 100, "inches"};
+constexpr AxisLimits kLimitsOfR{"r", 0.05, 10, "inches per day"};
 
 std::string ValidatePositive(const std::string& text) {
   std::string fault = ValidateNumber(text);
@@ -41,14 +48,19 @@ std::string ValidatePositive(const std::string& text) {
 
 std::string ValidateHoldOff(const std::string& text) {
   const auto days = ParseWholeNumber(text);
-  return days && *days >= 0 && *days <= kMostHoldOff ? ""
-                                                     : "\"" + text + "\" is not a number of days";
+  return days && *days >= 0 && *days <= kMostHoldOff
+             ? ""
+             : "\"" + text + "\" is not a number of days from 0 to " + std::to_string(kMostHoldOff);
 }
 
 std::string ValidateAbstraction(const std::string& text) {
   std::string fault = ValidateNumber(text);
   if (!fault.empty()) return fault;
-  return ParseNumber(text) >= 0 ? "" : "\"" + text + "\" is below zero";
+  const double inches = ParseNumber(text);
+  if (inches < 0) return "\"" + text + "\" is below zero";
+  return inches <= kMostAbstraction
+             ? ""
+             : "\"" + text + "\" is more than " + ConvertToString(kMostAbstraction) + " inches";
 }
 
 std::string ValidateUnit(const std::string& text) {
@@ -60,10 +72,11 @@ std::string ValidateUnit(const std::string& text) {
   return "\"" + text + "\" is not a unit of rainfall; the units are " + names;
 }
 
-void RequireEnd(const char* option, double most, double least, double largest, const char* unit) {
-  if (most >= least && most <= largest) return;
-  throw UsageError(std::string(option) + " must be " + ConvertToString(least) + " to " +
-                   ConvertToString(largest) + " " + unit + ".");
+void RequireEnd(double most, const AxisLimits& limits) {
+  if (most >= limits.least && most <= limits.largest) return;
+  throw UsageError(std::string("--") + limits.name + "-max must be " +
+                   ConvertToString(limits.least) + " to " + ConvertToString(limits.largest) + " " +
+                   limits.unit + ".");
 }
 
 // " Choose a larger --r-max."
@@ -83,16 +96,18 @@ std::string Advice(const ImplausibleRain& refusal) {
 }
 
 // Sets the axis from 0 to `most` with the interval that was asked for, or a round one.
-void SetAxis(const std::string& mostText, const std::string& intervalText, const char* name,
+void SetAxis(const std::string& mostText, const std::string& intervalText, const AxisLimits& limits,
              double& most, double& interval) {
   if (!mostText.empty()) {
     most = ParseNumber(mostText);
+    RequireEnd(most, limits);
     interval = RoundInterval(most).value_or(0);
   }
   if (!intervalText.empty()) interval = ParseNumber(intervalText);
   if (DividesRange(most, interval)) return;
-  throw UsageError(std::string("--") + name +
-                   "-interval must divide the axis into whole steps: choose one that divides " +
+  throw UsageError(std::string("--") + limits.name +
+                   "-interval must divide the axis into whole steps, " +
+                   std::to_string(kMostAxisSteps) + " at most: choose one that divides " +
                    ConvertToString(most) + ".");
 }
 
@@ -162,10 +177,8 @@ PondOptions ToPondOptions(const PondArguments& arguments) {
 
 ChartAxes ToChartAxes(const AxesArguments& arguments) {
   ChartAxes axes;
-  SetAxis(arguments.VMax, arguments.VInterval, "v", axes.VMax, axes.VInterval);
-  SetAxis(arguments.RMax, arguments.RInterval, "r", axes.RMax, axes.RInterval);
-  RequireEnd("--v-max", axes.VMax, kLeastVMax, kMostVMax, "inches");
-  RequireEnd("--r-max", axes.RMax, kLeastRMax, kMostRMax, "inches per day");
+  SetAxis(arguments.VMax, arguments.VInterval, kLimitsOfV, axes.VMax, axes.VInterval);
+  SetAxis(arguments.RMax, arguments.RInterval, kLimitsOfR, axes.RMax, axes.RInterval);
   return axes;
 }
 

@@ -9,6 +9,7 @@
 #include "base/NumberText.h"
 #include "base/Paths.h"
 #include "cli/Command.h"
+#include "cli/JsonOutput.h"
 
 namespace orvik {
 namespace {
@@ -23,9 +24,14 @@ void AddCommand(CLI::App& app, Commands& commands, CommandRun (*add)(CLI::App&))
   commands.emplace_back(command, std::move(run));
 }
 
-// The parser's texts do not always end with a line end; ours do.
-void PrintWhole(std::ostream& stream, const std::string& text) {
-  stream << text << (text.ends_with('\n') ? "" : "\n");
+// What the parser prints: help and version are data, all else is a message.
+ExitCode PrintParserText(Console& console, const std::string& text, bool asked) {
+  if (!asked) {
+    PrintMessage(console, text);
+    return ExitCode::WrongUsage;
+  }
+  console.out << text << (text.ends_with('\n') ? "" : "\n");
+  return ExitCode::Done;
 }
 
 ExitCode RunChosen(const Commands& commands, Console& console, const CommonOptions& options) {
@@ -71,10 +77,18 @@ Exit codes: 0 done; 1 no result, or a check failed (the reason is on standard er
     }
     std::ostringstream text;
     app.exit(error, text, text);
-    PrintWhole(asked ? console.out : console.err, text.str());
-    return asked ? ExitCode::Done : ExitCode::WrongUsage;
+    return PrintParserText(console, text.str(), asked);
   }
   return RunChosen(commands, console, options);
+}
+
+ExitCode RunOrSayWhyNot(const std::vector<std::string>& arguments, Console& console) {
+  try {
+    return ParseAndRun(arguments, console);
+  } catch (const std::exception& error) {
+    PrintMessage(console, std::string("The command could not be finished: ") + error.what());
+  }
+  return ExitCode::FileError;
 }
 
 }  // namespace
@@ -88,12 +102,12 @@ std::string ValidateNumber(const std::string& text) {
 }
 
 int RunKav(const std::vector<std::string>& arguments, Console& console) {
-  try {
-    return static_cast<int>(ParseAndRun(arguments, console));
-  } catch (const std::exception& error) {
-    PrintMessage(console, std::string("The command could not be finished: ") + error.what());
+  const ExitCode exitCode = RunOrSayWhyNot(arguments, console);
+  const bool wantsJson = std::ranges::find(arguments, "--json") != arguments.end();
+  if (wantsJson && exitCode != ExitCode::Done && !console.hasPrintedJson) {
+    PrintJsonOfFailure(console, exitCode);
   }
-  return static_cast<int>(ExitCode::FileError);
+  return static_cast<int>(exitCode);
 }
 
 int RunKavAndFlush(const std::vector<std::string>& arguments, Console& console) {

@@ -14,6 +14,9 @@ namespace orvik {
 std::optional<OpenedProject> OpenProject(Console& console, const std::string& path,
                                          const std::string& dataFolder);
 
+// Why the project has no result; empty where it has one.
+std::string WhyNoResult(const OpenedProject& opened);
+
 // Prints why the project has no result, if it has none. The exit code: Done with a result, else
 // Refused.
 ExitCode PrintMissingResult(Console& console, const OpenedProject& opened);

@@ -5,6 +5,7 @@
 #include "base/FileError.h"
 #include "cli/Command.h"
 #include "cli/DateOption.h"
+#include "cli/JsonOutput.h"
 #include "cli/OutputFile.h"
 #include "cli/ProjectOpening.h"
 #include "platform/cairo/CairoPrinter.h"
@@ -52,6 +53,11 @@ ExitCode RunReport(Console& console, const CommonOptions& options, const ReportR
   } catch (const FileError& error) {
     PrintMessage(console, error.what());
     return ExitCode::FileError;
+  }
+  if (options.json) {
+    PrintJson(console, {{"file", request.output},
+                        {"message", WhyNoResult(*opened)},
+                        {"helpTopic", HelpTopic(opened->shown.id)}});
   }
   return PrintMissingResult(console, *opened);
 }

@@ -1,12 +1,14 @@
 // kav solve: two of R, V and E in, the third out.
 #include <iomanip>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "base/NumberText.h"
+#include "base/PrintableText.h"
 #include "base/RuntimeErrors.h"
 #include "cli/Command.h"
+#include "cli/JsonOutput.h"
 #include "cli/StationQuestion.h"
+#include "design/DesignPoint.h"
 #include "design/Messages.h"
 
 namespace orvik {
@@ -17,15 +19,14 @@ nlohmann::ordered_json JsonNumber(const std::string& text) {
   return ParseNumber(text);
 }
 
-void PrintJson(std::ostream& out, const Question& answer, const Message& message) {
+nlohmann::ordered_json JsonOf(const Question& answer, const Message& message) {
   const bool isSolved = message.id == MessageId::Success;
-  const nlohmann::ordered_json object{{"station", answer.station},
-                                      {"R", JsonNumber(answer.R)},
-                                      {"V", JsonNumber(answer.V)},
-                                      {"E", JsonNumber(answer.E)},
-                                      {"message", isSolved ? "" : Sentence(message)},
-                                      {"helpTopic", HelpTopic(message.id)}};
-  out << object.dump(2) << '\n';
+  return {{"station", answer.station},
+          {"R", JsonNumber(answer.R)},
+          {"V", JsonNumber(answer.V)},
+          {"E", JsonNumber(answer.E)},
+          {"message", isSolved ? "" : Sentence(message)},
+          {"helpTopic", HelpTopic(message.id)}};
 }
 
 void PrintRow(std::ostream& out, std::string_view caption, const std::string& value,
@@ -40,7 +41,7 @@ void PrintText(std::ostream& out, const Question& asked, const Question& answer,
   PrintRow(out, "Reuse rate R", answer.R, "in/day on the EIA", asked.R.empty());
   PrintRow(out, "Storage volume V", answer.V, "in on the EIA", asked.V.empty());
   PrintRow(out, "Efficiency E", answer.E, "% of the runoff", asked.E.empty());
-  out << std::left << std::setw(19) << "Curves" << title << '\n';
+  out << std::left << std::setw(19) << "Curves" << PrintableText(title) << '\n';
 }
 
 ExitCode Answer(Console& console, bool json, const FramedCurves& curves, const Question& asked) {
@@ -48,7 +49,7 @@ ExitCode Answer(Console& console, bool json, const FramedCurves& curves, const Q
   const Message message = Solve(curves, answer).message;
   const bool isSolved = message.id == MessageId::Success;
   if (json) {
-    PrintJson(console.out, answer, message);
+    PrintJson(console, JsonOf(answer, message));
   } else if (isSolved) {
     PrintText(console.out, asked, answer, curves.Curves().title);
   }

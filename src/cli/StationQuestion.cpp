@@ -2,9 +2,9 @@
 
 #include "base/NumberText.h"
 #include "design/DesignPoint.h"
+#include "design/FileHints.h"
 #include "design/OutcomeMessage.h"
 #include "engine/ClimateStations.h"
-#include "engine/CurveFileDiagnosis.h"
 #include "engine/CurveLoading.h"
 
 namespace orvik {
@@ -37,10 +37,19 @@ DesignPoint Solve(const FramedCurves& curves, Question& question) {
   return point;
 }
 
-std::string DescribeDamage(const std::string& folder, std::int16_t station) {
-  const std::string why = DiagnoseCurveFile(CurveFilePath(folder, station));
-  return "The curve file of " + std::string(ClimateStationName(station)) +
-         (why.empty() ? " is damaged or cannot be read." : " cannot be read: " + why + ".");
+std::string SentenceOfDamage(const std::string& file, const LoadedCurves& loaded) {
+  return file + (loaded.textFault == TextFault::HasOnlyLineFeeds
+                     ? " cannot be read: its lines must end with CR LF."
+                     : " is damaged or cannot be read.");
+}
+
+void PrintWhyNotLoaded(Console& console, const LoadedCurves& loaded, std::int16_t station) {
+  const Message message = MessageOf(loaded.outcome, loaded.path, station);
+  PrintMessage(console,
+               message.id != MessageId::None
+                   ? Sentence(message)
+                   : SentenceOfDamage(
+                         "The curve file of " + std::string(ClimateStationName(station)), loaded));
 }
 
 StationAnswer LoadStation(Console& console, const std::string& dataFolder,
@@ -58,11 +67,11 @@ StationAnswer LoadStation(Console& console, const std::string& dataFolder,
   const LoadedCurves loaded = LoadStationCurves(folder, *station);
   if (loaded.curves) {
     answer.curves.emplace(loaded.curves, ReferenceGeometry(*loaded.curves));
+    PrintHints(console, HintsOf(loaded));
     return answer;
   }
-  const Message message = MessageOf(loaded.outcome, folder, *station);
-  PrintMessage(console, message.id == MessageId::None ? DescribeDamage(folder, *station)
-                                                      : Sentence(message));
+  PrintWhyNotLoaded(console, loaded, *station);
+  PrintHints(console, HintsOf(loaded));
   answer.exitCode = ExitCode::FileError;
   return answer;
 }

@@ -11,6 +11,7 @@
 namespace orvik {
 
 struct DesignPoint;
+struct LoadedCurves;
 
 // What the user gave; a quantity that was not given is empty.
 struct Question {
@@ -39,9 +40,11 @@ struct StationAnswer {
 
 StationAnswer LoadStation(Console& console, const std::string& dataFolder, const std::string& name);
 
-// The sentence for the station of this number whose file exists but cannot be used. `folder` is
-// that of the curve files.
-std::string DescribeDamage(const std::string& folder, std::int16_t station);
+// Prints why the curves of the station of this number were not loaded.
+void PrintWhyNotLoaded(Console& console, const LoadedCurves& loaded, std::int16_t station);
+
+// The sentence for a curve file that exists but cannot be used; `file` is its beginning.
+std::string SentenceOfDamage(const std::string& file, const LoadedCurves& loaded);
 
 // Prints that the curves of this station led to a numeric fault.
 ExitCode RefuseCurves(Console& console, const std::string& station);

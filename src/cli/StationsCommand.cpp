@@ -1,10 +1,10 @@
 // kav stations: lists the climate stations, and which of them have curves.
 #include <iomanip>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "base/Paths.h"
 #include "cli/Command.h"
+#include "cli/JsonOutput.h"
 #include "engine/ClimateStations.h"
 
 namespace orvik {
@@ -26,12 +26,12 @@ std::vector<StationRow> FindStations(const std::string& dataFolder) {
   return rows;
 }
 
-void PrintJson(std::ostream& out, const std::vector<StationRow>& rows) {
+nlohmann::ordered_json JsonOf(const std::vector<StationRow>& rows) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const StationRow& row : rows) {
     list.push_back({{"number", row.number}, {"station", row.name}, {"curves", row.hasCurves}});
   }
-  out << nlohmann::ordered_json{{"stations", list}}.dump(2) << '\n';
+  return {{"stations", list}};
 }
 
 void PrintText(std::ostream& out, const std::vector<StationRow>& rows) {
@@ -44,7 +44,11 @@ void PrintText(std::ostream& out, const std::vector<StationRow>& rows) {
 
 ExitCode RunStations(Console& console, const CommonOptions& options) {
   const auto rows = FindStations(DataFolder(console, options));
-  options.json ? PrintJson(console.out, rows) : PrintText(console.out, rows);
+  if (options.json) {
+    PrintJson(console, JsonOf(rows));
+  } else {
+    PrintText(console.out, rows);
+  }
   return ExitCode::Done;
 }
 

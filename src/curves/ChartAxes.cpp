@@ -26,7 +26,8 @@ constexpr int kLeastPower = -4;
 bool DividesRange(double range, double interval) {
   if (!(interval > 0)) return false;
   const double steps = range / interval;
-  return steps > kHalfPart && std::fabs(steps - std::round(steps)) < kWholeSlack;
+  return steps > kHalfPart && steps < kMostAxisSteps + kHalfPart &&
+         std::fabs(steps - std::round(steps)) < kWholeSlack;
 }
 
 std::optional<double> RoundInterval(double range) {

@@ -14,7 +14,11 @@ struct ChartAxes {
   double RInterval = 0.05;
 };
 
-// True when numbers at this interval end exactly at the end of the range.
+// An axis has no more steps than this: more numbers have no room beside a chart of any size.
+inline constexpr int kMostAxisSteps = 100;
+
+// True when numbers at this interval end exactly at the end of the range, in at most
+// kMostAxisSteps steps.
 bool DividesRange(double range, double interval);
 
 // A round interval (1, 2 or 5 times a power of ten) that divides the range into 5 to 20 parts;

@@ -6,6 +6,7 @@
 
 #include "base/FixedText.h"
 #include "base/NumberText.h"
+#include "base/PrintableText.h"
 #include "curves/ChartAxes.h"
 #include "curves/CurveFit.h"
 #include "engine/CurveSet.h"
@@ -58,7 +59,8 @@ class Checker {
 
   void CheckInterval(const std::string& axis, double range, double interval) {
     if (DividesRange(range, interval)) return;
-    Say("The interval of the " + axis + " axis does not divide its range into whole steps.");
+    Say("The interval of the " + axis + " axis does not divide its range into whole steps, " +
+        std::to_string(kMostAxisSteps) + " at most.");
   }
 
   bool CheckNumbers(std::size_t i) {
@@ -135,7 +137,7 @@ class Checker {
         label.R <= set_.RMax) {
       return;
     }
-    Say("The label \"" + label.Text + "\" lies outside the chart.");
+    Say("The label \"" + Quotable(label.Text) + "\" lies outside the chart.");
   }
 
   const CurveSet& set_;

@@ -12,84 +12,122 @@
 namespace orvik {
 namespace {
 
-// A stream on a file never reports a failed read: a file that ends early would go on as zeros,
-// which are wrong curves. So each read asks first.
-bool ScanLine(clsIOStream& stream, std::string& line) {
-  return !stream.EndOfFile() && stream.ScanString(line);
-}
-
-bool ScanCount(clsIOStream& stream, std::int16_t& count) {
-  return !stream.EndOfFile() && stream.ScanInteger(count);
-}
-
-// One whole line as a number; letters read as 0, a value beyond a double fails.
-bool ScanNumber(clsIOStream& stream, double& value) {
-  std::string line;
-  if (!ScanLine(stream, line)) return false;
-  value = ParseNumber(line);
-  return std::isfinite(value);
-}
-
 bool HasExtent(double min, double max) {
   return max > min && std::isfinite(max - min);
-}
-
-bool ReadHeader(clsIOStream& stream, CurveSet& set) {
-  return ScanLine(stream, set.title) && ScanNumber(stream, set.VMin) &&
-         ScanNumber(stream, set.VMax) && ScanNumber(stream, set.VInterval) &&
-         ScanNumber(stream, set.RMin) && ScanNumber(stream, set.RMax) &&
-         ScanNumber(stream, set.RInterval) && HasExtent(set.VMin, set.VMax) &&
-         HasExtent(set.RMin, set.RMax);
 }
 
 bool AreFinite(const std::vector<double>& values) {
   return std::ranges::all_of(values, [](double value) { return std::isfinite(value); });
 }
 
-bool ReadCurve(clsIOStream& stream, EfficiencyCurve& curve) {
-  // An E that single precision cannot hold leaves the value as it is here and is refused below.
-  curve.E = std::numeric_limits<float>::quiet_NaN();
-  if (stream.EndOfFile() || !stream.ScanSingle(curve.E) || !ScanNumber(stream, curve.VStart) ||
-      !ScanNumber(stream, curve.VEnd) || !ScanNumber(stream, curve.A) ||
-      !ScanNumber(stream, curve.B) || !ScanNumber(stream, curve.C) ||
-      !ScanNumber(stream, curve.D)) {
+// A stream on a file never reports a failed read: a file that ends early would go on as zeros,
+// which are wrong curves. So each read asks first.
+class CurveFileReader {
+ public:
+  CurveFileReader(clsIOStream& stream, CurveSet& set) : stream_(stream), set_(set) {}
+
+  CurveReading Read() {
+    if (ReadHeader() && ReadCurves() && !IsAtEndOfCurves()) ReadLabels();
+    reading_.endsWithinLine = stream_.EndsWithinLine();
+    return reading_;
+  }
+
+ private:
+  bool Fail(CurveFault fault) {
+    reading_.fault = fault;
     return false;
   }
-  if (!std::isfinite(curve.E) || !(curve.VStart > 0)) return false;
-  SampleCurve(curve);
-  return AreFinite(curve.V) && AreFinite(curve.R);
-}
 
-bool ReadCurves(clsIOStream& stream, CurveSet& set) {
-  std::int16_t count = 0;
-  if (!ScanCount(stream, count) || count < 1) return false;
-  set.curves.clear();
-  for (int i = 0; i < count; ++i) {
-    if (!ReadCurve(stream, set.curves.emplace_back())) return false;
+  bool Expect(bool isAsItShould, CurveFault fault) { return isAsItShould || Fail(fault); }
+
+  bool ReadLine(std::string& line) {
+    if (stream_.EndOfFile()) return Fail(endsHere_);
+    return stream_.ScanString(line);
   }
-  return true;
-}
 
-bool ReadLabel(clsIOStream& stream, CurveLabel& label) {
-  std::string position;
-  return ScanLine(stream, label.Text) && ScanLine(stream, position) &&
-         SplitXandY(position, label.V, label.R);
-}
-
-bool ReadLabels(clsIOStream& stream, CurveSet& set) {
-  std::int16_t count = 0;
-  if (!ScanCount(stream, count)) return false;
-  set.labels.clear();
-  for (int i = 0; i < count; ++i) {
-    if (!ReadLabel(stream, set.labels.emplace_back())) return false;
+  bool ReadCount(std::int16_t& count) {
+    if (stream_.EndOfFile()) return Fail(endsHere_);
+    return stream_.ScanInteger(count);
   }
-  return true;
-}
+
+  // One whole line as a number; letters read as 0, a value beyond a double is a fault.
+  bool ReadNumber(double& value) {
+    std::string line;
+    if (!ReadLine(line)) return false;
+    value = ParseNumber(line);
+    return Expect(std::isfinite(value), CurveFault::UnusableNumber);
+  }
+
+  bool ReadHeader() {
+    return ReadLine(set_.title) && ReadNumber(set_.VMin) && ReadNumber(set_.VMax) &&
+           ReadNumber(set_.VInterval) && ReadNumber(set_.RMin) && ReadNumber(set_.RMax) &&
+           ReadNumber(set_.RInterval) &&
+           Expect(HasExtent(set_.VMin, set_.VMax) && HasExtent(set_.RMin, set_.RMax),
+                  CurveFault::AxisWithoutExtent);
+  }
+
+  bool ReadE(float& E) {
+    // An E that single precision cannot hold leaves the value as it is here.
+    E = std::numeric_limits<float>::quiet_NaN();
+    if (stream_.EndOfFile()) return Fail(endsHere_);
+    return stream_.ScanSingle(E) &&
+           Expect(std::isfinite(E), stream_.EndOfFile() ? endsHere_ : CurveFault::UnusableNumber);
+  }
+
+  bool ReadCurve(EfficiencyCurve& curve) {
+    if (!ReadE(curve.E) || !ReadNumber(curve.VStart) || !ReadNumber(curve.VEnd) ||
+        !ReadNumber(curve.A) || !ReadNumber(curve.B) || !ReadNumber(curve.C) ||
+        !ReadNumber(curve.D)) {
+      return false;
+    }
+    if (!(curve.VStart > 0)) return Fail(CurveFault::UnusableNumber);
+    SampleCurve(curve);
+    return Expect(AreFinite(curve.V) && AreFinite(curve.R), CurveFault::UnusableNumber);
+  }
+
+  bool ReadCurves() {
+    std::int16_t count = 0;
+    if (!ReadCount(count)) return false;
+    if (count < 1) return Fail(CurveFault::NoCurves);
+    endsHere_ = CurveFault::EndsWithinCurves;
+    set_.curves.clear();
+    for (int i = 0; i < count; ++i) {
+      if (!ReadCurve(set_.curves.emplace_back())) return false;
+    }
+    // Without its line end, the last coefficient may have lost digits.
+    return Expect(!stream_.EndsWithinLine(), endsHere_);
+  }
+
+  bool IsAtEndOfCurves() {
+    set_.labels.clear();
+    return stream_.EndOfFile();
+  }
+
+  bool ReadLabel(CurveLabel& label) {
+    std::string position;
+    return ReadLine(label.Text) && ReadLine(position) &&
+           Expect(SplitXandY(position, label.V, label.R), CurveFault::LabelWithoutPlace);
+  }
+
+  void ReadLabels() {
+    endsHere_ = CurveFault::EndsWithinLabels;
+    std::int16_t count = 0;
+    reading_.hasLabelCount = ReadCount(count);
+    for (int i = 0; i < count; ++i) {
+      if (!ReadLabel(set_.labels.emplace_back())) return;
+    }
+  }
+
+  clsIOStream& stream_;
+  CurveSet& set_;
+  CurveReading reading_;
+  CurveFault endsHere_ = CurveFault::EndsBeforeCurves;
+};
 
 }  // namespace
 
-bool ReadCurveFile(clsIOStream& stream, CurveSet& set) {
-  return ReadHeader(stream, set) && ReadCurves(stream, set) && ReadLabels(stream, set);
+CurveReading ReadCurveFile(clsIOStream& stream, CurveSet& set) {
+  return CurveFileReader(stream, set).Read();
 }
 
 }  // namespace orvik

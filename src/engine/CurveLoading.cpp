@@ -3,7 +3,6 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "engine/ClimateStations.h"
-#include "engine/CurveFile.h"
 #include "engine/CurveSet.h"
 #include "stream/clsIOStream.h"
 
@@ -13,20 +12,26 @@ std::string CurveFolderBelow(const std::string& dataFolder) {
   return dataFolder + "KAV Data" + kPathSeparator;
 }
 
-std::string CurveFilePath(const std::string& folder, std::int16_t station) {
-  return folder + std::string(Trim(ClimateStationName(station))) + ".crv";
+LoadedCurves LoadStationCurves(const std::string& folder, std::int16_t station) {
+  const std::string path = folder + std::string(Trim(ClimateStationName(station))) + ".crv";
+  if (!FolderExists(folder)) return {.outcome = LoadOutcome::FolderMissing, .path = folder};
+  return LoadCurveFile(path);
 }
 
-LoadedCurves LoadStationCurves(const std::string& folder, std::int16_t station) {
-  const std::string file = CurveFilePath(folder, station);
-  if (!FolderExists(folder)) return {LoadOutcome::FolderMissing, nullptr};
-  if (!FileExists(file)) return {LoadOutcome::FileMissing, nullptr};
+LoadedCurves LoadCurveFile(const std::string& path) {
+  if (!FileExists(path)) return {.outcome = LoadOutcome::FileMissing, .path = path};
+  LoadedCurves loaded{.outcome = LoadOutcome::Unreadable, .path = path};
   clsIOStream stream;
   auto curves = std::make_shared<CurveSet>();
-  if (!stream.OpenFile(file, enumIOStreamMode::AsciiFileInput) || !ReadCurveFile(stream, *curves)) {
-    return {LoadOutcome::Unreadable, nullptr};
+  stream.OpenFile(path, enumIOStreamMode::AsciiFileInput);
+  loaded.reading = ReadCurveFile(stream, *curves);
+  if (loaded.reading.IsUsable()) {
+    loaded.outcome = LoadOutcome::Loaded;
+    loaded.curves = std::move(curves);
+  } else {
+    loaded.textFault = FindTextFault(path);
   }
-  return {LoadOutcome::Loaded, std::move(curves)};
+  return loaded;
 }
 
 }  // namespace orvik

@@ -76,6 +76,10 @@ bool FileCommands::LoadFile(std::string_view path) {
   return isRead;
 }
 
+std::vector<Hint> FileCommands::Hints() const {
+  return file_.Hints();
+}
+
 bool FileCommands::ReadFile(std::string_view text) {
   const std::string project(text);
   ClearData();

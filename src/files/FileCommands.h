@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace orvik {
 
@@ -13,6 +14,7 @@ class Desktop;
 class ProjectFile;
 class SolveForWorkflow;
 struct FileDialog;
+struct Hint;
 struct ProjectForm;
 
 class FileCommands {
@@ -68,6 +70,10 @@ class FileCommands {
 
   // Raised when the fields hold another project, or what could be read of one.
   std::function<void()> OnProjectReplaced;
+
+  // What is to be said of the project that was opened last (see ProjectFile): known once it is
+  // opened, or once that failed.
+  std::vector<Hint> Hints() const;
 
   const std::string& CurrentPath() const { return currentPath_; }  // empty: untitled
 

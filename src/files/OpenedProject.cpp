@@ -5,8 +5,10 @@
 #include "base/NumberText.h"
 #include "base/RuntimeErrors.h"
 #include "design/Calculate.h"
+#include "design/FileHints.h"
 #include "design/OutcomeMessage.h"
 #include "engine/ClimateStations.h"
+#include "files/ProjectHints.h"
 #include "files/ProjectText.h"
 #include "stream/clsIOStream.h"
 
@@ -43,6 +45,7 @@ void LoadCurves(OpenedProject& opened, const std::string& dataFolder) {
   opened.station = LoadStationCurves(folder, station);
   const Message message = MessageOf(opened.station.outcome, folder, station);
   if (message.id != MessageId::None) opened.messages.push_back(message);
+  for (Hint& hint : HintsOf(opened.station)) opened.hints.push_back(std::move(hint));
   if (opened.station.curves) {
     opened.curves.emplace(opened.station.curves, ReferenceGeometry(*opened.station.curves));
   }
@@ -65,6 +68,7 @@ OpenedProject OpenProjectFile(const std::string& path, const std::string& dataFo
   opened.isRead = reading.isWhole;
   opened.project = ToProject(reading);
   if (reading.refusal.id != MessageId::None) opened.messages.push_back(reading.refusal);
+  opened.hints = HintsOf(reading, path);
   LoadCurves(opened, dataFolder);
   if (!opened.isRead) {
     opened.messages.push_back({MessageId::ProjectFileUnreadable});

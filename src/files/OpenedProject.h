@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "design/Hints.h"
 #include "design/Project.h"
 #include "engine/CurveLoading.h"
 #include "engine/FramedCurves.h"
@@ -16,6 +17,7 @@ struct OpenedProject {
   bool isRead = false;  // as a whole
   // The message boxes that a window would have shown on opening it, in their order.
   std::vector<Message> messages;
+  std::vector<Hint> hints;             // about the file and its station's curves
   LoadedCurves station;                // Cleared where the project has no station
   std::optional<FramedCurves> curves;  // of the station, in the frame without a window
   Project project;                     // with its results, as the fields would show it

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "files/ProjectHints.h"
 #include "files/ProjectText.h"
 #include "platform/Desktop.h"
 #include "project/FaultsOnBar.h"
@@ -18,6 +19,7 @@ bool ProjectFile::SaveDataInBuffer(clsIOStream& stream) const {
 
 bool ProjectFile::ReadDataFromBuffer(clsIOStream& stream) {
   const ProjectReading reading = ReadProject(stream);
+  hints_ = HintsOf(reading, stream.FileName());
   if (reading.refusal.id != MessageId::None) {
     desktop_.ShowError(Sentence(reading.refusal));
     return false;
@@ -54,7 +56,14 @@ void ProjectFile::TakeOverTexts(const ProjectReading& reading,
   }
 }
 
+std::vector<Hint> ProjectFile::Hints() const {
+  std::vector<Hint> hints = hints_;
+  hints.insert(hints.end(), chart_.LoadHints().begin(), chart_.LoadHints().end());
+  return hints;
+}
+
 void ProjectFile::ClearData() {
+  hints_.clear();
   const auto empty = [this](bool description) {
     for (const FieldDesign& field : Fields()) {
       if (field.IsDescription() == description) form_.Box(field.id).Text("");

@@ -3,6 +3,9 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <vector>
+
+#include "design/Hints.h"
 
 namespace orvik {
 
@@ -33,6 +36,10 @@ class ProjectFile {
   // list chooses nothing.
   bool ReadDataFromBuffer(clsIOStream& stream);
 
+  // What is to be said of the project that was read last and of the station's curves as they are
+  // now. Of a stream on a text rather than a file, only its content is spoken of.
+  std::vector<Hint> Hints() const;
+
   // Every field to its empty default: an empty project.
   void ClearData();
 
@@ -45,6 +52,7 @@ class ProjectFile {
   FormBinding& binding_;
   SolveForWorkflow& workflow_;
   Desktop& desktop_;
+  std::vector<Hint> hints_;
 };
 
 }  // namespace orvik

@@ -47,37 +47,47 @@ bool WriteHotspot(clsIOStream& stream, const DesignPoint& point) {
 
 // --- Reading ---
 
-// A file never reports a failed read; so the end is asked for first.
-bool ReadLine(clsIOStream& stream, std::string& line) {
-  return !stream.EndOfFile() && stream.ScanString(line);
-}
-
-bool SkipLine(clsIOStream& stream) {
-  std::string ignored;
-  return ReadLine(stream, ignored);
-}
-
-bool ReadWholeNumber(clsIOStream& stream, std::optional<std::int16_t>& number) {
-  std::string line;
-  if (ReadLine(stream, line)) number = ParseWholeNumber(line);
-  return number.has_value();
-}
-
 class Reader {
  public:
   explicit Reader(clsIOStream& stream) : stream_(stream) {}
 
   ProjectReading Read() {
     reading_.isWhole =
-        ReadMagic() && SkipLine(stream_) && ReadFields(IsDescription) && ReadSite() && ReadDesign();
+        ReadMagic() && SkipLine() && ReadFields(IsDescription) && ReadSite() && ReadDesign();
+    reading_.endsWithinLine = stream_.EndsWithinLine();
     return std::move(reading_);
   }
 
  private:
-  bool ReadMagic() {
+  // A file never reports a failed read; so the end is asked for first.
+  bool ReadLine(std::string& line) {
+    if (stream_.EndOfFile() || !stream_.ScanString(line)) {
+      reading_.endsEarly = true;
+      return false;
+    }
+    ++reading_.lines;
+    if (!reading_.lineFeedLine && line.find('\n') != std::string::npos) {
+      reading_.lineFeedLine = reading_.lines;
+    }
+    return true;
+  }
+
+  bool SkipLine() {
+    std::string ignored;
+    return ReadLine(ignored);
+  }
+
+  bool ReadWholeNumber(std::optional<std::int16_t>& number) {
     std::string line;
-    if (!ReadLine(stream_, line)) return false;
-    const std::string_view magic = Trim(line);
+    if (!ReadLine(line)) return false;
+    number = ParseWholeNumber(line);
+    if (!number) reading_.badLine = reading_.lines;
+    return number.has_value();
+  }
+
+  bool ReadMagic() {
+    if (!ReadLine(reading_.firstLine)) return false;
+    const std::string_view magic = Trim(reading_.firstLine);
     if (!magic.starts_with(kMagic.substr(0, kMagicPrefix))) {
       return Refuse(MessageId::NotAProjectFile);
     }
@@ -95,7 +105,7 @@ class Reader {
 
   bool ReadField(Field field) {
     std::string line;
-    if (!ReadLine(stream_, line)) return false;
+    if (!ReadLine(line)) return false;
     reading_.texts[static_cast<std::size_t>(field)] = std::move(line);
     return true;
   }
@@ -108,10 +118,10 @@ class Reader {
     return true;
   }
 
-  // The station's name is there for people who read the file.
+  // The station's name is there for people who read the file; the number decides.
   bool ReadSite() {
-    return ReadWholeNumber(stream_, reading_.station) && SkipLine(stream_) &&
-           ReadWholeNumber(stream_, reading_.mode) && ReadFields(IsSiteNumber);
+    return ReadWholeNumber(reading_.station) && ReadLine(reading_.stationName) &&
+           ReadWholeNumber(reading_.mode) && ReadFields(IsSiteNumber);
   }
 
   bool ReadDesign() {
@@ -123,10 +133,10 @@ class Reader {
 
   bool ReadHotspot() {
     std::optional<std::int16_t> isShown;
-    if (!ReadWholeNumber(stream_, isShown)) return false;
+    if (!ReadWholeNumber(isShown)) return false;
     if (*isShown == 0) return true;
     StoredPoint point;
-    if (!ReadLine(stream_, point.R) || !ReadLine(stream_, point.V)) return false;
+    if (!ReadLine(point.R) || !ReadLine(point.V)) return false;
     reading_.point = std::move(point);
     return true;
   }

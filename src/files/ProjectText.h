@@ -38,6 +38,15 @@ struct ProjectReading {
   Message refusal;  // why the first line is not that of a project file of this version
   bool isWhole = false;
 
+  // What a hint may say of it.
+  std::string firstLine;
+  std::string stationName;          // as the file has it
+  int lines = 0;                    // that were read
+  bool endsEarly = false;           // before its last line
+  bool endsWithinLine = false;      // its last line has no line end; only in a file
+  std::optional<int> lineFeedLine;  // the first that has a line feed in it, from 1
+  std::optional<int> badLine;       // a line that should be a whole number, from 1
+
   const std::optional<std::string>& Text(Field field) const {
     return texts[static_cast<std::size_t>(field)];
   }

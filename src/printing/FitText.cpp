@@ -102,11 +102,12 @@ std::vector<std::string> WrapText(std::string_view text, float width, const Text
 }
 
 std::string FitText(std::string_view text, float width, const TextWidth& widthOf) {
-  if (widthOf(text) <= width) return std::string(text);
+  const std::string_view piece = Piece(text);
+  const bool isShort = piece.size() == text.size();
+  if (widthOf(piece) <= width && (isShort || widthOf(text) <= width)) return std::string(text);
   const TextWidth withDots = [&](std::string_view part) {
     return widthOf(std::string(Trim(part)) + "...");
   };
-  const std::string_view piece = Piece(text);
   const std::size_t end = LongestFit(piece, EndsOfCharacters(piece), width, withDots);
   return std::string(Trim(piece.substr(0, end))) + "...";
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/PrintableText.h"
 #include "base/Rounding.h"
 #include "base/RuntimeErrors.h"
 #include "chart/ChartPrinting.h"
@@ -49,7 +50,7 @@ std::string GallonsPerDay(const Project& project) {
 }  // namespace
 
 std::string ReportTitle(const Project& project) {
-  const std::string name = project.Trimmed(Field::ProjectName);
+  const std::string name = PrintableText(project.Trimmed(Field::ProjectName));
   return "Stormwater Harvesting Report" + (name.empty() ? "" : " - " + name);
 }
 

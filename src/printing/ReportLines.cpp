@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/PrintableText.h"
 #include "base/Text.h"
 #include "printing/FitText.h"
 
@@ -14,12 +15,12 @@ constexpr float kIndent = 1.2F;         // of captions, in body lines
 constexpr float kColumnGap = 2;         // between captions and values, in body lines
 constexpr float kMostCaption = 0.6F;    // of the body's width
 
+// Some pages; of a longer text, which nobody types, the report has the beginning and "...".
+constexpr std::size_t kMostPrinted = 12000;
+
 // One line of printable text: what breaks lines or moves the pen is a blank.
 std::string Printable(std::string_view text) {
-  std::string line = FoldLineEnds(text);
-  std::ranges::replace_if(
-      line, [](char c) { return '\0' <= c && c < ' '; }, ' ');
-  return std::string(Trim(line));
+  return std::string(Trim(PrintableText(FoldLineEnds(text), kMostPrinted)));
 }
 
 }  // namespace

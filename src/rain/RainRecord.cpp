@@ -8,6 +8,7 @@
 #include "base/FileError.h"
 #include "base/NumberText.h"
 #include "base/Paths.h"
+#include "base/PrintableText.h"
 #include "base/Text.h"
 #include "base/TextEncoding.h"
 #include "rain/CsvText.h"
@@ -17,6 +18,15 @@ namespace orvik {
 namespace {
 
 constexpr std::size_t kMostErrorsShown = 5;
+
+// A longer line is no row of a table; it is refused before it is split.
+constexpr std::size_t kMostLineBytes = 65536;
+
+// The wettest day ever measured, 72 inches, read in the unit that makes most of it: a number of
+// hundredths of an inch or of tenths of a millimetre that is taken for inches is up to 254 times
+// too large. The mean annual rainfall finds such a mistake and names the right unit; a depth beyond
+// this makes no sense in any unit.
+constexpr double kMostDepthIn = 72 * 254;
 
 // A row of the file; each has a date.
 struct Row {
@@ -72,6 +82,14 @@ ColumnPlaces FindColumns(const std::vector<std::string>& header, const RainColum
       FindColumn(header, "station")};
 }
 
+std::string LineTooLong() {
+  return "it has more than " + std::to_string(kMostLineBytes) + " bytes";
+}
+
+std::string Quote(std::string_view text) {
+  return "\"" + Quotable(text) + "\"";
+}
+
 bool IsDigits(std::string_view text) {
   return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
@@ -79,6 +97,7 @@ bool IsDigits(std::string_view text) {
 // Added to the sentence that refuses a depth where it looks like "12,7"; else empty.
 std::string DecimalCommaHint(std::string_view depth) {
   const auto comma = std::min(depth.find(','), depth.size());
+  if (depth.size() > kMostQuoted) return {};
   const std::string whole(depth.substr(0, comma));
   const std::string fraction(depth.substr(std::min(comma + 1, depth.size())));
   if (!IsDigits(whole) || !IsDigits(fraction)) return {};
@@ -89,10 +108,11 @@ std::string DecimalCommaHint(std::string_view depth) {
 // Reads the rows of a file, and collects a sentence about each that cannot be read.
 class RowReader {
  public:
-  RowReader(const ColumnPlaces& places, std::size_t columns, RainFindings& findings)
-      : places_(places), columns_(columns), findings_(findings) {}
+  RowReader(const ColumnPlaces& places, std::size_t columns, RainUnit unit, RainFindings& findings)
+      : places_(places), columns_(columns), unit_(unit), findings_(findings) {}
 
   void Read(std::string_view line, int lineNumber) {
+    if (line.size() > kMostLineBytes) return Refuse(lineNumber, LineTooLong());
     if (line.find_first_not_of(" \t,") == std::string_view::npos) return;
     if (!SplitCsvLine(line, fields_)) {
       return Refuse(lineNumber, "a quotation mark is not closed");
@@ -104,15 +124,21 @@ class RowReader {
       return Refuse(lineNumber, "there are more fields than columns" + SplitNumberHint());
     }
     const auto date = ParseRainDate(fields_[places_.date]);
-    if (!date) return Refuse(lineNumber, "\"" + fields_[places_.date] + "\" is not a date");
+    if (!date) return Refuse(lineNumber, Quote(fields_[places_.date]) + " is not a date");
     if (!KeepStation()) {
-      return Refuse(lineNumber, "the station is " + fields_[*places_.station] + ", but " +
-                                    station_ + " in the rows above; keep the rows of one station");
+      return Refuse(lineNumber, "the station is " + Quotable(fields_[*places_.station]) + ", but " +
+                                    Quotable(station_) +
+                                    " in the rows above; keep the rows of one station");
     }
     Row row{*date, std::nullopt, lineNumber};
     if (!ReadDepth(fields_[places_.depth], row)) {
-      return Refuse(lineNumber, "\"" + fields_[places_.depth] + "\" is not a rainfall depth" +
+      return Refuse(lineNumber, Quote(fields_[places_.depth]) + " is not a rainfall depth" +
                                     DecimalCommaHint(fields_[places_.depth]));
+    }
+    if (row.depth && !(*row.depth / UnitsPerInch(unit_) <= kMostDepthIn)) {
+      return Refuse(lineNumber, Quote(fields_[places_.depth]) +
+                                    " is more rain than any day can have, in whatever unit; if it "
+                                    "is a code for a missing value, leave the depth empty");
     }
     rows_.push_back(row);
   }
@@ -167,6 +193,7 @@ class RowReader {
 
   ColumnPlaces places_;
   std::size_t columns_;  // as many as the header has
+  RainUnit unit_;
   RainFindings& findings_;
   std::vector<std::string> fields_;
   std::vector<Row> rows_;
@@ -218,12 +245,13 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
   CsvLines lines(text);
   std::vector<std::string> header;
   const auto first = lines.Next();
+  if (first && first->size() > kMostLineBytes) throw FileError("Line 1: " + LineTooLong() + ".");
   if (!first || !SplitCsvLine(*first, header)) {
     throw FileError("The file has no header line with the names of its columns.");
   }
   RainRecord record;
   record.unit = unit;
-  RowReader reader(FindColumns(header, columns), header.size(), record.findings);
+  RowReader reader(FindColumns(header, columns), header.size(), unit, record.findings);
   while (const auto line = lines.Next()) reader.Read(*line, lines.LineNumber());
   std::vector<Row> rows = reader.Finish();
   AppendDays(rows, record);
@@ -233,6 +261,10 @@ RainRecord ParseRainRecord(std::string_view text, RainUnit unit, const RainColum
 RainRecord ReadRainRecord(const std::string& path, RainUnit unit, const RainColumns& columns) {
   const auto bytes = FileExists(path) ? ReadFileBytes(path) : std::nullopt;
   if (!bytes) throw FileError("The rainfall file " + path + " cannot be read.");
+  if (IsUtf16(*bytes)) {
+    throw FileError("The rainfall file " + path +
+                    " is encoded as UTF-16. Save it as UTF-8 in an editor.");
+  }
   try {
     return ParseRainRecord(DecodeFileText(*bytes), unit, columns);
   } catch (const FileError& error) {

@@ -82,7 +82,8 @@ void RefuseImplausible(const RainYears& years, RainUnit unit) {
         PlausibleUnits(years.meanAnnualIn, unit));
   }
   if (years.wettestDayIn > kWettestDayIn) {
-    throw Refusal("The wettest day of the record has " + RoundedDepth(years.wettestDayIn) +
+    throw Refusal("The wettest day of the record, " + IsoDate(years.wettestDay) + ", has " +
+                  RoundedDepth(years.wettestDayIn) +
                   " inches, more than has ever been measured anywhere. If this is a code "
                   "for a missing value, leave the depth empty.");
   }

@@ -139,6 +139,10 @@ bool clsIOStream::EndOfFile() const {
   return true;
 }
 
+bool clsIOStream::EndsWithinLine() const {
+  return IsReadingFile() && EndOfFile() && !fileText_.empty() && !IsLineEnd(fileText_.back());
+}
+
 bool clsIOStream::WriteString(std::string_view txt) {
   if (mode_ == AsciiFileOutput && fileNumber_ != 0) {
     output_ << txt << kCr << kLf;

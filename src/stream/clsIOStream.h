@@ -66,6 +66,10 @@ class clsIOStream {
   // True at the end of the input, and in every mode that is not input.
   bool EndOfFile() const;
 
+  // True where the whole of an input file has been read and its last line has no line end, as in a
+  // file that was cut short.
+  bool EndsWithinLine() const;
+
   // As ScanSingle, for a whole number of 16 bits. File: fractions are rounded half to even, values
   // beyond 16 bits leave `i`. Buffer: only an optional sign and digits are accepted.
   bool ScanInteger(std::int16_t& i);

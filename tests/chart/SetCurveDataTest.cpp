@@ -37,6 +37,19 @@ TEST_F(SetCurveData, LoadsTheStationsFile) {
   EXPECT_EQ(chart_.Layout().frame, (clsRectangle_Integer{108, 852, 34, 592}));
 }
 
+TEST_F(SetCurveData, SaysWhyNothingIsLoaded) {
+  chart_.SetCurveData(kTampa);
+  ASSERT_EQ(chart_.LoadHints().size(), 1U);
+  EXPECT_EQ(chart_.LoadHints()[0].id, HintId::CurveFolderMissing);
+  Load(LogarithmicCurves());
+  EXPECT_TRUE(chart_.LoadHints().empty());
+  const std::string path = folder_.Write("KAV Data/Tampa.crv", "cut off");
+  chart_.SetCurveData(kTampa);
+  EXPECT_EQ(chart_.LoadHints(), (std::vector<Hint>{{HintId::CurveFileEndsBeforeCurves, {path}}}));
+  chart_.Clear();
+  EXPECT_TRUE(chart_.LoadHints().empty());
+}
+
 TEST_F(SetCurveData, StationFourReadsTheFileOfItsOwnSpelling) {
   folder_.Write("KAV Data/Fort Meyers.crv", LogarithmicCurves().Text());
   chart_.SetCurveData(4);

@@ -16,10 +16,13 @@ using test::KavRun;
 using test::kDescriptionLine;
 using test::kProjectNameLine;
 using test::kStationLine;
+using test::kStationNameLine;
 using test::kTailLine;
 using test::ProjectLines;
 using test::ProjectText;
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class Calc : public testing::Test {
  protected:
@@ -77,6 +80,7 @@ TEST_F(Calc, AMessageOnTheBarIsPrintedAsAnErrorAndExitsOne) {
 TEST_F(Calc, AProjectWithoutAStationExitsOne) {
   auto lines = ProjectLines();
   lines[kStationLine] = "-1";
+  lines[kStationNameLine] = "";
   const KavRun run = Calculate(ProjectText(lines));
   EXPECT_EQ(run.exitCode, 1);
   EXPECT_EQ(run.err, "The climate station has not been selected.\n");
@@ -86,14 +90,16 @@ TEST_F(Calc, AFileThatCannotBeReadExitsThreeWithTheCommandsOwnSentences) {
   const KavRun missing = Run({"calc", folder_ / "missing.kav"});
   EXPECT_EQ(missing.exitCode, 3);
   EXPECT_EQ(missing.out, "");
-  EXPECT_EQ(missing.err, "Error reading data file.\n");
+  EXPECT_EQ(missing.err, "Error reading data file.\nhint: There is no file \"" +
+                             (folder_ / "missing.kav") + "\".\n");
   const KavRun foreign = Calculate("Dear Sir,\r\n");
   EXPECT_EQ(foreign.exitCode, 3);
-  EXPECT_EQ(foreign.err,
-            "The data file does not appear to be a valid ORVIK 3.3 KAV file.\n"
-            "Error reading data file.\n");
+  EXPECT_THAT(foreign.err,
+              AllOf(StartsWith("The data file does not appear to be a valid ORVIK 3.3 KAV file.\n"
+                               "Error reading data file.\nhint: The first line of "),
+                    HasSubstr("but is \"Dear Sir,\".\n")));
   const KavRun newer = Calculate("KAV3.3.99\r\n" + ProjectText().substr(11));
-  EXPECT_EQ(newer.err, "Invalid file version.\nError reading data file.\n");
+  EXPECT_THAT(newer.err, StartsWith("Invalid file version.\nError reading data file.\nhint: "));
   auto lines = ProjectLines();
   lines.pop_back();
   EXPECT_EQ(Calculate(ProjectText(lines)).exitCode, 3);
@@ -103,14 +109,35 @@ TEST_F(Calc, AFileThatCannotBeReadExitsThreeWithTheCommandsOwnSentences) {
 TEST_F(Calc, CurvesThatCannotBeReadExitThree) {
   auto lines = ProjectLines();
   lines[kStationLine] = "9";
+  lines[kStationNameLine] = "Key West";
   const KavRun missing = Calculate(ProjectText(lines));
   EXPECT_EQ(missing.exitCode, 3);
   EXPECT_EQ(missing.out, "");
-  EXPECT_EQ(missing.err, "Can't find data for Key West\n");
+  EXPECT_THAT(missing.err,
+              AllOf(StartsWith("Can't find data for Key West\nhint: "), HasSubstr("Key West.crv")));
   folder_.Write("KAV Data/Key West.crv", "cut off");
   const KavRun damaged = Calculate(ProjectText(lines));
   EXPECT_EQ(damaged.exitCode, 3);
-  EXPECT_EQ(damaged.err, "The curve file of Key West is damaged or cannot be read.\n");
+  EXPECT_THAT(damaged.err,
+              AllOf(StartsWith("The curve file of Key West is damaged or cannot be read.\nhint: "),
+                    HasSubstr("Key West.crv\" ends before its first curve")));
+}
+
+// Calculated as ever; standard error and JSON have the hint.
+TEST_F(Calc, AHintStandsBesideTheResult) {
+  auto lines = ProjectLines();
+  lines[kStationNameLine] = "My place";
+  const KavRun run = Calculate(ProjectText(lines), true);
+  EXPECT_EQ(run.exitCode, 0);
+  const std::string hint =
+      "The station's number 22 in the project is Tampa, but its name there is \"My place\". The "
+      "number counts: the curves are those of Tampa. Choose the station again if that is wrong.";
+  EXPECT_EQ(run.err, "hint: " + hint + "\n");
+  const auto fields = nlohmann::json::parse(run.out);
+  EXPECT_THAT(fields["hints"], testing::ElementsAre(hint));
+  EXPECT_EQ(fields["cmbClimateStation"], "Tampa");
+  EXPECT_EQ(fields["txtSolveFor(3)"],
+            nlohmann::json::parse(Calculate(ProjectText(), true).out)["txtSolveFor(3)"]);
 }
 
 TEST_F(Calc, ACurveFileWithUnixLineEndsIsReportedAsSuch) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
+#include <nlohmann/json.hpp>
 
 #include "base/Paths.h"
 #include "support/CurveFileText.h"
@@ -48,6 +49,18 @@ std::string PdfText(const std::string& path) {
   pclose(pipe);
   std::ranges::replace(text, '\n', ' ');
   return text;
+}
+
+TEST_F(ChartCommand, JsonNamesTheFileAndHoldsTheHints) {
+  const KavRun run = Run({"--station", "tampa", "-o", Out("a.png"), "--json"});
+  EXPECT_EQ(run.exitCode, 0);
+  const auto object = nlohmann::json::parse(run.out);
+  EXPECT_EQ(object["file"], Out("a.png"));
+  EXPECT_TRUE(object["hints"].empty());
+  const std::string project = ReadBytes(ORVIK_SAMPLES_DIR "efficiency.kav");
+  const std::string cut = folder_.Write("cut.kav", project.substr(0, project.size() - 2));
+  EXPECT_EQ(nlohmann::json::parse(Run({cut, "-o", Out("a.png"), "--json"}).out)["hints"].size(),
+            1U);
 }
 
 TEST_F(ChartCommand, WritesPngInTheSizeAskedFor) {

@@ -16,6 +16,7 @@ namespace {
 using test::KavRun;
 using test::LogarithmicCurves;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class Kav : public testing::Test {
  protected:
@@ -118,22 +119,23 @@ TEST_F(Kav, AFolderWithoutDataExitsThree) {
   const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
   EXPECT_EQ(run.exitCode, 3);
   EXPECT_EQ(run.out, "");
-  EXPECT_EQ(run.err,
-            "Can't find data path:\n" + folder_.Path() + "KAV Data" + kPathSeparator + "\n");
+  EXPECT_THAT(run.err, StartsWith("Can't find data path:\n" + folder_.Path() + "KAV Data" +
+                                  kPathSeparator + "\nhint: No design curves are loaded: "));
 }
 
 TEST_F(Kav, AStationWithoutAFileExitsThree) {
   WriteTampa(LogarithmicCurves().Text());
   const KavRun run = Run({"solve", "--station", "Miami", "--rate", "0.1", "--volume", "3"});
   EXPECT_EQ(run.exitCode, 3);
-  EXPECT_EQ(run.err, "Can't find data for Miami\n");
+  EXPECT_THAT(run.err,
+              StartsWith("Can't find data for Miami\nhint: No design curves are loaded: "));
 }
 
 TEST_F(Kav, ADamagedFileExitsThree) {
   WriteTampa("damaged");
   const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
   EXPECT_EQ(run.exitCode, 3);
-  EXPECT_EQ(run.err, "The curve file of Tampa is damaged or cannot be read.\n");
+  EXPECT_THAT(run.err, StartsWith("The curve file of Tampa is damaged or cannot be read.\nhint: "));
 }
 
 TEST_F(Kav, AFileWithoutCarriageReturnsHasAMessageOfItsOwn) {
@@ -143,7 +145,21 @@ TEST_F(Kav, AFileWithoutCarriageReturnsHasAMessageOfItsOwn) {
   const KavRun run = Run({"solve", "--station", "Tampa", "--rate", "0.1", "--volume", "3"});
   EXPECT_EQ(run.exitCode, 3);
   EXPECT_EQ(run.out, "");
-  EXPECT_EQ(run.err, "The curve file of Tampa cannot be read: its lines must end with CR LF.\n");
+  EXPECT_THAT(run.err,
+              StartsWith("The curve file of Tampa cannot be read: its lines must end with CR LF.\n"
+                         "hint: The lines of "));
+}
+
+TEST_F(Kav, CurvesWithoutLabelsAreUsedAndSaid) {
+  const std::string text = LogarithmicCurves().Text();
+  WriteTampa(text.substr(0, text.find("2\r\nE=50%")));
+  const KavRun run =
+      Run({"solve", "--station", "Tampa", "--efficiency", "60", "--volume", "3", "--json"});
+  EXPECT_EQ(run.exitCode, 0);
+  EXPECT_THAT(run.err, HasSubstr("hint: \"" + (folder_ / "KAV Data")));
+  EXPECT_THAT(run.err, HasSubstr("Tampa.crv\" ends right after its last curve"));
+  EXPECT_EQ(nlohmann::json::parse(run.out)["hints"].size(), 1U);
+  EXPECT_EQ(nlohmann::json::parse(run.out)["R"], 0.1200694);
 }
 
 TEST_F(Kav, CurvesThatMeetExitThree) {

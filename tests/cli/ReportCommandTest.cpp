@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "support/CurveFileText.h"
@@ -121,6 +122,27 @@ TEST_F(ReportCommand, ThePdfHasItsTitlePagesPaperAndFonts) {
     ++count;
   }
   EXPECT_GE(count, 2);
+}
+
+// A few pages of it are printed, and the footer of each page fits it once.
+TEST_F(ReportCommand, ANameOfAMillionLettersIsCutOnPaperAndInTheTitle) {
+  auto lines = Solved();
+  lines[kProjectNameLine] = std::string(1'000'000, 'x');
+  EXPECT_EQ(Run(Project(lines)).exitCode, 0);
+  EXPECT_THAT(PdfInfo(), AllOf(HasSubstr("xxx..."), ContainsRegex("Pages: [1-6]\n")));
+}
+
+TEST_F(ReportCommand, JsonNamesTheFileAndWhyThereIsNoResult) {
+  const auto solved = nlohmann::json::parse(Run(Project(Solved()), {"--json"}).out);
+  EXPECT_EQ(solved["file"], Pdf());
+  EXPECT_EQ(solved["message"], "");
+  EXPECT_TRUE(solved["hints"].empty());
+  auto lines = ProjectLines();
+  lines[kTailLine] = "99.9";
+  const KavRun refused = Run(Project(lines), {"--json"});
+  EXPECT_EQ(refused.exitCode, 1);
+  EXPECT_EQ(nlohmann::json::parse(refused.out)["message"],
+            "Design efficiency is greater than 90%.");
 }
 
 TEST_F(ReportCommand, TheSameDateMakesTheSameFile) {

@@ -21,6 +21,9 @@ TEST(DividesRange, RequiresWholeSteps) {
   EXPECT_TRUE(DividesRange(7, 7));
   EXPECT_FALSE(DividesRange(7, 2));
   EXPECT_FALSE(DividesRange(7, 0));
+  EXPECT_TRUE(DividesRange(7, 0.07));     // 100 steps
+  EXPECT_FALSE(DividesRange(7, 0.0625));  // 112
+  EXPECT_FALSE(DividesRange(7, 1e-300));
   EXPECT_FALSE(DividesRange(7, -1));
   EXPECT_FALSE(DividesRange(7, 20));
 }

@@ -126,7 +126,16 @@ TEST(CurvesMake, RefusesOptionsThatMakeNoSense) {
   const Case cases[] = {
       {{"--hold-off", "-1"}, "is not a number of days"},
       {{"--hold-off", "1.5"}, "is not a number of days"},
+      {{"--hold-off", "1e300"}, "is not a number of days from 0 to 365"},
       {{"--abstraction", "-.1"}, "is below zero"},
+      {{"--abstraction", "1e300"}, "is more than 10 inches"},
+      {{"--abstraction", "1e999"}, "is not a number"},
+      {{"--v-interval", "1e-300"},
+       "--v-interval must divide the axis into whole steps, 100 at most"},
+      {{"--r-interval", "0.001"},
+       "--r-interval must divide the axis into whole steps, 100 at most"},
+      {{"--v-max", "1e300"}, "--v-max must be 2 to 100 inches"},
+      {{"--r-max", "1e308"}, "--r-max must be 0.05 to 10"},
       {{"--r-max", "0"}, "is not above zero"},
       {{"--v-max", "wide"}, "is not a number"},
       {{"--v-max", "1"}, "--v-max must be 2 to 100 inches"},
@@ -372,6 +381,8 @@ TEST(CurvesCheck, AFileThatCannotBeReadExitsThree) {
   const KavRun result = RunCommand({"curves", "check", folder.Write("half.crv", half)});
   EXPECT_EQ(result.exitCode, 3);
   EXPECT_THAT(result.err, HasSubstr("is damaged"));
+  EXPECT_THAT(result.err, HasSubstr("\nhint: No design curves are loaded: \"" + folder.Path() +
+                                    "half.crv\" ends within its curves."));
 }
 
 TEST(CurvesCheck, SaysThatLinesMustEndWithCrLf) {
@@ -381,8 +392,21 @@ TEST(CurvesCheck, SaysThatLinesMustEndWithCrLf) {
   const std::string path = folder.Write("lf.crv", text);
   const KavRun result = RunCommand({"curves", "check", path});
   EXPECT_EQ(result.exitCode, 3);
-  EXPECT_EQ(result.err,
-            "The curve file " + path + " cannot be read: its lines must end with CR LF.\n");
+  EXPECT_THAT(result.err, testing::StartsWith("The curve file " + path +
+                                              " cannot be read: its lines must end with CR LF.\n"
+                                              "hint: The lines of "));
+}
+
+TEST(CurvesCheck, NumbersOfAnAxisThatHaveNoRoomAreAFault) {
+  std::string text = test::ReadBytes(kTampa);
+  const auto interval = text.find("\r\n7\r\n1\r\n");
+  ASSERT_NE(interval, std::string::npos);
+  text.replace(interval, 8, "\r\n7\r\n1e-300\r\n");
+  const test::TempFolder folder;
+  const KavRun result = RunCommand({"curves", "check", folder.Write("a.crv", text)});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.err, HasSubstr("The interval of the V axis does not divide its range into "
+                                    "whole steps, 100 at most."));
 }
 
 TEST(Curves, HelpShowsTheirOwnExamples) {

@@ -25,7 +25,7 @@ CurveSet ReadStation(std::int16_t station) {
   clsIOStream stream;
   CurveSet set;
   stream.OpenFile(PathOf(station), enumIOStreamMode::AsciiFileInput);
-  EXPECT_TRUE(ReadCurveFile(stream, set)) << PathOf(station);
+  EXPECT_TRUE(ReadCurveFile(stream, set).IsUsable()) << PathOf(station);
   EXPECT_TRUE(stream.EndOfFile());
   return set;
 }

@@ -15,11 +15,20 @@ using test::CurveFileText;
 using test::LogarithmicCurves;
 using test::TempFolder;
 
-bool Read(std::string_view text, CurveSet& set) {
+CurveReading ReadingOf(std::string_view text, CurveSet& set) {
   const TempFolder folder;
   clsIOStream stream;
   stream.OpenFile(folder.Write("s.crv", text), enumIOStreamMode::AsciiFileInput);
   return ReadCurveFile(stream, set);
+}
+
+bool Read(std::string_view text, CurveSet& set) {
+  return ReadingOf(text, set).IsUsable();
+}
+
+CurveFault FaultOf(std::string_view text) {
+  CurveSet set;
+  return ReadingOf(text, set).fault;
 }
 
 TEST(ReadCurveFile, ReadsEveryValueInItsPlace) {
@@ -138,10 +147,62 @@ TEST(ReadCurveFile, NeverTakesAFileThatWasCutShort) {
   file.labels = {"E=50%", "2.5,0.12"};
   const std::string text = file.Text();
   const std::size_t lastNumber = text.find("0.12");
+  const std::size_t endOfCurves = text.find("\r\n1\r\nE=50%");
+  ASSERT_NE(endOfCurves, std::string::npos);
   for (std::size_t length = 0; length <= lastNumber; ++length) {
+    // Cut at the end of the last curve's last line, whether within its CR LF or after it, only the
+    // labels are missing.
+    if (length == endOfCurves + 1 || length == endOfCurves + 2) continue;
     CurveSet set;
     EXPECT_FALSE(Read(text.substr(0, length), set)) << length;
   }
+}
+
+TEST(ReadCurveFile, AFileThatEndsRightAfterItsLastCurveHasNoLabels) {
+  const std::string text = LogarithmicCurves().Text();
+  const std::size_t labels = text.find("2\r\nE=50%");
+  ASSERT_NE(labels, std::string::npos);
+  CurveSet set;
+  const CurveReading reading = ReadingOf(text.substr(0, labels), set);
+  EXPECT_TRUE(reading.IsUsable());
+  EXPECT_FALSE(reading.hasLabelCount);
+  EXPECT_EQ(set.Curves.size(), 3U);
+  EXPECT_TRUE(set.Labels.empty());
+  EXPECT_TRUE(ReadingOf(text, set).hasLabelCount);
+}
+
+TEST(ReadCurveFile, NamesWhereAFileEnds) {
+  const std::string text = LogarithmicCurves().Text();
+  const std::size_t count = text.find("\r\n3\r\n");
+  const std::size_t labels = text.find("2\r\nE=50%");
+  EXPECT_EQ(FaultOf(""), CurveFault::EndsBeforeCurves);
+  EXPECT_EQ(FaultOf(text.substr(0, count)), CurveFault::EndsBeforeCurves);
+  EXPECT_EQ(FaultOf(text.substr(0, count + 5)), CurveFault::EndsWithinCurves);
+  EXPECT_EQ(FaultOf(text.substr(0, labels - 2)), CurveFault::EndsWithinCurves)
+      << "the last coefficient may have lost digits";
+  EXPECT_EQ(FaultOf(text.substr(0, labels + 1)), CurveFault::EndsWithinLabels);
+}
+
+TEST(ReadCurveFile, NamesWhatCannotBeUsed) {
+  CurveFileText file = LogarithmicCurves();
+  file.header[1] = "0";
+  EXPECT_EQ(FaultOf(file.Text()), CurveFault::AxisWithoutExtent);
+  file = LogarithmicCurves();
+  file.curves.clear();
+  EXPECT_EQ(FaultOf(file.Text()), CurveFault::NoCurves);
+  file = LogarithmicCurves();
+  file.curves[0].VStart = "0";
+  EXPECT_EQ(FaultOf(file.Text()), CurveFault::UnusableNumber);
+  file.curves[0].VStart = "1";
+  file.labels[1] = "2.5 0.12";
+  EXPECT_EQ(FaultOf(file.Text()), CurveFault::LabelWithoutPlace);
+}
+
+TEST(ReadCurveFile, SaysWhetherTheLastLineHasItsEnd) {
+  const std::string text = LogarithmicCurves().Text();
+  CurveSet set;
+  EXPECT_FALSE(ReadingOf(text, set).endsWithinLine);
+  EXPECT_TRUE(ReadingOf(text.substr(0, text.size() - 2), set).endsWithinLine);
 }
 
 TEST(ReadCurveFile, RefusesNoise) {

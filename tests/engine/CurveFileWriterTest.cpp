@@ -53,7 +53,7 @@ TEST(CurveFileText, ReadsBackToTheSameNumbers) {
   clsIOStream stream;
   stream.OpenFile(folder.Write("a.crv", CurveFileText(set)), enumIOStreamMode::AsciiFileInput);
   CurveSet read;
-  ASSERT_TRUE(ReadCurveFile(stream, read));
+  ASSERT_TRUE(ReadCurveFile(stream, read).IsUsable());
   EXPECT_EQ(read.title, set.title);
   EXPECT_EQ(read.VMin, set.VMin);
   EXPECT_EQ(read.VMax, set.VMax);

@@ -87,6 +87,17 @@ TEST(FitText, LeavesWhatFits) {
   EXPECT_EQ(FitText("", 0, Bytes), "");
 }
 
+// A page's footer has the project's name: it is fitted once a page.
+TEST(FitText, NeverMeasuresALongTextAsAWhole) {
+  std::size_t longest = 0;
+  const TextWidth width = [&](std::string_view text) {
+    longest = std::max(longest, text.size());
+    return Bytes(text);
+  };
+  EXPECT_EQ(FitText(std::string(1'000'000, 'x'), 13, width), "xxxxxxxxxx...");
+  EXPECT_LE(longest, 1003U);
+}
+
 TEST(FitText, EndsInDotsWhereItIsShortened) {
   EXPECT_EQ(FitText("Bayhead Commons", 10, Bytes), "Bayhead...");
   EXPECT_EQ(FitText("Bayhead Commons", 11, Bytes), "Bayhead...");

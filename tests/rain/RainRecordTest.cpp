@@ -104,6 +104,44 @@ TEST(RainRecord, ADecimalCommaIsRefusedAndExplained) {
               HasSubstr("Line 2: \"12,7\" is not a rainfall depth" + hint));
 }
 
+// 72 inches are the wettest day ever measured; in tenths of a millimetre that is 18288.
+TEST(RainRecord, ADepthBeyondEveryUnitIsRefusedWithItsLineAndValue) {
+  const std::string row = "date,prcp\n2001-01-01,0\n2001-01-02,";
+  for (const char* depth : {"18289", "1e308"}) {
+    EXPECT_THAT(ErrorOf(row + depth + "\n"),
+                HasSubstr("Line 3: \"" + std::string(depth) + "\" is more rain than any day can"))
+        << depth;
+  }
+  EXPECT_EQ(ErrorOf(row + "18288\n"), "no error") << "the mean annual rainfall names the unit";
+  EXPECT_EQ(ParseRainRecord(row + "99999\n", RainUnit::TenthsOfMillimetre).Days.size(), 2U);
+}
+
+TEST(RainRecord, ALineThatIsNoRowIsRefusedBeforeItIsSplit) {
+  const std::string more(65537, ',');
+  EXPECT_EQ(ErrorOf(more), "Line 1: it has more than 65536 bytes.");
+  EXPECT_EQ(ErrorOf("date,prcp\n2001-01-01,\"" + more + "\n"),
+            "Line 2: it has more than 65536 bytes.");
+}
+
+TEST(RainRecord, AMessageQuotesOnlyTheBeginningOfALongField) {
+  EXPECT_EQ(ErrorOf("date,prcp\n" + std::string(1000, 'x') + "\x1B,1\n"),
+            "Line 2: \"" + std::string(80, 'x') + "...\" is not a date.");
+  EXPECT_EQ(ErrorOf("date,prcp\na\x1B[2Jb,1\n"), "Line 2: \"a [2Jb\" is not a date.");
+}
+
+TEST(RainRecord, Utf16IsNamed) {
+  const test::TempFolder folder;
+  const std::string path = folder.Write("a.csv", std::string("\xFF\xFE"
+                                                             "d\0a\0",
+                                                             6));
+  try {
+    ReadRainRecord(path, RainUnit::Inches);
+    FAIL();
+  } catch (const FileError& error) {
+    EXPECT_THAT(error.what(), HasSubstr(path + " is encoded as UTF-16. Save it as UTF-8"));
+  }
+}
+
 TEST(RainRecord, EmptyColumnsAfterTheOthersAreColumns) {
   const RainRecord record = ParseRainRecord("date,prcp,\n2001-01-01,1,\n", RainUnit::Inches);
   EXPECT_EQ(record.days.at(0).depthIn, 1);
