@@ -107,7 +107,7 @@ bool FileCommands::SaveText(std::string& text) const {
 bool FileCommands::SaveFile(const std::string& path) {
   if (path.empty()) return false;
   std::string text;
-  const bool isSaved = SaveText(text) && !WriteFileSafely(path, text);
+  const bool isSaved = SaveText(text) && WriteFileSafely(path, text).IsWritten();
   currentFolder_ = FolderOf(path);
   if (isSaved) currentPath_ = path;
   return isSaved;
