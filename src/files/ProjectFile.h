@@ -33,6 +33,9 @@ class ProjectFile {
   // list chooses nothing.
   bool ReadDataFromBuffer(clsIOStream& stream);
 
+  // Whether the project that was read last had a kept point; see design/KeptPoint.
+  bool HadKeptPoint() const { return hadKeptPoint_; }
+
   // Every field to its empty default: an empty project.
   void ClearData();
 
@@ -45,6 +48,7 @@ class ProjectFile {
   FormBinding& binding_;
   SolveForWorkflow& workflow_;
   Desktop& desktop_;
+  bool hadKeptPoint_ = false;
 };
 
 }  // namespace orvik
