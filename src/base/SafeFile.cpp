@@ -205,8 +205,9 @@ std::optional<WriteFault> FindTargetFault(const std::string& path) {
   }
   const auto made = LinkTarget(target);
   const fs::path folder = made ? made->parent_path() : fs::path();
-  const bool hasFolder = folder.empty() || fs::is_directory(folder, error);
-  return hasFolder ? std::nullopt : std::optional(WriteFault::NoFolder);
+  const bool isMissing =
+      !folder.empty() && fs::status(folder, error).type() == fs::file_type::not_found;
+  return isMissing ? std::optional(WriteFault::NoFolder) : std::nullopt;
 }
 
 WriteOutcome WriteFileSafely(const std::string& path, std::string_view bytes) {
