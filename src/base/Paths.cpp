@@ -40,6 +40,13 @@ bool FileExists(std::string_view path) {
   return IsWholeName(path) && std::filesystem::is_regular_file(PathFromUtf8(path), error);
 }
 
+bool IsSameFile(std::string_view path, std::string_view other) {
+  std::error_code error;
+  if (path == other) return true;
+  return IsWholeName(path) && IsWholeName(other) &&
+         std::filesystem::equivalent(PathFromUtf8(path), PathFromUtf8(other), error);
+}
+
 bool MakeDirectory(std::string_view path) {
   std::error_code error;
   return IsWholeName(path) && std::filesystem::create_directory(PathFromUtf8(path), error) &&

@@ -28,6 +28,9 @@ std::string FolderOf(std::string_view path);
 bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);
 
+// True where both name one file that exists, by whatever ways, or are the same text.
+bool IsSameFile(std::string_view path, std::string_view other);
+
 // Makes one folder. False where it is there already or cannot be made.
 bool MakeDirectory(std::string_view path);
 

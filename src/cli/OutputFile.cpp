@@ -9,26 +9,10 @@
 namespace orvik {
 namespace {
 
-std::string_view ReasonOf(WriteFault fault) {
-  switch (fault) {
-    case WriteFault::IsFolder:
-      return ": it is a folder.";
-    case WriteFault::IsNotAFile:
-      return ": it is a device or a pipe, not a file.";
-    case WriteFault::LinksInACircle:
-      return ": its links lead in a circle.";
-    case WriteFault::IsReadOnly:
-      return ": it is read-only.";
-    case WriteFault::NotWritten:
-      break;
-  }
-  return ".";
-}
-
 void Require(const std::string& path, std::optional<WriteFault> fault) {
-  if (fault) {
-    throw FileError("The file " + path + " cannot be written" + std::string(ReasonOf(*fault)));
-  }
+  if (!fault) return;
+  throw FileError("The file " + path + " cannot be written: " + std::string(ReasonOf(*fault)) +
+                  ".");
 }
 
 }  // namespace
@@ -38,7 +22,12 @@ void RequireReplaceable(const std::string& path) {
 }
 
 void WriteOutputFile(const std::string& path, std::string_view bytes) {
-  Require(path, WriteFileSafely(path, bytes));
+  const WriteOutcome outcome = WriteFileSafely(path, bytes);
+  if (outcome.fault && !outcome.oldCopy.empty()) {
+    throw FileError("The file " + path + " could not be written to its end and may be damaged. " +
+                    "What it held before is kept as " + outcome.oldCopy + ".");
+  }
+  Require(path, outcome.fault);
 }
 
 void MakeOutputFolder(const std::string& path) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "design/DesignPoint.h"
@@ -15,12 +16,20 @@ namespace orvik {
 // table of stations.
 inline constexpr std::int16_t kNoStation = -1;
 
+// A point as a project file holds it: the texts of its R and V.
+struct StoredPoint {
+  std::string R;
+  std::string V;
+  bool operator==(const StoredPoint&) const = default;
+};
+
 struct Project {
   std::array<std::string, kFields> texts;  // by Field
   std::int16_t station = kNoStation;
   SolveFor mode = SolveFor::Interactive;
   bool takesPointByHand = true;  // the chart lets the user place the point
   DesignPoint point;
+  std::optional<StoredPoint> keptPoint;  // see design/KeptPoint
 
   const std::string& Text(Field field) const { return texts[static_cast<std::size_t>(field)]; }
   std::string& Text(Field field) { return texts[static_cast<std::size_t>(field)]; }

@@ -5,6 +5,7 @@
 #include "base/RuntimeErrors.h"
 #include "base/Text.h"
 #include "design/HostResults.h"
+#include "design/KeptPoint.h"
 #include "design/NumberInput.h"
 #include "design/Project.h"
 #include "engine/ClimateStations.h"
@@ -32,6 +33,18 @@ Toolkit& Designed(Toolkit& toolkit) {
   return toolkit;
 }
 
+// Counts itself while it lives.
+class Counted {
+ public:
+  explicit Counted(int& count) : count_(count) { ++count_; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+  ~Counted() { --count_; }
+
+ private:
+  int& count_;
+};
+
 }  // namespace
 
 Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
@@ -56,7 +69,18 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
   MakeMenus(toolkit);
   AnswerWindow();
   files_.OnSaving = [this] { interactive_.PlaceAsStored(); };
-  files_.OnProjectReplaced = [this] { triggers_.ForgetChanges(); };
+  files_.OnProjectReplacing = [this] {
+    ownHints_.clear();
+    if (unsaved_) unsaved_->AnswerLeaving();
+  };
+  files_.OnProjectReplaced = [this] {
+    triggers_.ForgetChanges();
+    if (unsaved_) unsaved_->AnswerReplaced();
+  };
+  files_.OnSaved = [this] {
+    if (unsaved_) unsaved_->AnswerSaved();
+  };
+  WatchInputs();
   Form_Load();
 }
 
@@ -172,6 +196,45 @@ std::string Form1::StorageVolume() const {
   return StorageVolumeResult(binding_.Snapshot());
 }
 
+// --- Unsaved work and hints ---
+
+void Form1::KeepRecoveryCopies(const std::string& folder) {
+  files_.CountAsSaved();
+  unsaved_.emplace(files_, folder, [this] { return desktop_.Now(); });
+}
+
+// Every way in which the user changes what would be saved.
+void Form1::WatchInputs() {
+  for (const FieldDesign& field : orvik::Fields()) Watch(form_.Box(field.id).OnChange);
+  Watch(form_.cmbClimateStation->OnClick);
+  Watch(form_.cmbSolveFor->OnClick);
+  Watch(ctrlStormwaterReuse1_.OnChange);
+}
+
+// An event brings others with it: while the mode changes, its slots hold quantities of the old one.
+// Only the outermost has an end that makes sense.
+void Form1::Watch(std::function<void()>& event) {
+  event = [this, answer = std::move(event)] {
+    if (answer) {
+      const Counted underWay(eventsUnderWay_);
+      answer();
+    }
+    if (unsaved_ && eventsUnderWay_ == 0) unsaved_->AnswerInput();
+  };
+}
+
+std::vector<Hint> Form1::Hints() const {
+  std::vector<Hint> hints = ownHints_;
+  for (Hint& hint : files_.Hints()) hints.push_back(std::move(hint));
+  const auto kept = HintOfKeptPoint(binding_.Snapshot(), ctrlStormwaterReuse1_.IsLoaded());
+  if (kept) hints.push_back(*kept);
+  if (!unsaved_) return hints;
+  for (const auto& hint : {unsaved_->Offered(), unsaved_->Trouble()}) {
+    if (hint) hints.push_back(*hint);
+  }
+  return hints;
+}
+
 // --- Leaving ---
 
 void Form1::cmdSaveExit_Click() {
@@ -201,6 +264,7 @@ void Form1::OpenDropped(const std::string& path) {
 
 // Closing always leaves the window; only a host must still learn whether to keep the work.
 void Form1::Form_QueryUnload(bool& cancel) {
+  if (mode_ == kStandAlone && unsaved_) unsaved_->AnswerLeaving();
   if (mode_ != kInHostProject || exitDecided_) return;
   const bool save =
       desktop_.AskYesNo(Sentence({MessageId::SaveCurrentData}), "Exit Stormwater Harvesting");

@@ -3,14 +3,18 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "chart/HostedChart.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "controls/HostedButton.h"
 #include "files/FileCommands.h"
 #include "files/ProjectFile.h"
+#include "files/UnsavedWork.h"
 #include "platform/Toolkit.h"
 #include "project/FormBinding.h"
 #include "project/InteractiveSynchronisation.h"
@@ -33,7 +37,7 @@ class Form1 {
   Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder);
   Form1(const Form1&) = delete;
   Form1& operator=(const Form1&) = delete;
-  ~Form1() = default;
+  ~Form1() { unsaved_.reset(); }  // the widgets that go now tell of no work
 
   // 1 = stand-alone use, with the File menu; 2 = use from within a host project, with the Return
   // menu and the two exit buttons. Any other value is stored and changes no command.
@@ -42,6 +46,20 @@ class Form1 {
 
   // Shows the window and waits until the user leaves it.
   void ShowModally() { form_.window->ShowModally(); }
+
+  // In stand-alone use: keeps a recovery copy of unsaved work in this folder (see RecoveryCopy),
+  // and offers those of others. The project in the fields counts as saved.
+  void KeepRecoveryCopies(const std::string& folder);
+
+  // The recovery copies; null where none are kept.
+  UnsavedWork* Unsaved() { return unsaved_ ? &*unsaved_ : nullptr; }
+
+  // What is to be said beside the messages now: of the file named at the start, of the last saving,
+  // of a kept point, of recovery copies.
+  std::vector<Hint> Hints() const;
+
+  // Says it until the fields get another project.
+  void Say(Hint hint) { ownHints_.push_back(std::move(hint)); }
 
   // The basin of the host's own project: area (acres) and runoff coefficient. What was solved for
   // another basin is solved anew.
@@ -88,6 +106,8 @@ class Form1 {
   void cmdDiscardExit_Click();
   void Leave(std::int16_t returnCode);
   void OpenDropped(const std::string& path);
+  void WatchInputs();
+  void Watch(std::function<void()>& event);
 
   Desktop& desktop_;
   ProjectForm form_;
@@ -102,6 +122,9 @@ class Form1 {
   MainWindowPages pages_;
   MessageHelp messageHelp_;
   SmallWindows smallWindows_;
+  std::optional<UnsavedWork> unsaved_;
+  std::vector<Hint> ownHints_;
+  int eventsUnderWay_ = 0;
 
   std::unique_ptr<MenuItem> mnuFile_;
   std::unique_ptr<MenuItem> mnuFile_New_;

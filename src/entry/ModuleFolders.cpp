@@ -6,6 +6,10 @@
 namespace orvik {
 namespace {
 
+constexpr std::string_view kSuite = "ORVIK33";
+constexpr std::string_view kModule = "StormwaterReuse";
+constexpr std::string_view kRecovery = "Recovery";
+
 std::string ExistingOrNone(const std::string& folder) {
   return FolderExists(folder) ? folder : std::string();
 }
@@ -17,6 +21,17 @@ std::string SettleBelow(const std::string& parent, std::string_view name) {
   return FolderExists(folder) || MakeDirectory(folder) ? folder : std::string();
 }
 
+// Not made here: most runs need none.
+std::string RecoveryFolder(Desktop& desktop) {
+  const auto state = desktop.StateFolder();
+  if (!state) return {};
+  std::string folder = WithEndingSeparator(*state);
+  for (const std::string_view name : {kSuite, kModule, kRecovery}) {
+    folder += std::string(name) + kPathSeparator;
+  }
+  return folder;
+}
+
 }  // namespace
 
 ModuleFolders SettleFolders(std::string_view applicationFolder, Desktop& desktop) {
@@ -24,8 +39,9 @@ ModuleFolders SettleFolders(std::string_view applicationFolder, Desktop& desktop
   folders.application = WithEndingSeparator(std::string(applicationFolder));
   folders.documents =
       ExistingOrNone(WithEndingSeparator(desktop.DocumentsFolder().value_or(std::string())));
-  folders.suite = SettleBelow(folders.documents, "ORVIK33");
-  folders.module = SettleBelow(folders.suite, "StormwaterReuse");
+  folders.suite = SettleBelow(folders.documents, kSuite);
+  folders.module = SettleBelow(folders.suite, kModule);
+  folders.recovery = RecoveryFolder(desktop);
   return folders;
 }
 

@@ -14,6 +14,7 @@ struct ModuleFolders {
   std::string documents;    // the user's; empty where there is none
   std::string suite;        // "ORVIK33" below it; empty where it can neither be found nor made
   std::string module;       // "StormwaterReuse" below that, likewise
+  std::string recovery;     // of recovery copies; made with the first one, empty where it cannot be
 };
 
 // Makes the folders that are not there yet. What cannot be made is left empty, silently.

@@ -32,6 +32,13 @@ void LoadProjectText(Form1& window, const std::string& text) {
   if (!window.Files().ReadFile(text)) window.Files().New();
 }
 
+// A file that is not there, or cannot be read, is said beside the window's messages: a box would
+// come before the window.
+void OpenNamedFile(Form1& window, const std::string& path) {
+  if (FileExists(path) && window.Files().LoadFile(path)) return;
+  window.Say({HintId::NamedFileNotOpened, {path}});
+}
+
 }  // namespace
 
 std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& ParamString2,
@@ -61,7 +68,8 @@ std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& Para
 void clsStReuse::Load(Form1& window, const std::string& ParamString2,
                       const std::string& ParamString3) {
   if (window.Mode() == kStandAlone) {
-    if (FileExists(ParamString2)) window.Files().OpenProject(ParamString2);
+    window.KeepRecoveryCopies(module_.Folders().recovery);
+    if (!ParamString2.empty()) OpenNamedFile(window, ParamString2);
     return;
   }
   if (!ParamString3.empty()) LoadProjectText(window, ParamString3);

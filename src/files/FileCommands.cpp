@@ -24,8 +24,10 @@ constexpr int kProjectFiles = 2;  // the filter's second pair
 // --- Menu commands ---
 
 void FileCommands::New() {
-  ClearData();
-  RaiseProjectReplaced();
+  Replace([this] {
+    ClearData();
+    return true;
+  });
 }
 
 void FileCommands::Open() {
@@ -60,38 +62,74 @@ void FileCommands::ClearData() {
   form_.picProject->Visible(false);
   form_.picData->Visible(true);
   currentPath_.clear();
+  isForeign_ = false;
+  savingHints_.clear();
+}
+
+// What the work does with the fields, from the project before to the next one.
+template <typename Work>
+bool FileCommands::Replace(Work&& work) {
+  if (OnProjectReplacing) OnProjectReplacing();
+  const bool isDone = work();
+  CountAsSaved();
+  if (OnProjectReplaced) OnProjectReplaced();
+  return isDone;
 }
 
 bool FileCommands::LoadFile(std::string_view path) {
   const std::string name(path);
-  ClearData();
+  return Replace([&] {
+    ClearData();
+    clsIOStream stream;
+    if (!stream.OpenFile(name, enumIOStreamMode::AsciiFileInput)) return false;
+    const bool isRead = file_.ReadDataFromBuffer(stream);
+    stream.CloseFile();
+    currentPath_ = name;
+    currentFolder_ = FolderOf(name);
+    isForeign_ = !isRead;
+    ShowFileName(name);
+    return isRead;
+  });
+}
+
+bool FileCommands::ReadText(const std::string& text) {
   clsIOStream stream;
-  if (!stream.OpenFile(name, enumIOStreamMode::AsciiFileInput)) return false;
-  const bool isRead = file_.ReadDataFromBuffer(stream);
-  stream.CloseFile();
-  RaiseProjectReplaced();
-  currentPath_ = name;
-  currentFolder_ = FolderOf(name);
-  ShowFileName(name);
+  return stream.OpenFile(text, enumIOStreamMode::AsciiBufferInput) &&
+         file_.ReadDataFromBuffer(stream);
+}
+
+bool FileCommands::ReadUnsaved(std::string_view text, std::string_view formerPath) {
+  const std::string project(text);
+  const std::string folder = FolderOf(formerPath);
+  const bool isRead = Replace([&] {
+    ClearData();
+    if (!folder.empty()) currentFolder_ = folder;
+    return ReadText(project);
+  });
+  savedText_.reset();
   return isRead;
 }
 
 std::vector<Hint> FileCommands::Hints() const {
-  return file_.Hints();
+  std::vector<Hint> hints = file_.Hints();
+  hints.insert(hints.end(), savingHints_.begin(), savingHints_.end());
+  return hints;
 }
 
 bool FileCommands::ReadFile(std::string_view text) {
   const std::string project(text);
-  ClearData();
   if (project.empty()) {
-    RaiseProjectReplaced();
+    New();
     return false;
   }
-  clsIOStream stream;
-  const bool isRead = stream.OpenFile(project, enumIOStreamMode::AsciiBufferInput) &&
-                      file_.ReadDataFromBuffer(stream);
-  stream.CloseFile();
-  RaiseProjectReplaced();
+  const bool isRead = Replace([&] {
+    ClearData();
+    return ReadText(project);
+  });
+  if (form_.keptPoint && !file_.HadKeptPoint()) {
+    Say({HintId::PointNotKept, {form_.keptPoint->R, form_.keptPoint->V}});
+    form_.keptPoint.reset();
+  }
   if (!isRead) desktop_.ShowError(Sentence({MessageId::ProjectTextUnreadable}));
   workflow_.ReCalc();
   return isRead;
@@ -108,13 +146,53 @@ bool FileCommands::SaveText(std::string& text) const {
   return true;
 }
 
+std::string FileCommands::TextNow() const {
+  clsIOStream stream;
+  stream.OpenFile("", enumIOStreamMode::AsciiBufferOutput);
+  return file_.SaveDataInBuffer(stream) ? stream.Buffer() : std::string();
+}
+
 bool FileCommands::SaveFile(const std::string& path) {
   if (path.empty()) return false;
   std::string text;
-  const bool isSaved = SaveText(text) && !WriteFileSafely(path, text);
+  savingHints_.clear();
+  const bool isSaved = SaveText(text) && WriteTo(path, text);
   currentFolder_ = FolderOf(path);
-  if (isSaved) currentPath_ = path;
-  return isSaved;
+  if (!isSaved) return false;
+  currentPath_ = path;
+  isForeign_ = false;
+  savedText_ = text;
+  if (OnSaved) OnSaved();
+  return true;
+}
+
+bool FileCommands::WriteTo(const std::string& path, const std::string& text) {
+  const auto fault = FindTargetFault(path);
+  if (fault) return Say({HintId::SaveFailed, {path, std::string(ReasonOf(*fault))}});
+  if (isForeign_ && IsSameFile(path, currentPath_) && !KeepForeignFile(path)) return false;
+  const WriteOutcome outcome = WriteFileSafely(path, text);
+  if (outcome.IsWritten()) {
+    if (!outcome.oldCopy.empty()) Say({HintId::SavedButCopyLeft, {outcome.oldCopy}});
+    return true;
+  }
+  if (!outcome.oldCopy.empty()) {
+    return Say({HintId::SaveFailedFileDamaged, {path, outcome.oldCopy}});
+  }
+  return Say({HintId::SaveFailed, {path, std::string(ReasonOf(*outcome.fault))}});
+}
+
+// What Open could not read is somebody's all the same.
+bool FileCommands::KeepForeignFile(const std::string& path) {
+  const auto copy = KeepCopyBeside(path, "kept");
+  if (!copy) return Say({HintId::ForeignFileNotKept, {path}});
+  Say({HintId::ForeignFileKept, {path, *copy}});
+  return true;
+}
+
+// False, as the answer of what failed.
+bool FileCommands::Say(Hint hint) {
+  savingHints_.push_back(std::move(hint));
+  return false;
 }
 
 // --- Dialogs ---
@@ -158,10 +236,6 @@ std::string FileCommands::GetMyDocumentsFolder(std::string& error) {
 
 void FileCommands::ShowFileName(std::string_view path) {
   form_.window->Caption(std::string(kProductName) + " KAV - " + FileNameOf(path));
-}
-
-void FileCommands::RaiseProjectReplaced() {
-  if (OnProjectReplaced) OnProjectReplaced();
 }
 
 }  // namespace orvik

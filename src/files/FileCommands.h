@@ -3,10 +3,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "design/Hints.h"
 
 namespace orvik {
 
@@ -43,12 +46,30 @@ class FileCommands {
   bool LoadFile(std::string_view path);
 
   // Reads a project handed over as text. "Error reading data." where it cannot be read. False also,
-  // but silently, for an empty text.
+  // but silently, for an empty text. A host that knows nothing of kept points gets none back: one
+  // is kept only where the text has it.
   bool ReadFile(std::string_view text);
 
+  // Reads a project that was not saved, as text, in place of the one in the fields; it is untitled
+  // then, and `formerPath` is where it once lay. Shows no message of its own.
+  bool ReadUnsaved(std::string_view text, std::string_view formerPath);
+
   // Saves the project. The old file stays as it is until the new one is complete; nothing
-  // half-written remains. False, without a message, where that fails.
+  // half-written remains. False, without a message, where that fails. A file that could not be read
+  // as a whole project when it was opened is kept beside it first.
   bool SaveFile(const std::string& path);
+
+  // What is to be said of the last saving, or of the text that was read last; replaced by the next.
+  const std::vector<Hint>& SavingHints() const { return savingHints_; }
+
+  // True where the project in the fields is another one than was last saved, opened or begun anew.
+  bool HasUnsavedChanges() const { return TextNow() != savedText_; }
+
+  // As SaveText, of the fields as they are: nothing is raised. Empty where it fails.
+  std::string TextNow() const;
+
+  // What is in the fields now counts as saved.
+  void CountAsSaved() { savedText_ = TextNow(); }
 
   // The project as the text that a file would hold. False, and `text` as it was, where that fails.
   bool SaveText(std::string& text) const;
@@ -64,6 +85,13 @@ class FileCommands {
   // The user's documents folder; empty, and the reason in `error`, where the system does not know
   // it.
   std::string GetMyDocumentsFolder(std::string& error);
+
+  // Raised before the fields get another project, while they still show the one before; always
+  // followed by OnProjectReplaced.
+  std::function<void()> OnProjectReplacing;
+
+  // Raised after the project was written to a file.
+  std::function<void()> OnSaved;
 
   // Raised before the project is saved, so that the window can show exactly what will be saved.
   std::function<void()> OnSaving;
@@ -81,7 +109,12 @@ class FileCommands {
   FileDialog ProjectDialog();
   std::string StartFolder();
   void ShowFileName(std::string_view path);
-  void RaiseProjectReplaced();
+  template <typename Work>
+  bool Replace(Work&& work);
+  bool WriteTo(const std::string& path, const std::string& text);
+  bool ReadText(const std::string& text);
+  bool KeepForeignFile(const std::string& path);
+  bool Say(Hint hint);
 
   ProjectForm& form_;
   SolveForWorkflow& workflow_;
@@ -90,6 +123,9 @@ class FileCommands {
   std::string currentPath_;
   std::string currentFolder_;
   std::string defaultFolder_;
+  bool isForeign_ = false;                // the current file could not be read as a whole project
+  std::optional<std::string> savedText_;  // nothing: no text counts as saved
+  std::vector<Hint> savingHints_;
 };
 
 }  // namespace orvik

@@ -6,6 +6,7 @@
 #include "base/RuntimeErrors.h"
 #include "design/Calculate.h"
 #include "design/FileHints.h"
+#include "design/KeptPoint.h"
 #include "design/OutcomeMessage.h"
 #include "engine/ClimateStations.h"
 #include "files/ProjectHints.h"
@@ -51,10 +52,15 @@ void LoadCurves(OpenedProject& opened, const std::string& dataFolder) {
   }
 }
 
-void PlaceStoredPoint(OpenedProject& opened, const StoredPoint& stored) {
+void PlacePoint(OpenedProject& opened, const ProjectReading& reading) {
+  const FramedCurves* curves = opened.curves ? &*opened.curves : nullptr;
+  DesignPoint& point = opened.project.point;
   try {
-    PlaceUsingRV(opened.project.point, opened.curves ? &*opened.curves : nullptr,
-                 ParseNumber(stored.R), ParseNumber(stored.V));
+    if (reading.point) {
+      PlaceUsingRV(point, curves, ParseNumber(reading.point->R), ParseNumber(reading.point->V));
+    } else if (reading.keptPoint && opened.project.mode == SolveFor::Interactive) {
+      PlaceKeptPoint(point, curves, *reading.keptPoint);
+    }
   } catch (const NumericError&) {
     // Curves that cannot be used leave the point without an efficiency.
   }
@@ -74,9 +80,13 @@ OpenedProject OpenProjectFile(const std::string& path, const std::string& dataFo
     opened.messages.push_back({MessageId::ProjectFileUnreadable});
     return opened;
   }
-  if (reading.point) PlaceStoredPoint(opened, *reading.point);
+  PlacePoint(opened, reading);
   const Result result = Calculate(opened.project, opened.curves ? &*opened.curves : nullptr);
   opened.project = WithResult(std::move(opened.project), result);
+  opened.project.keptPoint = PointToKeep(opened.project, reading.OwnPoint());
+  if (const auto kept = HintOfKeptPoint(opened.project, opened.curves.has_value())) {
+    opened.hints.push_back(*kept);
+  }
   opened.shown = result.Shown();
   return opened;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "chart/ctrlStormwaterReuse.h"
+#include "design/KeptPoint.h"
 #include "files/ProjectHints.h"
 #include "files/ProjectText.h"
 #include "platform/Desktop.h"
@@ -20,13 +21,16 @@ bool ProjectFile::SaveDataInBuffer(clsIOStream& stream) const {
 bool ProjectFile::ReadDataFromBuffer(clsIOStream& stream) {
   const ProjectReading reading = ReadProject(stream);
   hints_ = HintsOf(reading, stream.FileName());
+  hadKeptPoint_ = reading.keptPoint.has_value();
   if (reading.refusal.id != MessageId::None) {
     desktop_.ShowError(Sentence(reading.refusal));
     return false;
   }
   TakeOver(reading);
-  if (reading.isWhole) workflow_.ReCalc();
-  return reading.isWhole;
+  if (!reading.isWhole) return false;
+  workflow_.ReCalc();
+  form_.keptPoint = PointToKeep(binding_.Snapshot(), reading.OwnPoint());
+  return true;
 }
 
 // In the order of the lines: choosing the station loads its curves; choosing the mode switches the
@@ -41,6 +45,12 @@ void ProjectFile::TakeOver(const ProjectReading& reading) {
     ShowFaultsOnBar(form_.txtErrMsg, [&] {
       std::string ignored;
       chart_.SetHotspotUsing_RV(reading.point->R, reading.point->V, ignored);
+    });
+  } else if (reading.keptPoint && form_.Mode() == SolveFor::Interactive) {
+    ShowFaultsOnBar(form_.txtErrMsg, [&] {
+      chart_.ChangePoint([&](DesignPoint& point, const FramedCurves* curves) {
+        PlaceKeptPoint(point, curves, *reading.keptPoint);
+      });
     });
   }
   TakeOverTexts(reading, {FieldKind::Slot});
@@ -74,6 +84,7 @@ void ProjectFile::ClearData() {
   form_.cmbClimateStation->ListIndex(-1);
   form_.cmbSolveFor->ListIndex(IndexOf(SolveFor::Interactive));
   empty(false);
+  form_.keptPoint.reset();
   form_.txtErrMsg.Clear();
 }
 

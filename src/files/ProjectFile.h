@@ -39,6 +39,8 @@ class ProjectFile {
   // What is to be said of the project that was read last and of the station's curves as they are
   // now. Of a stream on a text rather than a file, only its content is spoken of.
   std::vector<Hint> Hints() const;
+  // Whether the project that was read last had a kept point; see design/KeptPoint.
+  bool HadKeptPoint() const { return hadKeptPoint_; }
 
   // Every field to its empty default: an empty project.
   void ClearData();
@@ -53,6 +55,7 @@ class ProjectFile {
   SolveForWorkflow& workflow_;
   Desktop& desktop_;
   std::vector<Hint> hints_;
+  bool hadKeptPoint_ = false;
 };
 
 }  // namespace orvik

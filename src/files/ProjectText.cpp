@@ -5,6 +5,7 @@
 
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "files/ProjectExtras.h"
 #include "stream/clsIOStream.h"
 
 namespace orvik {
@@ -15,6 +16,10 @@ constexpr std::string_view kTitle = "ORVIK Stormwater Harvesting Module";
 constexpr std::size_t kMagicPrefix = 7;    // "KAV3.3.": the rest is the file's version
 constexpr std::size_t kVersionDigits = 2;  // at the end of the line
 constexpr double kFileVersion = 1;
+
+// The entries of a kept point.
+constexpr std::string_view kKeptR = "point.R";
+constexpr std::string_view kKeptV = "point.V";
 
 // --- Writing ---
 
@@ -45,6 +50,22 @@ bool WriteHotspot(clsIOStream& stream, const DesignPoint& point) {
          WriteLine(stream, ToShortestText(SingleV(point)));
 }
 
+bool WriteTail(clsIOStream& stream, const Project& project) {
+  if (project.mode == SolveFor::Interactive) return WriteHotspot(stream, project.point);
+  if (!IsTypedMode(project.mode)) return true;
+  return WriteLine(stream, project.Text(Field::SolveFor1)) &&
+         WriteLine(stream, project.Text(Field::SolveFor2));
+}
+
+ProjectExtras ExtrasOf(const Project& project) {
+  ProjectExtras extras;
+  if (project.keptPoint) {
+    extras.emplace(kKeptR, project.keptPoint->R);
+    extras.emplace(kKeptV, project.keptPoint->V);
+  }
+  return extras;
+}
+
 // --- Reading ---
 
 class Reader {
@@ -54,6 +75,7 @@ class Reader {
   ProjectReading Read() {
     reading_.isWhole =
         ReadMagic() && SkipLine() && ReadFields(IsDescription) && ReadSite() && ReadDesign();
+    if (reading_.isWhole) ReadKeptPoint();
     reading_.endsWithinLine = stream_.EndsWithinLine();
     return std::move(reading_);
   }
@@ -141,6 +163,15 @@ class Reader {
     return true;
   }
 
+  void ReadKeptPoint() {
+    const ProjectExtras extras = ReadExtras(stream_);
+    const auto R = extras.find(kKeptR);
+    const auto V = extras.find(kKeptV);
+    if (R == extras.end() || V == extras.end()) return;
+    if (!IsNumericText(R->second) || !IsNumericText(V->second)) return;
+    reading_.keptPoint = StoredPoint{R->second, V->second};
+  }
+
   clsIOStream& stream_;
   ProjectReading reading_;
 };
@@ -156,10 +187,7 @@ bool WriteProject(clsIOStream& stream, const Project& project) {
       !WriteFields(stream, project, IsSiteNumber)) {
     return false;
   }
-  if (project.mode == SolveFor::Interactive) return WriteHotspot(stream, project.point);
-  if (!IsTypedMode(project.mode)) return true;
-  return WriteLine(stream, project.Text(Field::SolveFor1)) &&
-         WriteLine(stream, project.Text(Field::SolveFor2));
+  return WriteTail(stream, project) && WriteExtras(stream, ExtrasOf(project));
 }
 
 ProjectReading ReadProject(clsIOStream& stream) {

@@ -16,17 +16,12 @@ class clsIOStream;
 // station's list index (0-based, -1 none) and name; 11 the solve-for index; 12 to 14 basin area,
 // runoff coefficient and irrigation area. Then, in the interactive mode: 1 or 0 for a hotspot and,
 // where there is one, its R and V; in the typed modes: the two given values. Nothing that can be
-// computed is stored.
+// computed is stored. After these lines, and only where there is one, the kept point: a point that
+// the interactive mode could not show.
 
 // Writes the project to a stream that is open for output. Blanks around a value are left out, and a
 // line end inside one becomes a blank, since a value is a line. False at the first failed write.
 bool WriteProject(clsIOStream& stream, const Project& project);
-
-// A hotspot as it is stored: the texts of its R and V.
-struct StoredPoint {
-  std::string R;
-  std::string V;
-};
 
 // What could be read of a project, in the order of its lines; what comes after the first fault has
 // no value.
@@ -35,6 +30,7 @@ struct ProjectReading {
   std::optional<std::int16_t> station;                    // the list index, any number
   std::optional<std::int16_t> mode;                       // the list index, any number
   std::optional<StoredPoint> point;
+  std::optional<StoredPoint> keptPoint;
   Message refusal;  // why the first line is not that of a project file of this version
   bool isWhole = false;
 
@@ -50,6 +46,9 @@ struct ProjectReading {
   const std::optional<std::string>& Text(Field field) const {
     return texts[static_cast<std::size_t>(field)];
   }
+
+  // The user's point, whether or not it could be shown when the project was written.
+  const std::optional<StoredPoint>& OwnPoint() const { return point ? point : keptPoint; }
 
   // An index outside its list chooses nothing.
   SolveFor Mode() const { return SolveForOfIndex(mode.value_or(-1)); }

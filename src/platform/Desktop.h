@@ -83,6 +83,9 @@ class Desktop {
   // The user's personal documents folder; nothing where the system cannot tell it.
   virtual std::optional<std::string> DocumentsFolder() = 0;
 
+  // The user's folder for what programs keep between two runs; see base/UserFolders.
+  virtual std::optional<std::string> StateFolder() = 0;
+
   // Today's date in the user's time zone.
   virtual CalendarDate Today() = 0;
 

@@ -2,6 +2,7 @@
 
 #include "chart/ctrlStormwaterReuse.h"
 #include "design/Calculate.h"
+#include "design/KeptPoint.h"
 #include "project/ProjectForm.h"
 
 namespace orvik {
@@ -13,6 +14,7 @@ Project FormBinding::Snapshot() const {
   project.mode = form_.Mode();
   project.takesPointByHand = chart_.InteractiveMode();
   project.point = chart_.Point();
+  project.keptPoint = PointToKeep(project, form_.keptPoint);
   return project;
 }
 
@@ -22,6 +24,7 @@ void FormBinding::Show(const Result& result) {
     if (text) form_.Box(field.id).Text(*text);
   }
   chart_.Point(result.point);
+  if (result.point.isShown) form_.keptPoint.reset();
   form_.txtErrMsg.Clear();
   for (const Message& message : result.messages) ShowOnBar(form_.txtErrMsg, message);
 }

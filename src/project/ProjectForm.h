@@ -4,10 +4,12 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "controls/ctrlErrorMessageBar.h"
 #include "controls/ctrlMyTextBox.h"
 #include "design/Fields.h"
+#include "design/Project.h"
 #include "design/SolveFor.h"
 #include "platform/Toolkit.h"
 
@@ -32,6 +34,9 @@ struct ProjectForm {
   // The site quantities of the chosen mode and their captions; slots 1...3.
   ctrlMyTextBox& txtSolveFor(int slot) { return Box(SlotField(slot)); }
   Label& lblSolveFor(int slot) { return *slotLabels_.at(static_cast<std::size_t>(slot - 1)); }
+
+  // A point that no widget shows; see design/KeptPoint.
+  std::optional<StoredPoint> keptPoint;
 
   // The mode that cmbSolveFor shows.
   SolveFor Mode() const { return SolveForOfIndex(cmbSolveFor->ListIndex()); }

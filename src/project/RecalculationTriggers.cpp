@@ -128,6 +128,7 @@ void RecalculationTriggers::ResetSolution() {
 // In the interactive mode the design point keeps its R and V on the curves of the other station,
 // and gets its efficiency from them.
 void RecalculationTriggers::ChangeStation() {
+  form_.keptPoint.reset();
   const bool keepsPoint = form_.Mode() == SolveFor::Interactive && chart_.Point().isShown;
   const bool showsNumbers = keepsPoint && interactive_.HotspotShowsNumbers();
   const double R = chart_.Point().R;
@@ -153,6 +154,7 @@ void RecalculationTriggers::LoadCurves() {
 }
 
 void RecalculationTriggers::ChangeMode() {
+  form_.keptPoint.reset();
   modeChange_.Apply();
   ForgetChanges();
 }

@@ -90,7 +90,7 @@ TEST(WriteNewFile, LeavesNothingWhereTheDiskIsFull) {
     const FileSizeLimit limit(3);
     outcome = Write(folder / "a", "four");
   }
-  EXPECT_EQ(outcome, NewFileOutcome::Failed);
+  EXPECT_EQ(outcome, NewFileOutcome::DiskFull);
   EXPECT_FALSE(FileExists(folder / "a"));
 }
 #endif

@@ -144,7 +144,7 @@ TEST_F(ChartCommand, FilesThatCannotBeReadOrWrittenExitThree) {
   const std::string target = Out("missing/a.png");
   const KavRun write = Run({"--station", "Tampa", "-o", target});
   EXPECT_EQ(write.exitCode, 3);
-  EXPECT_EQ(write.err, "The file " + target + " cannot be written.\n");
+  EXPECT_EQ(write.err, "The file " + target + " cannot be written: its folder does not exist.\n");
   const KavRun read = Run({Out("missing.kav"), "-o", Out("a.png")});
   EXPECT_EQ(read.exitCode, 3);
   EXPECT_NE(read.err, "");

@@ -44,7 +44,7 @@ TEST(WriteOutputFile, WritesTheBytes) {
 TEST(WriteOutputFile, SaysWhichFileCannotBeWritten) {
   const test::TempFolder folder;
   const std::string path = folder / "no such folder/a.crv";
-  EXPECT_EQ(FaultOf(path), Sentence(path, "."));
+  EXPECT_EQ(FaultOf(path), Sentence(path, ": its folder does not exist."));
 }
 
 TEST(WriteOutputFile, SaysThatAFolderIsOne) {

@@ -33,6 +33,15 @@ TEST_F(SettleFoldersTest, MakesItsFoldersBelowTheDocuments) {
   }
 }
 
+TEST_F(SettleFoldersTest, NamesTheFolderOfRecoveryCopiesAndLeavesItUnmade) {
+  EXPECT_EQ(Settle(std::nullopt).recovery, "");
+  desktop_.StateFolder(folder_ / "state");
+  const std::string recovery = Settle(std::nullopt).recovery;
+  EXPECT_EQ(PathFromUtf8(recovery),
+            PathFromUtf8(folder_ / "state/ORVIK33/StormwaterReuse/Recovery/"));
+  EXPECT_FALSE(FolderExists(folder_ / "state"));
+}
+
 TEST_F(SettleFoldersTest, WithoutDocumentsNothingIsMade) {
   for (const auto& documents : {std::optional<std::string>(), std::optional(folder_ / "missing")}) {
     const ModuleFolders folders = Settle(documents);

@@ -224,17 +224,42 @@ TEST_F(clsStReuseTest, StandAloneOpensTheFileThatIsNamed) {
   EXPECT_EQ(p3_, "not looked at");
 }
 
-TEST_F(clsStReuseTest, StandAloneIgnoresAFileThatIsNotThere) {
-  p2_ = folder_ / "missing.kav";
-  EXPECT_EQ(Show(1, [this] { EXPECT_EQ(toolkit_.Text("txtProjectName"), ""); }), 0);
+// The window says it beside its messages: no box comes before it.
+TEST_F(clsStReuseTest, StandAloneSaysThatTheNamedFileCannotBeOpened) {
+  auto half = ProjectLines();
+  half.pop_back();
+  for (const std::string& path :
+       {folder_ / "missing.kav", folder_.Write("half.kav", ProjectText(half)), folder_.Path()}) {
+    p2_ = path;
+    EXPECT_EQ(Show(1,
+                   [&] {
+                     EXPECT_THAT(module_.Window().Hints(),
+                                 testing::Contains(Hint{HintId::NamedFileNotOpened, {path}}));
+                     toolkit_.ClickMenu("mnuFile_New");
+                     EXPECT_THAT(module_.Window().Hints(), testing::IsEmpty()) << path;
+                   }),
+              0);
+  }
   EXPECT_TRUE(desktop_.Messages().empty());
 }
 
-TEST_F(clsStReuseTest, StandAloneShowsAnErrorForAFileThatCannotBeRead) {
+TEST_F(clsStReuseTest, StandAloneShowsWhyANamedFileIsNoProjectAndNoFurtherBox) {
   p2_ = folder_.Write("pond.kav", "Dear Sir,\r\n");
   EXPECT_EQ(Show(1, [] {}), 0);
-  ASSERT_FALSE(desktop_.Messages().empty());
-  EXPECT_EQ(desktop_.Messages().back().text, "Error reading data file.");
+  ASSERT_EQ(desktop_.Messages().size(), 1U);
+  EXPECT_EQ(desktop_.Messages()[0].text,
+            "The data file does not appear to be a valid ORVIK 3.3 KAV file.");
+}
+
+TEST_F(clsStReuseTest, StandAloneKeepsRecoveryCopiesAndAHostProjectNone) {
+  desktop_.StateFolder(folder_ / "state");
+  Show(2, [this] {
+    toolkit_.Type("txtProjectName", "Pond");
+    EXPECT_EQ(module_.Window().Unsaved(), nullptr);
+  });
+  EXPECT_FALSE(FolderExists(folder_ / "state"));
+  Show(1, [this] { toolkit_.Type("txtProjectName", "Pond"); });
+  Show(1, [this] { EXPECT_EQ(module_.Window().Unsaved()->Offers().size(), 1U); });
 }
 
 TEST_F(clsStReuseTest, FileDialogsStartInTheModulesFolder) {

@@ -11,6 +11,7 @@ namespace {
 using test::FormFixture;
 using test::ProjectText;
 using test::ReadBytes;
+using testing::ElementsAre;
 
 constexpr const char* kUntitled = "ORVIK 3.3 Stormwater Harvesting - [untitled]";
 
@@ -27,6 +28,7 @@ class FileMenu : public FormFixture {
   }
   std::string Caption() { return toolkit_.Caption("Form1"); }
   std::string CurrentPath() { return form_->Files().CurrentPath(); }
+  const std::vector<Hint>& SavingHints() { return form_->Files().SavingHints(); }
   std::size_t FilesIn(const std::string& folder) {
     std::size_t count = 0;
     for ([[maybe_unused]] const auto& entry :
@@ -171,6 +173,74 @@ TEST_F(FileMenu, AFailedSaveKeepsTheGoodFile) {
   EXPECT_EQ(FilesIn(folder_ / "Projects"), 1U);
   std::filesystem::permissions(PathFromUtf8(path), std::filesystem::perms::owner_write,
                                std::filesystem::perm_options::add);
+}
+
+TEST_F(FileMenu, AFailedSaveIsSaidWithItsReason) {
+  form_->Files().ReadFile(ProjectText());
+  const std::string path = folder_ / "no such folder/Pond.kav";
+  SaveAs(path);
+  EXPECT_THAT(SavingHints(),
+              ElementsAre(Hint{HintId::SaveFailed, {path, "its folder does not exist"}}));
+  SaveAs(folder_ / "Pond.kav");
+  EXPECT_THAT(SavingHints(), ElementsAre()) << "the next save went well";
+}
+
+// --- A file that Open could not read whole ---
+
+TEST_F(FileMenu, AForeignFileIsKeptBesideItBeforeASaveOverwritesIt) {
+  const std::string path = folder_.Write("Letters/letter.txt", "Dear Sir,\r\n");
+  Open(path);
+  Click("mnuFile_Save");
+  const std::string kept = folder_ / "Letters/letter (kept).txt";
+  EXPECT_EQ(ReadBytes(kept), "Dear Sir,\r\n");
+  EXPECT_EQ(test::Lines(ReadBytes(path)).front(), "KAV3.3.01");
+  EXPECT_THAT(SavingHints(), ElementsAre(Hint{HintId::ForeignFileKept, {path, kept}}));
+  Click("mnuFile_Save");
+  EXPECT_EQ(FilesIn(folder_ / "Letters"), 2U) << "it is ours now";
+  EXPECT_THAT(SavingHints(), ElementsAre());
+}
+
+TEST_F(FileMenu, AProjectThatIsCutShortIsKeptToo) {
+  auto lines = test::ProjectLines();
+  lines.pop_back();
+  const std::string path = folder_.Write("Cut/Pond.kav", ProjectText(lines));
+  Open(path);
+  Click("mnuFile_Save");
+  EXPECT_EQ(ReadBytes(folder_ / "Cut/Pond (kept).kav"), ProjectText(lines));
+}
+
+TEST_F(FileMenu, SavingUnderAnotherNameLeavesTheForeignFileAsItIs) {
+  const std::string path = folder_.Write("Letters/letter.txt", "Dear Sir,\r\n");
+  Open(path);
+  SaveAs(folder_ / "Letters/Pond.kav");
+  EXPECT_EQ(ReadBytes(path), "Dear Sir,\r\n");
+  EXPECT_EQ(FilesIn(folder_ / "Letters"), 2U);
+}
+
+TEST_F(FileMenu, SavingAsTheForeignFileByAnotherWayKeepsItToo) {
+  Open(folder_.Write("Letters/letter.txt", "Dear Sir,\r\n"));
+  SaveAs(folder_ / "Letters/../Letters/letter.txt");
+  EXPECT_EQ(ReadBytes(folder_ / "Letters/letter (kept).txt"), "Dear Sir,\r\n");
+}
+
+// --- Unsaved changes ---
+
+TEST_F(FileMenu, ChangesAreUnsavedUntilTheTextIsThatOfTheFileAgain) {
+  const auto hasChanges = [&] { return form_->Files().HasUnsavedChanges(); };
+  Click("mnuFile_New");
+  EXPECT_FALSE(hasChanges());
+  Open(folder_.Write("Pond.kav", ProjectText()));
+  EXPECT_FALSE(hasChanges());
+  Type("txtProjectName", "Lake");
+  EXPECT_TRUE(hasChanges());
+  Type("txtProjectName", "Pond");
+  EXPECT_FALSE(hasChanges());
+  Type("txtProjectName", "Lake");
+  Click("mnuFile_Save");
+  EXPECT_FALSE(hasChanges());
+  TypeAndEnter("txtSolveFor(1)", "70");
+  SaveAs(folder_ / "no such folder/Pond.kav");
+  EXPECT_TRUE(hasChanges()) << "the save failed";
 }
 
 TEST_F(FileMenu, AFolderWithTheNameIsLeftAlone) {

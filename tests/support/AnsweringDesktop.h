@@ -20,6 +20,7 @@ class AnsweringDesktop final : public HeadlessDesktop {
   std::string ChooseFileToOpen(const FileDialog& dialog) override { return Choose(dialog); }
   std::string ChooseFileToSave(const FileDialog& dialog) override { return Choose(dialog); }
   std::optional<std::string> DocumentsFolder() override { return documentsFolder_; }
+  std::optional<std::string> StateFolder() override { return stateFolder_; }
   PageOpening OpenPage(const std::string& path) override;
   std::optional<Picture> ReadPicture(const std::string& path) override;
   bool CopyToClipboard(const ClipboardContent& content) override;
@@ -33,6 +34,7 @@ class AnsweringDesktop final : public HeadlessDesktop {
   void AnswerFile(std::string path) { fileAnswers_.push_back(std::move(path)); }
 
   void DocumentsFolder(std::optional<std::string> folder) { documentsFolder_ = std::move(folder); }
+  void StateFolder(std::optional<std::string> folder) { stateFolder_ = std::move(folder); }
   void Today(CalendarDate date) { Now({date, 0, 0, 0}); }
   using HeadlessDesktop::Today;
   void ForgetMessages() { messages_.clear(); }
@@ -62,6 +64,7 @@ class AnsweringDesktop final : public HeadlessDesktop {
   std::deque<std::string> fileAnswers_;
   std::optional<std::string> documentsFolder_;
   std::vector<std::string> openedPages_;
+  std::optional<std::string> stateFolder_;
   PageOpening pageAnswer_ = PageOpening::Opened;
   std::vector<std::string> readPictures_;
   std::optional<Picture> pictureAnswer_;

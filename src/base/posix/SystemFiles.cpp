@@ -1,10 +1,12 @@
 #include "base/SystemFiles.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <ctime>
 #include <optional>
 #include <system_error>
 
@@ -55,37 +57,53 @@ std::optional<struct stat> StatusOf(const fs::path& path) {
 }
 
 // The owner first, since changing it clears some permission bits (set-user-ID). Only the superuser
-// may change it; otherwise the file stays the writer's own.
-bool TakeAfter(int file, const struct stat& like) {
+// may give a file away.
+NewFileOutcome TakeAfter(int file, const struct stat& like, Owner owner) {
   struct stat mine {};
-  if (fstat(file, &mine) != 0) return false;
-  if (mine.st_uid != like.st_uid || mine.st_gid != like.st_gid) {
-    [[maybe_unused]] const int ignored = fchown(file, like.st_uid, like.st_gid);
+  if (fstat(file, &mine) != 0) return NewFileOutcome::Failed;
+  const bool isOwners = mine.st_uid == like.st_uid && mine.st_gid == like.st_gid;
+  if (!isOwners && fchown(file, like.st_uid, like.st_gid) != 0) {
+    return owner == Owner::MayChange ? NewFileOutcome::Written : NewFileOutcome::OwnerRefused;
   }
-  return fchmod(file, like.st_mode & kPermissions) == 0;
+  return fchmod(file, like.st_mode & kPermissions) == 0 ? NewFileOutcome::Written
+                                                        : NewFileOutcome::Failed;
 }
 
-// Best effort: without it the rename itself can be lost in a power failure; the old file is then
-// still there, whole.
-void FlushFolder(const fs::path& folder) {
-  const Descriptor opened(
-      open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (opened.Get() >= 0) fsync(opened.Get());
+// Why the last call of the system failed.
+NewFileOutcome FailureOf(int error) {
+  const bool isFull = error == ENOSPC || error == EDQUOT || error == EFBIG;
+  return isFull ? NewFileOutcome::DiskFull : NewFileOutcome::Failed;
+}
+
+NewFileOutcome Fill(Descriptor& file, std::string_view bytes,
+                    const std::optional<struct stat>& like, Owner owner) {
+  if (!WriteAll(file.Get(), bytes)) return FailureOf(errno);
+  const NewFileOutcome taken = like ? TakeAfter(file.Get(), *like, owner) : NewFileOutcome::Written;
+  if (taken != NewFileOutcome::Written) return taken;
+  if (fsync(file.Get()) != 0 || !file.Close()) return FailureOf(errno);
+  return NewFileOutcome::Written;
 }
 
 }  // namespace
 
-NewFileOutcome WriteNewFile(const fs::path& path, std::string_view bytes, const fs::path& like) {
+bool MayWrite(const fs::path& path) {
+  const Descriptor file(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+  return file.Get() >= 0 || (errno != EACCES && errno != EPERM && errno != EROFS);
+}
+
+// The lock goes with the descriptor, also when the program dies. A file system without locks is no
+// reason not to write: the file's age protects it there.
+NewFileOutcome WriteNewFile(const fs::path& path, std::string_view bytes, const fs::path& like,
+                            Owner owner) {
   const auto model = StatusOf(like);
   const mode_t mode = model ? kPrivateMode : kCommonMode;
   Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
-  if (file.Get() < 0) return errno == EEXIST ? NewFileOutcome::NameTaken : NewFileOutcome::Failed;
-  const bool isFlushed = WriteAll(file.Get(), bytes) && (!model || TakeAfter(file.Get(), *model)) &&
-                         fsync(file.Get()) == 0;
-  if (file.Close() && isFlushed) return NewFileOutcome::Written;
+  if (file.Get() < 0) return errno == EEXIST ? NewFileOutcome::NameTaken : FailureOf(errno);
+  flock(file.Get(), LOCK_EX | LOCK_NB);
+  const NewFileOutcome outcome = Fill(file, bytes, model, owner);
   std::error_code ignored;
-  fs::remove(path, ignored);
-  return NewFileOutcome::Failed;
+  if (outcome != NewFileOutcome::Written) fs::remove(path, ignored);
+  return outcome;
 }
 
 bool RenameOver(const fs::path& from, const fs::path& to) {
@@ -94,6 +112,31 @@ bool RenameOver(const fs::path& from, const fs::path& to) {
   if (error) return false;
   FlushFolder(to.parent_path());
   return true;
+}
+
+// Best effort: without it the last rename can be lost in a power failure; the old file is then
+// still there, whole.
+void FlushFolder(const fs::path& folder) {
+  const Descriptor opened(
+      open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (opened.Get() >= 0) fsync(opened.Get());
+}
+
+OverwriteOutcome OverwriteFile(const fs::path& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+  if (file.Get() < 0) return OverwriteOutcome::Refused;
+  const bool isWritten = WriteAll(file.Get(), bytes) &&
+                         ftruncate(file.Get(), static_cast<off_t>(bytes.size())) == 0 &&
+                         fsync(file.Get()) == 0;
+  return file.Close() && isWritten ? OverwriteOutcome::Written : OverwriteOutcome::Broken;
+}
+
+void RemoveAbandoned(const fs::path& path, std::chrono::seconds age) {
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  struct stat status {};
+  if (file.Get() < 0 || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return;
+  const bool isOld = std::time(nullptr) - status.st_mtime >= age.count();
+  if (isOld && flock(file.Get(), LOCK_EX | LOCK_NB) == 0) unlink(path.c_str());
 }
 
 std::optional<fs::path> LinkTarget(const fs::path& path) {

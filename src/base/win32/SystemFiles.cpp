@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -11,6 +12,10 @@ namespace orvik {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD kKeptMarks = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+constexpr std::uint64_t kTicksPerSecond = 10'000'000;  // of a FILETIME
 
 // An open file, closed when this goes.
 class FileHandle {
@@ -44,6 +49,15 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
   return true;
 }
 
+NewFileOutcome FailureOf(DWORD error) {
+  const bool isFull = error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL;
+  return isFull ? NewFileOutcome::DiskFull : NewFileOutcome::Failed;
+}
+
+std::uint64_t TicksOf(const FILETIME& time) {
+  return std::uint64_t{time.dwHighDateTime} << 32U | time.dwLowDateTime;
+}
+
 // Other reparse points (files kept in a cloud, for example) are files of this folder.
 bool IsSymbolicLink(const fs::path& path) {
   WIN32_FIND_DATAW found{};
@@ -56,20 +70,33 @@ bool IsSymbolicLink(const fs::path& path) {
 
 }  // namespace
 
-// `like` is not needed: a new file inherits the permissions of its folder, as the old file did.
-NewFileOutcome WriteNewFile(const fs::path& path, std::string_view bytes, const fs::path&) {
+bool MayWrite(const fs::path& path) {
+  const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, kShareAll, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file.IsOpen() || GetLastError() != ERROR_ACCESS_DENIED;
+}
+
+// A new file inherits the permissions of its folder, as the old file did; what is kept of `like`
+// are its marks (hidden, system). Nobody else opens the file while it is written.
+NewFileOutcome WriteNewFile(const fs::path& path, std::string_view bytes, const fs::path& like,
+                            Owner) {
+  const DWORD found = like.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(like.c_str());
+  const DWORD marks = found == INVALID_FILE_ATTRIBUTES ? 0 : found & kKeptMarks;
   FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
+                              marks == 0 ? FILE_ATTRIBUTE_NORMAL : marks, nullptr));
   if (!file.IsOpen()) {
     const DWORD error = GetLastError();
     const bool isTaken = error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
-    return isTaken ? NewFileOutcome::NameTaken : NewFileOutcome::Failed;
+    return isTaken ? NewFileOutcome::NameTaken : FailureOf(error);
   }
-  const bool isFlushed = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
-  if (file.Close() && isFlushed) return NewFileOutcome::Written;
+  NewFileOutcome outcome = NewFileOutcome::Written;
+  if (!WriteAll(file.Get(), bytes) || !FlushFileBuffers(file.Get())) {
+    outcome = FailureOf(GetLastError());
+  }
+  if (!file.Close() && outcome == NewFileOutcome::Written) outcome = NewFileOutcome::Failed;
   std::error_code ignored;
-  fs::remove(path, ignored);
-  return NewFileOutcome::Failed;
+  if (outcome != NewFileOutcome::Written) fs::remove(path, ignored);
+  return outcome;
 }
 
 // MOVEFILE_WRITE_THROUGH flushes the folder too.
@@ -78,11 +105,36 @@ bool RenameOver(const fs::path& from, const fs::path& to) {
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
 }
 
+// The system writes the names of new files through with their content.
+void FlushFolder(const fs::path&) {}
+
+OverwriteOutcome OverwriteFile(const fs::path& path, std::string_view bytes) {
+  FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, kShareAll, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file.IsOpen()) return OverwriteOutcome::Refused;
+  const bool isWritten =
+      WriteAll(file.Get(), bytes) && SetEndOfFile(file.Get()) && FlushFileBuffers(file.Get());
+  return file.Close() && isWritten ? OverwriteOutcome::Written : OverwriteOutcome::Broken;
+}
+
+// A file that is being written is shared with nobody: it cannot be opened here.
+void RemoveAbandoned(const fs::path& path, std::chrono::seconds age) {
+  const FileHandle file(CreateFileW(path.c_str(), DELETE | FILE_READ_ATTRIBUTES, 0, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+  FILETIME written{};
+  if (!file.IsOpen() || !GetFileTime(file.Get(), nullptr, nullptr, &written)) return;
+  FILETIME now{};
+  GetSystemTimeAsFileTime(&now);
+  const std::uint64_t ticks = static_cast<std::uint64_t>(age.count()) * kTicksPerSecond;
+  if (TicksOf(now) < TicksOf(written) + ticks) return;
+  FILE_DISPOSITION_INFO remove{TRUE};
+  SetFileInformationByHandle(file.Get(), FileDispositionInfo, &remove, sizeof(remove));
+}
+
 std::optional<fs::path> LinkTarget(const fs::path& path) {
   if (!IsSymbolicLink(path)) return path;
-  const FileHandle file(CreateFileW(path.c_str(), 0,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  const FileHandle file(CreateFileW(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   if (!file.IsOpen()) return std::nullopt;
   std::wstring target(GetFinalPathNameByHandleW(file.Get(), nullptr, 0, FILE_NAME_NORMALIZED),
                       L'\0');

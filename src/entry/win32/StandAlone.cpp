@@ -60,14 +60,12 @@ ComPtr<IClassFactory> FindFactory(const std::filesystem::path& library) {
   return factory;
 }
 
-// The full path of the file; empty, and the user is told, where there is no such file.
+// The full path of the file, whether or not there is one: the window says so.
 std::wstring ProjectPath(const std::vector<std::wstring>& arguments) {
   if (arguments.empty()) return {};
   std::error_code error;
   const auto path = std::filesystem::absolute(arguments.front(), error);
-  if (!error && std::filesystem::is_regular_file(path, error)) return path.wstring();
-  ShowError(L"Error reading data file.");
-  return {};
+  return error ? arguments.front() : path.wstring();
 }
 
 void OpenWindow() {

@@ -25,6 +25,7 @@ class HeadlessDesktop : public Desktop {
   std::string ChooseFileToOpen(const FileDialog&) override { return {}; }
   std::string ChooseFileToSave(const FileDialog&) override { return {}; }
   std::optional<std::string> DocumentsFolder() override { return std::nullopt; }
+  std::optional<std::string> StateFolder() override { return std::nullopt; }
   PageOpening OpenPage(const std::string&) override { return PageOpening::NoProgram; }
   std::optional<Picture> ReadPicture(const std::string&) override { return std::nullopt; }
   bool CopyToClipboard(const ClipboardContent&) override { return false; }

@@ -1,5 +1,6 @@
 #include "platform/win32/NativeDesktop.h"
 
+#include "base/UserFolders.h"
 #include "platform/win32/BrowserPage.h"
 #include "platform/win32/Clipboard.h"
 #include "platform/win32/Dpi.h"
@@ -47,6 +48,10 @@ std::string NativeDesktop::ChooseFileToSave(const FileDialog& dialog) {
 
 std::optional<std::string> NativeDesktop::DocumentsFolder() {
   return ShellDocumentsFolder();
+}
+
+std::optional<std::string> NativeDesktop::StateFolder() {
+  return UserStateFolder();
 }
 
 CalendarDate NativeDesktop::Today() {

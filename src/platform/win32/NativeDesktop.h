@@ -19,6 +19,7 @@ class NativeDesktop final : public Desktop {
   std::string ChooseFileToOpen(const FileDialog& dialog) override;
   std::string ChooseFileToSave(const FileDialog& dialog) override;
   std::optional<std::string> DocumentsFolder() override;
+  std::optional<std::string> StateFolder() override;
   CalendarDate Today() override;
   ClockTime Now() override;
   std::unique_ptr<Printer> OpenPrinter() override;
