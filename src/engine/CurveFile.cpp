@@ -95,7 +95,7 @@ class CurveFileReader {
       if (!ReadCurve(set_.curves.emplace_back())) return false;
     }
     // Without its line end, the last coefficient may have lost digits.
-    return Expect(!stream_.EndsWithinLine(), endsHere_);
+    return Expect(!stream_.EndOfFile() || !stream_.EndsWithinLine(), endsHere_);
   }
 
   bool IsAtEndOfCurves() {

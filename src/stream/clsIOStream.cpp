@@ -140,7 +140,7 @@ bool clsIOStream::EndOfFile() const {
 }
 
 bool clsIOStream::EndsWithinLine() const {
-  return IsReadingFile() && EndOfFile() && !fileText_.empty() && !IsLineEnd(fileText_.back());
+  return IsReadingFile() && !fileText_.empty() && !IsLineEnd(fileText_.back());
 }
 
 bool clsIOStream::WriteString(std::string_view txt) {

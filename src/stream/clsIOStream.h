@@ -66,8 +66,8 @@ class clsIOStream {
   // True at the end of the input, and in every mode that is not input.
   bool EndOfFile() const;
 
-  // True where the whole of an input file has been read and its last line has no line end, as in a
-  // file that was cut short.
+  // True where the last line of an input file has no line end, as in a file that was cut short. It
+  // need not have been read yet.
   bool EndsWithinLine() const;
 
   // As ScanSingle, for a whole number of 16 bits. File: fractions are rounded half to even, values

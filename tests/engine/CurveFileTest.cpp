@@ -166,8 +166,8 @@ TEST(ReadCurveFile, AFileThatEndsRightAfterItsLastCurveHasNoLabels) {
   const CurveReading reading = ReadingOf(text.substr(0, labels), set);
   EXPECT_TRUE(reading.IsUsable());
   EXPECT_FALSE(reading.hasLabelCount);
-  EXPECT_EQ(set.Curves.size(), 3U);
-  EXPECT_TRUE(set.Labels.empty());
+  EXPECT_EQ(set.curves.size(), 3U);
+  EXPECT_TRUE(set.labels.empty());
   EXPECT_TRUE(ReadingOf(text, set).hasLabelCount);
 }
 

@@ -57,8 +57,11 @@ TEST_F(ProjectHints, AFileWhoseLastLineHasNoEndMayBeCutShort) {
   EXPECT_THAT(HintsOfText(cut), IsEmpty()) << "a host's text need not end with a line end";
 }
 
-TEST_F(ProjectHints, ALastLineThatIsNotReadMayHaveNoEnd) {
-  EXPECT_THAT(HintsOf(ProjectText() + "a remark"), IsEmpty());
+// It could be the beginning of what a project holds after its lines.
+TEST_F(ProjectHints, ALastLineThatIsNotReadMayBeCutShortToo) {
+  EXPECT_THAT(HintsOf(ProjectText() + "a remark\r\n"), IsEmpty());
+  EXPECT_THAT(HintsOf(ProjectText() + "[ORV"),
+              ElementsAre(Hint{HintId::PossiblyCutShort, {path_}}));
 }
 
 TEST_F(ProjectHints, AFileThatEndsEarlyIsSaidToEndThere) {

@@ -113,7 +113,7 @@ TEST(RainRecord, ADepthBeyondEveryUnitIsRefusedWithItsLineAndValue) {
         << depth;
   }
   EXPECT_EQ(ErrorOf(row + "18288\n"), "no error") << "the mean annual rainfall names the unit";
-  EXPECT_EQ(ParseRainRecord(row + "99999\n", RainUnit::TenthsOfMillimetre).Days.size(), 2U);
+  EXPECT_EQ(ParseRainRecord(row + "99999\n", RainUnit::TenthsOfMillimetre).days.size(), 2U);
 }
 
 TEST(RainRecord, ALineThatIsNoRowIsRefusedBeforeItIsSplit) {
