@@ -268,9 +268,9 @@ TEST_F(HotspotDrawing, WithoutExclusiveOrPaintingUsesTheColourThatTheMarkHasOnWh
 
 // --- A screen under a long hand ---
 
-class PixelHost final : public Host {
+class RepaintingHost final : public Host {
  public:
-  explicit PixelHost(ctrlStormwaterReuse& chart) : chart_(chart) {}
+  explicit RepaintingHost(ctrlStormwaterReuse& chart) : chart_(chart) {}
 
   PixelSurface screen;
 
@@ -289,7 +289,7 @@ class PixelHost final : public Host {
 };
 
 TEST_F(HotspotDrawing, AfterAnyInputTheScreenIsAFreshPaintingsScreen) {
-  PixelHost host(chart_);
+  RepaintingHost host(chart_);
   chart_.AttachHost(&host);
   std::mt19937 random(20);
   const auto upTo = [&](int most) { return std::uniform_int_distribution(0, most)(random); };

@@ -3,15 +3,12 @@
 #include <stdexcept>
 
 #include "controls/PictureScaling.h"
+#include "support/FilledPicture.h"
 
 namespace orvik {
 namespace {
 
-Picture Filled(Size size, std::uint32_t colour) {
-  return {size, std::vector<std::uint32_t>(
-                    static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
-                    colour)};
-}
+using test::FilledPicture;
 
 Area Whole(Size size) {
   return {0, 0, size.width, size.height};
@@ -37,9 +34,9 @@ TEST(PictureScaling, ItsOwnSizeCopiesThePicture) {
 TEST(PictureScaling, OneColourStaysThatColour) {
   for (const std::uint32_t colour : {0x000000U, 0xFFFFFFU, 0x0180FEU}) {
     for (const Size size : {Size{3, 2}, Size{40, 13}, Size{7, 150}}) {
-      const Picture scaled = ScalePicture(Filled({40, 30}, colour), size, Whole(size));
+      const Picture scaled = ScalePicture(FilledPicture({40, 30}, colour), size, Whole(size));
       EXPECT_EQ(scaled.size, size);
-      EXPECT_EQ(scaled.pixels, Filled(size, colour).pixels);
+      EXPECT_EQ(scaled.pixels, FilledPicture(size, colour).pixels);
     }
   }
 }
@@ -73,7 +70,7 @@ TEST(PictureScaling, ChannelsDoNotMix) {
 TEST(PictureScaling, AThinLineDoesNotDisappear) {
   constexpr int kHeight = 300;
   for (int at = 20; at < 30; ++at) {
-    Picture picture = Filled({1, kHeight}, 255);
+    Picture picture = FilledPicture({1, kHeight}, 255);
     picture.pixels[static_cast<std::size_t>(at)] = 0;
     const Picture scaled = ScalePicture(picture, {1, 100}, Whole({1, 100}));
     int darkness = 0;
@@ -100,7 +97,7 @@ TEST(PictureScaling, ACutIsThatPartOfTheWhole) {
 
 TEST(PictureScaling, NothingIsCutOutOfNothing) {
   EXPECT_TRUE(ScalePicture({}, {10, 10}, {0, 0, 10, 10}).pixels.empty());
-  EXPECT_TRUE(ScalePicture(Filled({4, 4}, 1), {10, 10}, {5, 5, 5, 9}).pixels.empty());
+  EXPECT_TRUE(ScalePicture(FilledPicture({4, 4}, 1), {10, 10}, {5, 5, 5, 9}).pixels.empty());
   EXPECT_THROW(ScalePicture({{2, 2}, {1, 2, 3}}, {2, 2}, {0, 0, 2, 2}), std::invalid_argument);
 }
 

@@ -4,18 +4,14 @@
 #include <stdexcept>
 
 #include "controls/ctrlPictureViewer.h"
+#include "support/FilledPicture.h"
 #include "support/RecordingHost.h"
 
 namespace orvik {
 namespace {
 
+using test::FilledPicture;
 using testing::ElementsAre;
-
-Picture Filled(Size size, std::uint32_t colour = 0x123456) {
-  return {size, std::vector<std::uint32_t>(
-                    static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height),
-                    colour)};
-}
 
 // A picture of 200 x 100 in a viewer of 100 x 100.
 class PictureViewerTest : public testing::Test {
@@ -23,7 +19,7 @@ class PictureViewerTest : public testing::Test {
   PictureViewerTest() {
     viewer_.AttachHost(&host_);
     viewer_.Resize(100, 100);
-    viewer_.Show(Filled({200, 100}));
+    viewer_.Show(FilledPicture({200, 100}, 0x123456));
     host_.Take();
   }
 

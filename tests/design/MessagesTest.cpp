@@ -9,21 +9,22 @@ namespace orvik {
 namespace {
 
 TEST(Messages, AValueReplacesItsPlaceholder) {
-  EXPECT_EQ(Sentence({MessageId::VolumeAboveAxis, "7"}),
+  EXPECT_EQ(Sentence(Message{MessageId::VolumeAboveAxis, "7"}),
             "Normalized storage volume is greater than 7");
-  EXPECT_EQ(Sentence({MessageId::EfficiencyBelowCurves, "50"}),
+  EXPECT_EQ(Sentence(Message{MessageId::EfficiencyBelowCurves, "50"}),
             "Design efficiency is less than 50%.");
-  EXPECT_EQ(Sentence({MessageId::NoCurve, "60abc"}), "Unable to extract curve data for E=60abc");
-  EXPECT_EQ(Sentence({MessageId::CurveFolderMissing, "C:\\x\\"}),
+  EXPECT_EQ(Sentence(Message{MessageId::NoCurve, "60abc"}),
+            "Unable to extract curve data for E=60abc");
+  EXPECT_EQ(Sentence(Message{MessageId::CurveFolderMissing, "C:\\x\\"}),
             "Can't find data path:\r\nC:\\x\\");
 }
 
 TEST(Messages, AValueIsNotSearchedForPlaceholders) {
-  EXPECT_EQ(Sentence({MessageId::CurveFileMissing, "{}"}), "Can't find data for {}");
+  EXPECT_EQ(Sentence(Message{MessageId::CurveFileMissing, "{}"}), "Can't find data for {}");
 }
 
 TEST(Messages, NoneIsEmpty) {
-  EXPECT_EQ(Sentence({}), "");
+  EXPECT_EQ(Sentence(Message{}), "");
   EXPECT_EQ(HelpTopic(MessageId::None), 0);
 }
 

@@ -38,7 +38,7 @@ CurveSet SampleSet() {
 TEST(CurveFileText, HasOneValueOnEachLine) {
   CurveSet set = SampleSet();
   set.curves.pop_back();
-  EXPECT_EQ(CurveFileText(set),
+  EXPECT_EQ(orvik::CurveFileText(set),
             "Sampleville - computed, \"quoted\", 2001-2010\r\n"
             "0\r\n7\r\n1\r\n0\r\n0.4\r\n0.05\r\n"
             "1\r\n"
@@ -51,7 +51,8 @@ TEST(CurveFileText, ReadsBackToTheSameNumbers) {
   const CurveSet set = SampleSet();
   const test::TempFolder folder;
   clsIOStream stream;
-  stream.OpenFile(folder.Write("a.crv", CurveFileText(set)), enumIOStreamMode::AsciiFileInput);
+  stream.OpenFile(folder.Write("a.crv", orvik::CurveFileText(set)),
+                  enumIOStreamMode::AsciiFileInput);
   CurveSet read;
   ASSERT_TRUE(ReadCurveFile(stream, read).IsUsable());
   EXPECT_EQ(read.title, set.title);
@@ -85,7 +86,7 @@ TEST(RoundCoefficient, IsWhatTheTextReadsBackAs) {
 TEST(CurveFileText, NeverWritesANumberThatIsNotFinite) {
   CurveSet set = SampleSet();
   set.curves[0].B = std::numeric_limits<double>::quiet_NaN();
-  EXPECT_THROW(CurveFileText(set), OverflowError);
+  EXPECT_THROW(orvik::CurveFileText(set), OverflowError);
 }
 
 }  // namespace
