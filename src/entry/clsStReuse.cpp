@@ -34,6 +34,10 @@ void LoadProjectText(Form1& window, const std::string& text) {
 
 }  // namespace
 
+clsStReuse::~clsStReuse() {
+  module_.LetGoOfWindow(this);
+}
+
 std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& ParamString2,
                               std::string& ParamString3) {
   const ReuseModule::Use use(module_);
@@ -73,6 +77,7 @@ void clsStReuse::Print_Remote(Printer* printer, std::int16_t Mode, const std::st
                               const std::string& ParamString2) {
   const ReuseModule::Use use(module_);
   Form1& window = module_.Window();
+  module_.HoldWindow(this);
   window.Mode(Mode);
   LoadProjectText(window, ParamString2);
   window.PrintOn(printer);

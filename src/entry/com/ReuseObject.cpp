@@ -54,11 +54,6 @@ void WithWindow(Operation&& operation) {
 
 ReuseObject::ReuseObject() : entry_(LoadedReuseModule()) {}
 
-// A window that a report was printed from has no one left to show it.
-ReuseObject::~ReuseObject() {
-  LoadedReuseModule().UnloadIdleWindow();
-}
-
 STDMETHODIMP ReuseObject::Show(short Mode, BSTR* ParamString1, BSTR* ParamString2,
                                BSTR* ParamString3, short* Result) {
   const ComPtr<IclsStReuse> self(this);  // a host may let go of the object while the window is open
