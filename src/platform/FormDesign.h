@@ -19,6 +19,7 @@ enum class WidgetStyle : std::uint8_t {
   Wrapped,    // a text box over several lines of the screen; its text stays one line
   Separated,  // a menu item with a line above it
   Bare,       // a text box without a frame: looks like a label, and its text can be copied
+  Notice,     // likewise, over several lines; what it says anew is announced to those who listen
 };
 
 // What a user can do to the window's frame.

@@ -7,12 +7,14 @@
 #include "engine/ClimateStations.h"
 #include "shell/MainWindowTable.h"
 #include "shell/Paddings.h"
+#include "shell/StatusLine.h"
 
 namespace orvik {
 namespace {
 
 // Lengths for 96 dots per inch.
 constexpr int kMargin = 12;         // round each page and between its columns
+constexpr int kMarkLeft = 3;        // of the mark in the margin beside a field
 constexpr int kGap = 6;             // between widgets that belong together
 constexpr int kToolbarPadding = 6;  // above and below the toolbar's buttons
 constexpr int kNumberWidth = 104;   // of a field for a number
@@ -22,6 +24,9 @@ constexpr int kRowGapLeast = 2;
 constexpr int kRowGapMost = 8;
 constexpr int kGroupGap = 10;  // above a heading, besides the row gap
 constexpr int kDescriptionLines = 5;
+constexpr int kHintLines = 2;
+constexpr int kHintPadding = 4;    // of the note above and below its lines
+constexpr int kStatusPadding = 4;  // of the status line above and below its text
 constexpr int kChartLeastWidth = 420;
 constexpr int kChartComfortWidth = 800;
 constexpr int kChartComfortHeight = 560;
@@ -56,17 +61,20 @@ class Layout {
   std::vector<Placement> Run() {
     LayOutToolbar();
     const int top = ToolbarHeight();
-    Place("picProject", {0, top, inner_.width, inner_.height});
-    Place("picData", {0, top, inner_.width, inner_.height});
+    const int bottom = inner_.height - FootHeight();
+    Place("picProject", {0, top, inner_.width, bottom});
+    Place("picData", {0, top, inner_.width, bottom});
     LayOutProject();
-    LayOutData({inner_.width, inner_.height - top});
+    LayOutData({inner_.width, bottom - top});
+    LayOutHint(bottom);
+    LayOutStatus(bottom + HintHeight());
     return std::move(places_);
   }
 
   Size Minimum() const {
     const int page = S(kMargin) + RowsHeight(S(kRowGapLeast)) + BarHeight();
     return {std::max(ToolbarWidth(), ColumnRight() + S(kMargin) + S(kChartLeastWidth) + S(kMargin)),
-            ToolbarHeight() + std::max(page, ProjectHeight())};
+            ToolbarHeight() + std::max(page, ProjectHeight()) + FootHeight()};
   }
 
   Size Comfortable() const {
@@ -74,7 +82,7 @@ class Layout {
         S(kMargin) + std::max(S(kChartComfortHeight), RowsHeight(S(kRowGapMost))) + BarHeight();
     return {
         std::max(ToolbarWidth(), ColumnRight() + S(kMargin) + S(kChartComfortWidth) + S(kMargin)),
-        ToolbarHeight() + page};
+        ToolbarHeight() + page + FootHeight()};
   }
 
  private:
@@ -220,10 +228,45 @@ class Layout {
     const int top = bottom + S(kMargin);
     const int right = page.width - S(kMargin);
     const int button = ButtonWidth(ButtonCaption::kErrorHelp);
-    const int left = S(kMargin) + TextWidth(MessageRow().label.caption) + S(kGap);
+    const int left = MessageLeft();
     PlaceText(MessageRow().label.name, S(kMargin), left - S(kGap), top);
     Place(MessageRow().field, {left, top, right - button - S(kGap), top + FieldHeight()});
     Place("cmdErrorHelp", {right - button, top, right, top + FieldHeight()});
+  }
+
+  // --- Below the pages ---
+
+  int NoteHeight() const { return kHintLines * m_.lineHeight + 2 * S(kHintPadding); }
+  int HintHeight() const { return NoteHeight() + S(kGap); }  // with the space below it
+  int StatusHeight() const { return m_.lineHeight + 2 * S(kStatusPadding); }
+  int FootHeight() const { return HintHeight() + StatusHeight(); }
+
+  int MessageLeft() const { return S(kMargin) + TextWidth(MessageRow().label.caption) + S(kGap); }
+
+  // In line with the message bar above it. The note's symbol takes a square at its left.
+  void LayOutHint(int top) {
+    Place("picHint", {0, top, inner_.width, top + HintHeight()});
+    const int left = MessageLeft();
+    Place("lblHint",
+          {S(kMargin), S(kHintPadding), left - S(kGap), S(kHintPadding) + m_.lineHeight});
+    const Size note{inner_.width - S(kMargin) - left, NoteHeight()};
+    Place("picNote", {left, 0, left + note.width, note.height});
+    Place("txtHint", {note.height, S(kHintPadding), note.width - S(kGap),
+                      S(kHintPadding) + kHintLines * m_.lineHeight});
+  }
+
+  void LayOutStatus(int top) {
+    Place("picStatus", {0, top, inner_.width, top + StatusHeight()});
+    const auto text = [&](std::string_view name, int left, int right) {
+      Place(name, {left, S(kStatusPadding), right, S(kStatusPadding) + m_.lineHeight});
+    };
+    const int saved =
+        S(kMargin) + std::max(m_.width(StatusText::kUnsaved), m_.width(StatusText::kSavedExample));
+    const int right = inner_.width - S(kMargin);
+    const int outOfDate = right - m_.width(StatusText::kOutOfDate);
+    text("lblSaved", S(kMargin), saved);
+    text("lblFile", saved + 2 * S(kMargin), outOfDate - S(kMargin));
+    text("lblOutOfDate", outOfDate, right);
   }
 
   void LayOutRows(int rowGap) {
@@ -246,6 +289,7 @@ class Layout {
     if (!row.unit.name.empty()) {
       PlaceText(row.unit.name, fieldRight + S(kGap), ColumnRight(), top);
     }
+    if (!row.mark.empty()) PlaceText(row.mark, S(kMarkLeft), S(kMargin), top);
   }
 
   // As large as the room allows in a shape in which its height is the limit.
