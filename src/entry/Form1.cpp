@@ -47,6 +47,7 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
       files_(form_, workflow_, file_, desktop),
       pages_(toolkit, desktop, form_),
       messageHelp_(toolkit, desktop, form_.txtErrMsg, dataFolder),
+      statusLine_(toolkit),
       smallWindows_(toolkit, desktop, ctrlStormwaterReuse1_, dataFolder),
       cmdReCalc_(toolkit, "cmdReCalc", ButtonCaption::kReCalc, [this] { workflow_.ReCalc(); }),
       cmdSaveExit_(toolkit, "cmdSaveExit", ButtonCaption::kSaveExit,
@@ -55,9 +56,41 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
                       [this] { cmdDiscardExit_Click(); }) {
   MakeMenus(toolkit);
   AnswerWindow();
-  files_.OnSaving = [this] { interactive_.PlaceAsStored(); };
-  files_.OnProjectReplaced = [this] { triggers_.ForgetChanges(); };
+  FollowProject();
   Form_Load();
+  isEdited_ = false;
+  ShowState();
+}
+
+// What is saved is what is shown, calculated.
+void Form1::FollowProject() {
+  files_.OnSaving = [this] {
+    triggers_.ProcessChanges();
+    interactive_.PlaceAsStored();
+  };
+  files_.OnSaved = [this] {
+    isEdited_ = false;
+    savedAt_ = desktop_.Now();
+    ShowState();
+  };
+  files_.OnProjectReplaced = [this] {
+    triggers_.TakeReplaced();
+    isEdited_ = false;
+    savedAt_.reset();
+    ShowState();
+  };
+  triggers_.OnEdited = [this] {
+    isEdited_ = true;
+    ShowState();
+  };
+  triggers_.OnSettled = [this] { ShowState(); };
+}
+
+void Form1::ShowState() {
+  SaveState state{isEdited_, savedAt_, {}};
+  if (mode_ == kStandAlone) state.path = files_.CurrentPath();
+  statusLine_.Show(state);
+  statusLine_.ShowOutOfDate(triggers_.IsAnyOutOfDate());
 }
 
 void Form1::MakeMenus(Toolkit& toolkit) {
@@ -113,6 +146,7 @@ void Form1::Mode(std::int16_t mode) {
   mnuReturn_->Visible(isInHost);
   cmdSaveExit_.Place().Visible(isInHost);
   cmdDiscardExit_.Place().Visible(isInHost);
+  ShowState();
 }
 
 void Form1::TakeBasin(const std::string& area, const std::string& runoffCoefficient) {

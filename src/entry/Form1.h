@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "chart/HostedChart.h"
@@ -20,6 +21,7 @@
 #include "shell/MainWindowPages.h"
 #include "shell/MessageHelp.h"
 #include "shell/SmallWindows.h"
+#include "shell/StatusLine.h"
 
 namespace orvik {
 
@@ -82,6 +84,8 @@ class Form1 {
  private:
   void MakeMenus(Toolkit& toolkit);
   void AnswerWindow();
+  void FollowProject();
+  void ShowState();
   void Form_Load();
   void Form_QueryUnload(bool& cancel);
   void cmdSaveExit_Click();
@@ -101,6 +105,7 @@ class Form1 {
   FileCommands files_;
   MainWindowPages pages_;
   MessageHelp messageHelp_;
+  StatusLine statusLine_;
   SmallWindows smallWindows_;
 
   std::unique_ptr<MenuItem> mnuFile_;
@@ -119,7 +124,9 @@ class Form1 {
 
   std::int16_t mode_ = 1;
   std::int16_t returnCode_ = 0;
-  bool exitDecided_ = false;  // the user has decided how to leave
+  bool isEdited_ = false;             // since it was saved, opened or begun anew
+  std::optional<ClockTime> savedAt_;  // likewise; nothing where it was not saved
+  bool exitDecided_ = false;          // the user has decided how to leave
 };
 
 }  // namespace orvik

@@ -69,10 +69,10 @@ bool FileCommands::LoadFile(std::string_view path) {
   if (!stream.OpenFile(name, enumIOStreamMode::AsciiFileInput)) return false;
   const bool isRead = file_.ReadDataFromBuffer(stream);
   stream.CloseFile();
-  RaiseProjectReplaced();
   currentPath_ = name;
   currentFolder_ = FolderOf(name);
   ShowFileName(name);
+  RaiseProjectReplaced();
   return isRead;
 }
 
@@ -109,8 +109,10 @@ bool FileCommands::SaveFile(const std::string& path) {
   std::string text;
   const bool isSaved = SaveText(text) && !WriteFileSafely(path, text);
   currentFolder_ = FolderOf(path);
-  if (isSaved) currentPath_ = path;
-  return isSaved;
+  if (!isSaved) return false;
+  currentPath_ = path;
+  if (OnSaved) OnSaved();
+  return true;
 }
 
 // --- Dialogs ---

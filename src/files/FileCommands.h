@@ -63,6 +63,9 @@ class FileCommands {
   // it.
   std::string GetMyDocumentsFolder(std::string& error);
 
+  // Raised after the project was written to a file.
+  std::function<void()> OnSaved;
+
   // Raised before the project is saved, so that the window can show exactly what will be saved.
   std::function<void()> OnSaving;
 

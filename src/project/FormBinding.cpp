@@ -17,10 +17,12 @@ Project FormBinding::Snapshot() const {
 }
 
 void FormBinding::Show(const Result& result) {
+  isShowing_ = true;
   for (const FieldDesign& field : Fields()) {
     const auto& text = result.texts[static_cast<std::size_t>(field.id)];
     if (text) form_.Box(field.id).Text(*text);
   }
+  isShowing_ = false;
   chart_.Point(result.point);
   form_.txtErrMsg.Clear();
   for (const Message& message : result.messages) ShowOnBar(form_.txtErrMsg, message);
