@@ -39,7 +39,7 @@ void PaintLetter(Surface& surface, Point centre, int radius) {
 
 }  // namespace
 
-void PaintNote(Surface& surface, Size size) {
+void PaintHintStrip(Surface& surface, Size size) {
   surface.FillArea({0, 0, size.width, size.height}, kInfoBackground);
   PaintFrame(surface, size);
   const Point centre{size.height / 2, size.height / 2};
@@ -51,10 +51,9 @@ void PaintNote(Surface& surface, Size size) {
 ctrlHintBar::ctrlHintBar(Toolkit& toolkit)
     : strip_(toolkit.MakePanel("picHint")),
       label_(toolkit.MakeLabel("lblHint")),
-      note_(toolkit.MakePanel("picNote")),
       Text1_(toolkit.MakeTextBox("txtHint")) {
-  label_->Caption("Hint");
-  note_->OnPaint = PaintNote;
+  label_->Caption(kCaption);
+  strip_->OnPaint = PaintHintStrip;
   Text1_->Locked(true);
   Text1_->ForeColor(kInfoText);
   Text1_->BackColor(kInfoBackground);

@@ -13,6 +13,8 @@ namespace orvik {
 
 class ctrlHintBar {
  public:
+  static constexpr std::string_view kCaption = "Hint";
+
   explicit ctrlHintBar(Toolkit& toolkit);
   ctrlHintBar(const ctrlHintBar&) = delete;
   ctrlHintBar& operator=(const ctrlHintBar&) = delete;
@@ -25,12 +27,11 @@ class ctrlHintBar {
  private:
   std::unique_ptr<Panel> strip_;
   std::unique_ptr<Label> label_;  // names the text to a screen reader
-  std::unique_ptr<Panel> note_;
   std::unique_ptr<TextBox> Text1_;
 };
 
-// The note's background, frame and symbol: a disc with an "i" at its left, in a square as high as
-// the note.
-void PaintNote(Surface& surface, Size size);
+// The strip's background, frame and symbol: a disc with an "i" at its left, in a square as high as
+// the strip.
+void PaintHintStrip(Surface& surface, Size size);
 
 }  // namespace orvik

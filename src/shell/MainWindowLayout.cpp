@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "controls/ctrlHintBar.h"
 #include "design/SolveFor.h"
 #include "engine/ClimateStations.h"
 #include "shell/MainWindowTable.h"
@@ -25,7 +26,7 @@ constexpr int kRowGapMost = 8;
 constexpr int kGroupGap = 10;  // above a heading, besides the row gap
 constexpr int kDescriptionLines = 5;
 constexpr int kHintLines = 2;
-constexpr int kHintPadding = 4;    // of the note above and below its lines
+constexpr int kHintPadding = 4;    // of the strip above and below its lines
 constexpr int kStatusPadding = 4;  // of the status line above and below its text
 constexpr int kChartLeastWidth = 420;
 constexpr int kChartComfortWidth = 800;
@@ -67,7 +68,7 @@ class Layout {
     LayOutProject();
     LayOutData({inner_.width, bottom - top});
     LayOutHint(bottom);
-    LayOutStatus(bottom + HintHeight());
+    LayOutStatus(inner_.height - StatusHeight());
     return std::move(places_);
   }
 
@@ -228,7 +229,7 @@ class Layout {
     const int top = bottom + S(kMargin);
     const int right = page.width - S(kMargin);
     const int button = ButtonWidth(ButtonCaption::kErrorHelp);
-    const int left = MessageLeft();
+    const int left = S(kMargin) + TextWidth(MessageRow().label.caption) + S(kGap);
     PlaceText(MessageRow().label.name, S(kMargin), left - S(kGap), top);
     Place(MessageRow().field, {left, top, right - button - S(kGap), top + FieldHeight()});
     Place("cmdErrorHelp", {right - button, top, right, top + FieldHeight()});
@@ -236,23 +237,19 @@ class Layout {
 
   // --- Below the pages ---
 
-  int NoteHeight() const { return kHintLines * m_.lineHeight + 2 * S(kHintPadding); }
-  int HintHeight() const { return NoteHeight() + S(kGap); }  // with the space below it
+  int HintHeight() const { return kHintLines * m_.lineHeight + 2 * S(kHintPadding); }
   int StatusHeight() const { return m_.lineHeight + 2 * S(kStatusPadding); }
-  int FootHeight() const { return HintHeight() + StatusHeight(); }
+  int FootHeight() const { return HintHeight() + S(kGap) + StatusHeight(); }
 
-  int MessageLeft() const { return S(kMargin) + TextWidth(MessageRow().label.caption) + S(kGap); }
-
-  // In line with the message bar above it. The note's symbol takes a square at its left.
+  // The strip's symbol takes a square at its left.
   void LayOutHint(int top) {
-    Place("picHint", {0, top, inner_.width, top + HintHeight()});
-    const int left = MessageLeft();
-    Place("lblHint",
-          {S(kMargin), S(kHintPadding), left - S(kGap), S(kHintPadding) + m_.lineHeight});
-    const Size note{inner_.width - S(kMargin) - left, NoteHeight()};
-    Place("picNote", {left, 0, left + note.width, note.height});
-    Place("txtHint", {note.height, S(kHintPadding), note.width - S(kGap),
-                      S(kHintPadding) + kHintLines * m_.lineHeight});
+    const Size strip{inner_.width - 2 * S(kMargin), HintHeight()};
+    Place("picHint", {S(kMargin), top, S(kMargin) + strip.width, top + strip.height});
+    const int caption = strip.height;
+    const int text = caption + m_.width(ctrlHintBar::kCaption) + S(kMargin);
+    const int first = S(kHintPadding);
+    Place("lblHint", {caption, first, text - S(kGap), first + m_.lineHeight});
+    Place("txtHint", {text, first, strip.width - S(kGap), first + kHintLines * m_.lineHeight});
   }
 
   void LayOutStatus(int top) {

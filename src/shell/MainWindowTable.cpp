@@ -83,10 +83,13 @@ constexpr std::array kToolbar = {
 
 // Below both pages: what is said beside the messages, and the state of the project.
 constexpr std::array kFoot = {
-    WidgetDesign{"picHint", ""},          WidgetDesign{"lblHint", "picHint"},
-    WidgetDesign{"picNote", "picHint"},   WidgetDesign{"txtHint", "picNote", WidgetStyle::Notice},
-    WidgetDesign{"picStatus", ""},        WidgetDesign{"lblSaved", "picStatus"},
-    WidgetDesign{"lblFile", "picStatus"}, WidgetDesign{"lblOutOfDate", "picStatus"},
+    WidgetDesign{"picHint", ""},
+    WidgetDesign{"lblHint", "picHint", WidgetStyle::Notice},
+    WidgetDesign{"txtHint", "picHint", WidgetStyle::Notice},
+    WidgetDesign{"picStatus", ""},
+    WidgetDesign{"lblSaved", "picStatus"},
+    WidgetDesign{"lblFile", "picStatus"},
+    WidgetDesign{"lblOutOfDate", "picStatus"},
 };
 
 constexpr std::array kMenus = {
