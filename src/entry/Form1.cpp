@@ -122,8 +122,16 @@ void Form1::AnswerWindow() {
     if (form_.picData->Visible()) workflow_.ReCalc();
   };
   chartWindow_.OnCopy = [this] { CopyChart(ctrlStormwaterReuse1_, desktop_); };
-  chartWindow_.ReadAloud = [this] { return SpokenChart(ctrlStormwaterReuse1_); };
+  chartWindow_.ReadAloud = [this] { return ReadChartAloud(); };
   form_.window->OnDropFile = [this](const std::string& path) { OpenDropped(path); };
+}
+
+// A typed mode's point is a result. In the interactive mode R, V and E are the point's own.
+Spoken Form1::ReadChartAloud() const {
+  Spoken spoken = SpokenChart(ctrlStormwaterReuse1_);
+  const bool isResult = IsTypedMode(form_.Mode()) && ctrlStormwaterReuse1_.Point().isShown;
+  if (isResult && triggers_.IsAnyOutOfDate()) spoken.value += ", out of date";
+  return spoken;
 }
 
 void Form1::Form_Load() {
@@ -159,6 +167,7 @@ void Form1::TakeBasin(const std::string& area, const std::string& runoffCoeffici
 
 void Form1::PrintCurrentProject() {
   triggers_.ProcessChanges();  // the report shows what is in the fields, calculated
+  if (triggers_.IsAnyOutOfDate()) workflow_.ReCalc();
   PrintOn(desktop_.OpenPrinter().get());
 }
 

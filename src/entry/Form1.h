@@ -86,6 +86,7 @@ class Form1 {
   void AnswerWindow();
   void FollowProject();
   void ShowState();
+  Spoken ReadChartAloud() const;
   void Form_Load();
   void Form_QueryUnload(bool& cancel);
   void cmdSaveExit_Click();

@@ -137,6 +137,28 @@ TEST_F(Form1Test, ATypedBasinIsCalculatedBeforePrinting) {
   EXPECT_NE(Message(), "");
 }
 
+// The EIA of the basin before would stand beside it.
+TEST_F(Form1Test, WhatCannotBeCalculatedIsNotPrintedOutOfDate) {
+  SolveForEfficiency();
+  Type("txtBasinArea", "abc");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "5");
+  form_->PrintCurrentProject();
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "");
+  EXPECT_EQ(Message(), "The basin area is not numeric.");
+}
+
+TEST_F(Form1Test, TheChartSaysThatItsPointIsOutOfDate) {
+  SolveForEfficiency();
+  const auto value = [this] {
+    return toolkit_.Find<ControlHost>("ctrlStormwaterReuse1").Announcement().value;
+  };
+  const std::string solved = value();
+  Type("txtBasinArea", "30");
+  EXPECT_EQ(value(), solved + ", out of date");
+  Type("txtBasinArea", "10");
+  EXPECT_EQ(value(), solved);
+}
+
 // --- Leaving ---
 
 TEST_F(Form1Test, SaveExitAndDiscardExitHideTheWindow) {
