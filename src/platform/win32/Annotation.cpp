@@ -12,6 +12,8 @@ namespace {
 // The system's own numbers; its headers only declare them.
 constexpr CLSID kNotes = {
     0xb5f8350b, 0x0548, 0x48b1, {0xa6, 0xee, 0x88, 0xbd, 0x00, 0xb4, 0xa5, 0xe7}};
+constexpr IID kNotesInterface = {
+    0x6e26e776, 0x04f0, 0x495d, {0x80, 0xe4, 0x33, 0x30, 0x35, 0x2e, 0x31, 0x69}};
 constexpr MSAAPROPID kDescription = {
     0x4d48dfe4, 0xbd3f, 0x491f, {0xa6, 0x48, 0x49, 0x2d, 0x6f, 0x20, 0xc5, 0x88}};
 constexpr MSAAPROPID kLiveSetting = {
@@ -22,8 +24,7 @@ constexpr long kPolite = 1;
 // COM.
 ComPtr<IAccPropServices> Notes() {
   ComPtr<IAccPropServices> notes;
-  ::CoCreateInstance(kNotes, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IAccPropServices),
-                     notes.OutVoid());
+  ::CoCreateInstance(kNotes, nullptr, CLSCTX_INPROC_SERVER, kNotesInterface, notes.OutVoid());
   return notes;
 }
 
