@@ -116,7 +116,7 @@ constexpr std::array kMenus = {
 void AddMarks(std::vector<WidgetDesign>& widgets) {
   for (const FieldGroup& group : DataGroups()) {
     for (const FieldRow& row : group.rows) {
-      if (!row.mark.empty()) widgets.push_back({row.mark, "picData"});
+      if (!row.mark.empty()) widgets.push_back({row.mark, "picData", WidgetStyle::Heading});
     }
   }
 }
