@@ -46,6 +46,7 @@ MissingInputs FindMissingInputs(const Project& project, bool isLoaded) {
 
 std::vector<Hint> HintsOf(const MissingInputs& missing, const Project& project) {
   std::vector<Hint> hints;
+  hints.reserve(missing.notNumbers.size() + 2);
   for (const Field field : missing.notNumbers) {
     hints.push_back({HintId::NotANumber, {CaptionOf(field, project.mode)}});
   }

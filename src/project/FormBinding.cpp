@@ -2,6 +2,7 @@
 
 #include "chart/ctrlStormwaterReuse.h"
 #include "design/Calculate.h"
+#include "project/FlagScope.h"
 #include "project/ProjectForm.h"
 
 namespace orvik {
@@ -17,15 +18,18 @@ Project FormBinding::Snapshot() const {
 }
 
 void FormBinding::Show(const Result& result) {
-  isShowing_ = true;
+  ShowTexts(result);
+  chart_.Point(result.point);
+  form_.txtErrMsg.Clear();
+  for (const Message& message : result.messages) ShowOnBar(form_.txtErrMsg, message);
+}
+
+void FormBinding::ShowTexts(const Result& result) {
+  const FlagScope showing(isShowing_);
   for (const FieldDesign& field : Fields()) {
     const auto& text = result.texts[static_cast<std::size_t>(field.id)];
     if (text) form_.Box(field.id).Text(*text);
   }
-  isShowing_ = false;
-  chart_.Point(result.point);
-  form_.txtErrMsg.Clear();
-  for (const Message& message : result.messages) ShowOnBar(form_.txtErrMsg, message);
 }
 
 void FormBinding::Empty(std::initializer_list<Field> fields) {

@@ -36,6 +36,8 @@ class FormBinding {
   void Empty(std::initializer_list<Field> fields);
 
  private:
+  void ShowTexts(const Result& result);
+
   ProjectForm& form_;
   ctrlStormwaterReuse& chart_;
   bool isShowing_ = false;

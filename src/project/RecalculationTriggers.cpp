@@ -11,6 +11,7 @@
 #include "engine/CurveLoading.h"
 #include "platform/Desktop.h"
 #include "project/FaultsOnBar.h"
+#include "project/FlagScope.h"
 #include "project/InteractiveSynchronisation.h"
 #include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
@@ -106,13 +107,18 @@ void RecalculationTriggers::WatchDescription() {
 
 void RecalculationTriggers::WatchLists() {
   form_.cmbClimateStation->OnClick = [this] {
-    ShowFaultsOnBar(form_.txtErrMsg, [this] { ChangeStation(); });
-    AnswerEdit();
+    AnswerChoice(&RecalculationTriggers::ChangeStation);
   };
-  form_.cmbSolveFor->OnClick = [this] {
-    ShowFaultsOnBar(form_.txtErrMsg, [this] { ChangeMode(); });
-    AnswerEdit();
-  };
+  form_.cmbSolveFor->OnClick = [this] { AnswerChoice(&RecalculationTriggers::ChangeMode); };
+}
+
+// A choice writes many fields; only what they show at its end makes sense.
+void RecalculationTriggers::AnswerChoice(void (RecalculationTriggers::*change)()) {
+  {
+    const FlagScope changing(isChoosing_);
+    ShowFaultsOnBar(form_.txtErrMsg, [&] { (this->*change)(); });
+  }
+  AnswerEdit();
 }
 
 void RecalculationTriggers::AnswerTyping(Entry& entry) {
@@ -122,7 +128,7 @@ void RecalculationTriggers::AnswerTyping(Entry& entry) {
 }
 
 void RecalculationTriggers::AnswerEdit() {
-  if (binding_.IsShowing()) return;
+  if (binding_.IsShowing() || isChoosing_) return;
   TakeBackNotTaken();
   outOfDate_.Refresh();
   missing_.Refresh();
@@ -133,7 +139,7 @@ void RecalculationTriggers::AnswerPointShown() {
   isPointTyped_ = false;
   outOfDate_.TakePoint();
   Settle();
-  if (OnEdited) OnEdited();
+  if (OnEdited && !isChoosing_) OnEdited();
 }
 
 void RecalculationTriggers::Settle() {

@@ -69,6 +69,7 @@ class RecalculationTriggers {
   void Watch(Entry& entry);
   void AnswerTyping(Entry& entry);
   void AnswerEdit();
+  void AnswerChoice(void (RecalculationTriggers::*change)());
   void Process(Entry& entry);
   void PlacePointBy(Field typed);
   void PlacePoint();
@@ -92,6 +93,7 @@ class RecalculationTriggers {
   ModeChange modeChange_;
   OutOfDateMarks outOfDate_;
   MissingInputMarks missing_;
+  bool isChoosing_ = false;     // a station or a mode, which has not settled yet
   bool isPointTyped_ = false;   // in R, E or V, and not entered
   bool saysNotTaken_ = false;   // of a number for the point
   std::vector<Entry> entries_;  // never grows: the fields' events refer to them
