@@ -27,6 +27,8 @@ class ctrlMyTextBox {
   void BackColor(Colour colour) { Text1_->BackColor(colour); }
   bool Locked() const { return Text1_->Locked(); }
   void Locked(bool locked) { Text1_->Locked(locked); }
+  std::string Description() const { return Text1_->Description(); }
+  void Description(std::string_view description) { Text1_->Description(description); }
 
   // While this is false no event is raised, and keys reach the inner text box unchanged.
   bool EventsOn() const { return eventsOn_; }

@@ -7,8 +7,8 @@ namespace {
 
 constexpr std::array<FieldDesign, kFields> kFieldTable{{
 #define ORVIK_FIELD(id, control, label, caption, unit, shortUnit, page, kind) \
-  {Field::id,    control,   label,           caption,        unit,            \
-   label "Unit", shortUnit, FieldPage::page, FieldKind::kind},
+  {Field::id,    control,      label,     caption,         unit,              \
+   label "Unit", label "Mark", shortUnit, FieldPage::page, FieldKind::kind},
 #define ORVIK_LIST(id, control, label, caption)
 #include "design/Fields.def"
 #undef ORVIK_FIELD
@@ -17,7 +17,8 @@ constexpr std::array<FieldDesign, kFields> kFieldTable{{
 
 constexpr std::array kListTable{
 #define ORVIK_FIELD(id, control, label, caption, unit, shortUnit, page, kind)
-#define ORVIK_LIST(id, control, label, caption) ListDesign{ListField::id, control, label, caption},
+#define ORVIK_LIST(id, control, label, caption) \
+  ListDesign{ListField::id, control, label, caption, label "Mark"},
 #include "design/Fields.def"
 #undef ORVIK_FIELD
 #undef ORVIK_LIST
@@ -31,6 +32,10 @@ std::span<const FieldDesign> Fields() {
 
 const FieldDesign& DesignOf(Field field) {
   return kFieldTable.at(static_cast<std::size_t>(field));
+}
+
+std::span<const ListDesign> ListFields() {
+  return kListTable;
 }
 
 const ListDesign& DesignOf(ListField list) {

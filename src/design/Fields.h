@@ -32,11 +32,15 @@ struct FieldDesign {
   std::string_view caption;  // with "&" before the mnemonic
   std::string_view unit;
   std::string_view unitLabel;  // the name of the label that shows the unit
+  std::string_view markLabel;  // of the one that marks a number that is still needed
   std::string_view shortUnit;
   FieldPage page;
   FieldKind kind;
 
   bool IsDescription() const { return page == FieldPage::Project; }
+
+  // A result may need a number here.
+  bool CanBeNeeded() const { return kind == FieldKind::Number || kind == FieldKind::Slot; }
 };
 
 // In the table's order.
@@ -59,7 +63,13 @@ struct ListDesign {
   std::string_view control;
   std::string_view label;
   std::string_view caption;
+  std::string_view markLabel;
 };
+
+inline constexpr std::size_t kListFields = static_cast<std::size_t>(ListField::Count);
+
+// In the table's order.
+std::span<const ListDesign> ListFields();
 
 const ListDesign& DesignOf(ListField list);
 

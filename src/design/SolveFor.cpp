@@ -10,15 +10,15 @@ struct ModeRow {
   std::array<SiteQuantity, kSolveForSlots> slots;
 };
 
-constexpr std::array<ModeRow, kSolveForModes.size()> kRows{{
+constexpr std::array<ModeRow, kSolveForModes.size()> kModeRows{{
     {"Interactive", {ReuseRate, Efficiency, StorageVolume}},
     {"Efficiency", {StorageVolume, ReuseRate, Efficiency}},
     {"Storage Volume", {Efficiency, ReuseRate, StorageVolume}},
     {"Reuse Rate", {Efficiency, StorageVolume, ReuseRate}},
 }};
 
-const ModeRow& Row(SolveFor mode) {
-  return kRows.at(static_cast<std::size_t>(IndexOf(mode)));
+const ModeRow& RowOf(SolveFor mode) {
+  return kModeRows.at(static_cast<std::size_t>(IndexOf(mode)));
 }
 
 }  // namespace
@@ -29,12 +29,12 @@ SolveFor SolveForOfIndex(int index) {
 }
 
 std::string_view SolveForItem(SolveFor mode) {
-  return Row(mode).item;
+  return RowOf(mode).item;
 }
 
 SiteQuantity QuantityInSlot(SolveFor mode, int slot) {
   const SolveFor known = mode == SolveFor::None ? SolveFor::Interactive : mode;
-  return Row(known).slots.at(static_cast<std::size_t>(slot - 1));
+  return RowOf(known).slots.at(static_cast<std::size_t>(slot - 1));
 }
 
 int SlotOfQuantity(SolveFor mode, SiteQuantity quantity) {

@@ -1,5 +1,7 @@
 #include "entry/Form1.h"
 
+#include <array>
+
 #include "base/BuildVersion.h"
 #include "base/ModuleVersion.h"
 #include "base/RuntimeErrors.h"
@@ -18,10 +20,26 @@
 namespace orvik {
 namespace {
 
-constexpr std::int16_t kStandAlone = 1;
+// What Form1 itself shows on the hint line; the answers to input come from where it is answered.
+constexpr std::array kOwnSources{HintSource::Save, HintSource::File, HintSource::Curves,
+                                 HintSource::Recovery};
+
+constexpr std::string_view kDiscardQuestion =
+    "Projects that were not saved are kept and can be restored. Discard them all? They cannot be "
+    "brought back then.";
 constexpr std::int16_t kInHostProject = 2;
 constexpr std::int16_t kSave = 1;
 constexpr std::int16_t kDiscard = 0;
+
+std::vector<Hint> Joined(std::vector<Hint> hints, const std::vector<Hint>& more) {
+  hints.insert(hints.end(), more.begin(), more.end());
+  return hints;
+}
+
+std::vector<Hint> Joined(std::vector<Hint> hints, const std::optional<Hint>& more) {
+  if (more) hints.push_back(*more);
+  return hints;
+}
 
 bool IsProjectFile(std::string_view path) {
   return EndsWithIgnoringCase(path, ".kav");
@@ -32,18 +50,6 @@ Toolkit& Designed(Toolkit& toolkit) {
   toolkit.Design(MainWindowDesign::Get());
   return toolkit;
 }
-
-// Counts itself while it lives.
-class Counted {
- public:
-  explicit Counted(int& count) : count_(count) { ++count_; }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-  ~Counted() { --count_; }
-
- private:
-  int& count_;
-};
 
 }  // namespace
 
@@ -60,6 +66,7 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
       files_(form_, workflow_, file_, desktop),
       pages_(toolkit, desktop, form_),
       messageHelp_(toolkit, desktop, form_.txtErrMsg, dataFolder),
+      statusLine_(toolkit),
       smallWindows_(toolkit, desktop, ctrlStormwaterReuse1_, dataFolder),
       cmdReCalc_(toolkit, "cmdReCalc", ButtonCaption::kReCalc, [this] { workflow_.ReCalc(); }),
       cmdSaveExit_(toolkit, "cmdSaveExit", ButtonCaption::kSaveExit,
@@ -68,20 +75,53 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
                       [this] { cmdDiscardExit_Click(); }) {
   MakeMenus(toolkit);
   AnswerWindow();
-  files_.OnSaving = [this] { interactive_.PlaceAsStored(); };
+  FollowProject();
+  Form_Load();
+  files_.CountAsSaved();
+  ShowState();
+}
+
+// What is saved is what is shown, calculated.
+void Form1::FollowProject() {
+  files_.OnSaving = [this] {
+    triggers_.ProcessChanges();
+    interactive_.PlaceAsStored();
+  };
+  files_.OnSaved = [this] { AnswerSaved(); };
   files_.OnProjectReplacing = [this] {
     ownHints_.clear();
     if (unsaved_) unsaved_->AnswerLeaving();
   };
-  files_.OnProjectReplaced = [this] {
-    triggers_.ForgetChanges();
-    if (unsaved_) unsaved_->AnswerReplaced();
+  files_.OnProjectReplaced = [this] { AnswerReplaced(); };
+  triggers_.OnEdited = [this] {
+    if (unsaved_) unsaved_->AnswerInput();
+    ShowState();
   };
-  files_.OnSaved = [this] {
-    if (unsaved_) unsaved_->AnswerSaved();
-  };
-  WatchInputs();
-  Form_Load();
+  triggers_.OnSettled = [this] { ShowState(); };
+}
+
+// What was remarkable about the file that was read is not so of the one that is written.
+void Form1::AnswerSaved() {
+  savedAt_ = desktop_.Now();
+  file_.ForgetHints();
+  if (unsaved_) unsaved_->AnswerSaved();
+  ShowState();
+}
+
+void Form1::AnswerReplaced() {
+  triggers_.TakeReplaced();
+  savedAt_.reset();
+  if (unsaved_) unsaved_->AnswerReplaced();
+  ShowOffers();
+  ShowState();
+}
+
+void Form1::ShowState() {
+  SaveState state{files_.HasUnsavedChanges(), savedAt_, {}};
+  if (mode_ == kStandAlone) state.path = files_.CurrentPath();
+  statusLine_.Show(state);
+  statusLine_.ShowOutOfDate(triggers_.IsAnyOutOfDate());
+  for (const HintSource source : kOwnSources) form_.hints.Show(source, HintsOf(source));
 }
 
 void Form1::MakeMenus(Toolkit& toolkit) {
@@ -97,8 +137,19 @@ void Form1::MakeMenus(Toolkit& toolkit) {
     files_.Open();
     ctrlStormwaterReuse1_.Refresh();
   });
-  mnuFile_Save_ = make("mnuFile_Save", "&Save\tCtrl+S", [this] { files_.Save(); });
-  mnuFile_SaveAs_ = make("mnuFile_SaveAs", "Save &As...", [this] { files_.SaveAs(); });
+  mnuFile_Save_ = make("mnuFile_Save", "&Save\tCtrl+S", [this] {
+    files_.Save();
+    ShowState();
+  });
+  mnuFile_SaveAs_ = make("mnuFile_SaveAs", "Save &As...", [this] {
+    files_.SaveAs();
+    ShowState();
+  });
+  mnuFile_Restore_ =
+      make("mnuFile_Restore", "&Restore unsaved work", [this] { RestoreUnsavedWork(); });
+  mnuFile_DiscardKept_ =
+      make("mnuFile_DiscardKept", "&Discard kept work...", [this] { DiscardUnsavedWork(); });
+  ShowOffers();
   mnuFile_Print_ = make("mnuFile_Print", "&Print\tCtrl+P", [this] { PrintCurrentProject(); });
   mnuReturn_ = make("mnuReturn", "&Return", {});
   mnuReturn_Save_ = make("mnuReturn_Save", "&Save and exit", [this] { cmdSaveExit_Click(); });
@@ -113,8 +164,16 @@ void Form1::AnswerWindow() {
     if (form_.picData->Visible()) workflow_.ReCalc();
   };
   chartWindow_.OnCopy = [this] { CopyChart(ctrlStormwaterReuse1_, desktop_); };
-  chartWindow_.ReadAloud = [this] { return SpokenChart(ctrlStormwaterReuse1_); };
+  chartWindow_.ReadAloud = [this] { return ReadChartAloud(); };
   form_.window->OnDropFile = [this](const std::string& path) { OpenDropped(path); };
+}
+
+// A typed mode's point is a result. In the interactive mode R, V and E are the point's own.
+Spoken Form1::ReadChartAloud() const {
+  Spoken spoken = SpokenChart(ctrlStormwaterReuse1_);
+  const bool isResult = IsTypedMode(form_.Mode()) && ctrlStormwaterReuse1_.Point().isShown;
+  if (isResult && triggers_.IsAnyOutOfDate()) spoken.value += ", out of date";
+  return spoken;
 }
 
 void Form1::Form_Load() {
@@ -137,6 +196,7 @@ void Form1::Mode(std::int16_t mode) {
   mnuReturn_->Visible(isInHost);
   cmdSaveExit_.Place().Visible(isInHost);
   cmdDiscardExit_.Place().Visible(isInHost);
+  ShowState();
 }
 
 void Form1::TakeBasin(const std::string& area, const std::string& runoffCoefficient) {
@@ -149,6 +209,7 @@ void Form1::TakeBasin(const std::string& area, const std::string& runoffCoeffici
 
 void Form1::PrintCurrentProject() {
   triggers_.ProcessChanges();  // the report shows what is in the fields, calculated
+  if (triggers_.IsAnyOutOfDate()) workflow_.ReCalc();
   PrintOn(desktop_.OpenPrinter().get());
 }
 
@@ -201,38 +262,64 @@ std::string Form1::StorageVolume() const {
 void Form1::KeepRecoveryCopies(const std::string& folder) {
   files_.CountAsSaved();
   unsaved_.emplace(files_, folder, [this] { return desktop_.Now(); });
+  ShowOffers();
+  ShowState();
 }
 
-// Every way in which the user changes what would be saved.
-void Form1::WatchInputs() {
-  for (const FieldDesign& field : orvik::Fields()) Watch(form_.Box(field.id).OnChange);
-  Watch(form_.cmbClimateStation->OnClick);
-  Watch(form_.cmbSolveFor->OnClick);
-  Watch(ctrlStormwaterReuse1_.OnChange);
-}
-
-// An event brings others with it: while the mode changes, its slots hold quantities of the old one.
-// Only the outermost has an end that makes sense.
-void Form1::Watch(std::function<void()>& event) {
-  event = [this, answer = std::move(event)] {
-    if (answer) {
-      const Counted underWay(eventsUnderWay_);
-      answer();
-    }
-    if (unsaved_ && eventsUnderWay_ == 0) unsaved_->AnswerInput();
-  };
+void Form1::Say(Hint hint) {
+  ownHints_.push_back(std::move(hint));
+  ShowState();
 }
 
 std::vector<Hint> Form1::Hints() const {
-  std::vector<Hint> hints = ownHints_;
-  for (Hint& hint : files_.Hints()) hints.push_back(std::move(hint));
-  const auto kept = HintOfKeptPoint(binding_.Snapshot(), ctrlStormwaterReuse1_.IsLoaded());
-  if (kept) hints.push_back(*kept);
-  if (!unsaved_) return hints;
-  for (const auto& hint : {unsaved_->Offered(), unsaved_->Trouble()}) {
-    if (hint) hints.push_back(*hint);
+  std::vector<Hint> hints;
+  for (const HintSource source : kOwnSources) {
+    for (Hint& hint : HintsOf(source)) hints.push_back(std::move(hint));
   }
   return hints;
+}
+
+std::vector<Hint> Form1::HintsOf(HintSource source) const {
+  switch (source) {
+    case HintSource::Save:
+      return Joined(files_.SavingHints(), unsaved_ ? unsaved_->Trouble() : std::nullopt);
+    case HintSource::File:
+      return Joined(Joined(ownHints_, file_.ReadingHints()), HintOfPoint());
+    case HintSource::Curves:
+      return ctrlStormwaterReuse1_.LoadHints();
+    case HintSource::Recovery:
+      return Joined({}, unsaved_ ? unsaved_->Offered() : std::nullopt);
+    default:
+      return {};
+  }
+}
+
+std::optional<Hint> Form1::HintOfPoint() const {
+  if (!form_.keptPoint) return std::nullopt;
+  return HintOfKeptPoint(binding_.Snapshot(), ctrlStormwaterReuse1_.IsLoaded());
+}
+
+// The newest first. What is in the fields goes to a copy of its own: restoring once more brings it
+// back.
+void Form1::RestoreUnsavedWork() {
+  const auto offers = unsaved_->Offers();
+  if (!offers.empty()) unsaved_->Restore(offers.front().id);
+  ctrlStormwaterReuse1_.Refresh();
+  ShowOffers();
+  ShowState();
+}
+
+void Form1::DiscardUnsavedWork() {
+  if (!desktop_.AskYesNo(std::string(kDiscardQuestion), "Discard Kept Work")) return;
+  for (const RecoveryOffer& offer : unsaved_->Offers()) unsaved_->Discard(offer.id);
+  ShowOffers();
+  ShowState();
+}
+
+void Form1::ShowOffers() {
+  const bool hasOffers = unsaved_ && !unsaved_->Offers().empty();
+  mnuFile_Restore_->Visible(hasOffers);
+  mnuFile_DiscardKept_->Visible(hasOffers);
 }
 
 // --- Leaving ---

@@ -24,11 +24,14 @@
 #include "shell/MainWindowPages.h"
 #include "shell/MessageHelp.h"
 #include "shell/SmallWindows.h"
+#include "shell/StatusLine.h"
 
 namespace orvik {
 
 class Desktop;
 class Printer;
+
+inline constexpr std::int16_t kStandAlone = 1;  // Form1::Mode
 
 class Form1 {
  public:
@@ -59,7 +62,7 @@ class Form1 {
   std::vector<Hint> Hints() const;
 
   // Says it until the fields get another project.
-  void Say(Hint hint) { ownHints_.push_back(std::move(hint)); }
+  void Say(Hint hint);
 
   // The basin of the host's own project: area (acres) and runoff coefficient. What was solved for
   // another basin is solved anew.
@@ -100,14 +103,22 @@ class Form1 {
  private:
   void MakeMenus(Toolkit& toolkit);
   void AnswerWindow();
+  void FollowProject();
+  void ShowState();
+  Spoken ReadChartAloud() const;
   void Form_Load();
   void Form_QueryUnload(bool& cancel);
   void cmdSaveExit_Click();
   void cmdDiscardExit_Click();
   void Leave(std::int16_t returnCode);
   void OpenDropped(const std::string& path);
-  void WatchInputs();
-  void Watch(std::function<void()>& event);
+  void AnswerSaved();
+  void AnswerReplaced();
+  std::vector<Hint> HintsOf(HintSource source) const;
+  std::optional<Hint> HintOfPoint() const;
+  void RestoreUnsavedWork();
+  void DiscardUnsavedWork();
+  void ShowOffers();
 
   Desktop& desktop_;
   ProjectForm form_;
@@ -121,16 +132,18 @@ class Form1 {
   FileCommands files_;
   MainWindowPages pages_;
   MessageHelp messageHelp_;
+  StatusLine statusLine_;
   SmallWindows smallWindows_;
   std::optional<UnsavedWork> unsaved_;
   std::vector<Hint> ownHints_;
-  int eventsUnderWay_ = 0;
 
   std::unique_ptr<MenuItem> mnuFile_;
   std::unique_ptr<MenuItem> mnuFile_New_;
   std::unique_ptr<MenuItem> mnuFile_Open_;
   std::unique_ptr<MenuItem> mnuFile_Save_;
   std::unique_ptr<MenuItem> mnuFile_SaveAs_;
+  std::unique_ptr<MenuItem> mnuFile_Restore_;
+  std::unique_ptr<MenuItem> mnuFile_DiscardKept_;
   std::unique_ptr<MenuItem> mnuFile_Print_;
   std::unique_ptr<MenuItem> mnuReturn_;
   std::unique_ptr<MenuItem> mnuReturn_Save_;
@@ -142,7 +155,8 @@ class Form1 {
 
   std::int16_t mode_ = 1;
   std::int16_t returnCode_ = 0;
-  bool exitDecided_ = false;  // the user has decided how to leave
+  std::optional<ClockTime> savedAt_;  // nothing: not since it was opened or begun anew
+  bool exitDecided_ = false;          // the user has decided how to leave
 };
 
 }  // namespace orvik

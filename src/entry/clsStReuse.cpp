@@ -9,7 +9,6 @@
 namespace orvik {
 namespace {
 
-constexpr std::int16_t kStandAlone = 1;
 constexpr std::int16_t kSaved = 1;
 constexpr std::int16_t kDiscarded = 0;
 constexpr const char* kLineEnd = "\r\n";
@@ -40,6 +39,10 @@ void OpenNamedFile(Form1& window, const std::string& path) {
 }
 
 }  // namespace
+
+clsStReuse::~clsStReuse() {
+  module_.LetGoOfWindow(this);
+}
 
 std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& ParamString2,
                               std::string& ParamString3) {
@@ -81,6 +84,7 @@ void clsStReuse::Print_Remote(Printer* printer, std::int16_t Mode, const std::st
                               const std::string& ParamString2) {
   const ReuseModule::Use use(module_);
   Form1& window = module_.Window();
+  module_.HoldWindow(this);
   window.Mode(Mode);
   LoadProjectText(window, ParamString2);
   window.PrintOn(printer);

@@ -15,6 +15,9 @@ class ReuseModule;
 class clsStReuse {
  public:
   explicit clsStReuse(ReuseModule& module) : module_(module) {}
+  clsStReuse(const clsStReuse&) = delete;
+  clsStReuse& operator=(const clsStReuse&) = delete;
+  ~clsStReuse();  // lets go of the window that it printed from
 
   // Opens the window and waits until the user leaves it. 1 where the user chose to save, else 0.
   //   Mode          1 = stand-alone, 2 = from within a host's project

@@ -111,9 +111,7 @@ bool FileCommands::ReadUnsaved(std::string_view text, std::string_view formerPat
 }
 
 std::vector<Hint> FileCommands::Hints() const {
-  std::vector<Hint> hints = file_.Hints();
-  hints.insert(hints.end(), savingHints_.begin(), savingHints_.end());
-  return hints;
+  return file_.Hints();
 }
 
 bool FileCommands::ReadFile(std::string_view text) {

@@ -27,7 +27,7 @@ constexpr std::size_t kIdLength = 16;
 constexpr std::string_view kIdLetters = "0123456789abcdef";
 
 // What stands after the project in its copy, as lines: readers of a project stop before them.
-constexpr std::string_view kHeading = "[ORVIK recovery]\r\n";
+constexpr std::string_view kCopyHeading = "[ORVIK recovery]\r\n";
 constexpr std::string_view kTime = "time=";
 constexpr std::string_view kPath = "path=";
 constexpr std::string_view kLineEnd = "\r\n";
@@ -60,7 +60,7 @@ bool IsId(std::string_view id) {
 
 std::string CopyText(const std::string& project, const ClockTime& time, const std::string& path) {
   return std::string(project)
-      .append(kHeading)
+      .append(kCopyHeading)
       .append(kTime)
       .append(TextOf(time))
       .append(kLineEnd)
@@ -158,9 +158,9 @@ std::vector<std::string> RecoveryCopy::Ids() const {
 std::optional<RecoveryOffer> RecoveryCopy::Read(const std::string& id) const {
   const auto bytes = ReadFileBytes(CopyPath(id));
   if (!bytes) return std::nullopt;
-  const auto heading = bytes->rfind(kHeading);
+  const auto heading = bytes->rfind(kCopyHeading);
   if (heading == std::string::npos) return std::nullopt;
-  const std::string_view lines = std::string_view(*bytes).substr(heading + kHeading.size());
+  const std::string_view lines = std::string_view(*bytes).substr(heading + kCopyHeading.size());
   return RecoveryOffer{id, Entry(lines, kTime), Entry(lines, kPath), bytes->substr(0, heading)};
 }
 

@@ -19,6 +19,8 @@ enum class WidgetStyle : std::uint8_t {
   Wrapped,    // a text box over several lines of the screen; its text stays one line
   Separated,  // a menu item with a line above it
   Bare,       // a text box without a frame: looks like a label, and its text can be copied
+  Notice,  // in the colours for information: a label, or a bare text box over several lines, whose
+           // new texts are announced to those who listen
 };
 
 // What a user can do to the window's frame.

@@ -48,6 +48,11 @@ class TextBox : public Widget {
   virtual Colour BackColor() const = 0;
   virtual void BackColor(Colour colour) = 0;
 
+  // What a screen reader says of the field besides its name and text ("out of date"); empty for
+  // nothing.
+  virtual std::string Description() const = 0;
+  virtual void Description(std::string_view description) = 0;
+
   std::function<void()> OnChange;  // after every change of the text, typed or assigned
   // A character typed (13 = Enter); 0 swallows it, another value replaces it.
   std::function<void(std::int16_t& keyAscii)> OnKeyPress;

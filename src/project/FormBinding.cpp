@@ -3,6 +3,7 @@
 #include "chart/ctrlStormwaterReuse.h"
 #include "design/Calculate.h"
 #include "design/KeptPoint.h"
+#include "project/FlagScope.h"
 #include "project/ProjectForm.h"
 
 namespace orvik {
@@ -19,14 +20,19 @@ Project FormBinding::Snapshot() const {
 }
 
 void FormBinding::Show(const Result& result) {
-  for (const FieldDesign& field : Fields()) {
-    const auto& text = result.texts[static_cast<std::size_t>(field.id)];
-    if (text) form_.Box(field.id).Text(*text);
-  }
+  ShowTexts(result);
   chart_.Point(result.point);
   if (result.point.isShown) form_.keptPoint.reset();
   form_.txtErrMsg.Clear();
   for (const Message& message : result.messages) ShowOnBar(form_.txtErrMsg, message);
+}
+
+void FormBinding::ShowTexts(const Result& result) {
+  const FlagScope showing(isShowing_);
+  for (const FieldDesign& field : Fields()) {
+    const auto& text = result.texts[static_cast<std::size_t>(field.id)];
+    if (text) form_.Box(field.id).Text(*text);
+  }
 }
 
 void FormBinding::Empty(std::initializer_list<Field> fields) {

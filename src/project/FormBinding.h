@@ -29,12 +29,18 @@ class FormBinding {
   // chart.
   void Show(const Result& result);
 
+  // While Show writes: what changes in the fields then was calculated, not typed.
+  bool IsShowing() const { return isShowing_; }
+
   // Every text of the fields empty, and no message.
   void Empty(std::initializer_list<Field> fields);
 
  private:
+  void ShowTexts(const Result& result);
+
   ProjectForm& form_;
   ctrlStormwaterReuse& chart_;
+  bool isShowing_ = false;
 };
 
 // Shows a message on the bar. That data is missing is shown without a sound: it is normal while a

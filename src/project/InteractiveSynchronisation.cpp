@@ -26,6 +26,7 @@ InteractiveSynchronisation::~InteractiveSynchronisation() {
 
 void InteractiveSynchronisation::AnswerChange() {
   binding_.Show(FollowPoint(binding_.Snapshot()));
+  if (OnPointShown) OnPointShown();
 }
 
 void InteractiveSynchronisation::AnswerMousePressed() {

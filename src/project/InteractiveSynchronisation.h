@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace orvik {
 
@@ -22,6 +23,8 @@ class InteractiveSynchronisation {
   // mode, where the EIA and the irrigation area are known, the site values too. A number that
   // single precision cannot hold becomes a message.
   void AnswerChange();
+
+  std::function<void()> OnPointShown;  // after every AnswerChange
 
   // While the point is dragged the error bar makes no sound.
   void AnswerMousePressed();

@@ -18,6 +18,13 @@ std::unique_ptr<Label> MakeSlotLabel(Toolkit& toolkit, int slot) {
   return toolkit.MakeLabel(DesignOf(SlotField(slot)).label);
 }
 
+std::unique_ptr<Label> MakeMark(Toolkit& toolkit, std::string_view name) {
+  auto mark = toolkit.MakeLabel(name);
+  mark->Caption("*");
+  mark->Visible(false);
+  return mark;
+}
+
 }  // namespace
 
 ProjectForm::ProjectForm(Toolkit& toolkit, Desktop& desktop)
@@ -27,6 +34,7 @@ ProjectForm::ProjectForm(Toolkit& toolkit, Desktop& desktop)
       cmbClimateStation(MakeList(toolkit, ListField::ClimateStation)),
       cmbSolveFor(MakeList(toolkit, ListField::SolveForMode)),
       txtErrMsg(toolkit, desktop, "txtErrMsg"),
+      hints(toolkit),
       boxes_(MakeBoxes(toolkit, std::make_index_sequence<kFields>())),
       slotLabels_{MakeSlotLabel(toolkit, 1), MakeSlotLabel(toolkit, 2), MakeSlotLabel(toolkit, 3)} {
   picProject->Visible(false);
@@ -34,6 +42,13 @@ ProjectForm::ProjectForm(Toolkit& toolkit, Desktop& desktop)
     if (field.kind != FieldKind::Result) continue;
     Box(field.id).Locked(true);
     Box(field.id).BackColor(kButtonFace);
+  }
+  for (const FieldDesign& field : Fields()) {
+    if (!field.CanBeNeeded()) continue;
+    fieldMarks_[static_cast<std::size_t>(field.id)] = MakeMark(toolkit, field.markLabel);
+  }
+  for (const ListDesign& list : ListFields()) {
+    listMarks_[static_cast<std::size_t>(list.id)] = MakeMark(toolkit, list.markLabel);
   }
 }
 

@@ -12,6 +12,7 @@
 #include "design/Project.h"
 #include "design/SolveFor.h"
 #include "platform/Toolkit.h"
+#include "project/HintLine.h"
 
 namespace orvik {
 
@@ -27,6 +28,7 @@ struct ProjectForm {
   std::unique_ptr<ComboBox> cmbClimateStation;
   std::unique_ptr<ComboBox> cmbSolveFor;
   ctrlErrorMessageBar txtErrMsg;
+  HintLine hints;
 
   ctrlMyTextBox& Box(Field field) { return boxes_[static_cast<std::size_t>(field)]; }
   const ctrlMyTextBox& Box(Field field) const { return boxes_[static_cast<std::size_t>(field)]; }
@@ -38,12 +40,18 @@ struct ProjectForm {
   // A point that no widget shows; see design/KeptPoint.
   std::optional<StoredPoint> keptPoint;
 
+  // The marks at the left of what is still needed; only of fields that can be, and of lists.
+  Label& Mark(Field field) { return *fieldMarks_[static_cast<std::size_t>(field)]; }
+  Label& Mark(ListField list) { return *listMarks_[static_cast<std::size_t>(list)]; }
+
   // The mode that cmbSolveFor shows.
   SolveFor Mode() const { return SolveForOfIndex(cmbSolveFor->ListIndex()); }
 
  private:
   std::array<ctrlMyTextBox, kFields> boxes_;
   std::array<std::unique_ptr<Label>, kSolveForSlots> slotLabels_;
+  std::array<std::unique_ptr<Label>, kFields> fieldMarks_;
+  std::array<std::unique_ptr<Label>, kListFields> listMarks_;
 };
 
 }  // namespace orvik

@@ -1,12 +1,17 @@
 #include "project/RecalculationTriggers.h"
 
+#include <cmath>
+
 #include "base/NumberText.h"
+#include "base/Text.h"
 #include "chart/ctrlStormwaterReuse.h"
 #include "design/Calculate.h"
+#include "design/NumberInput.h"
 #include "design/OutcomeMessage.h"
 #include "engine/CurveLoading.h"
 #include "platform/Desktop.h"
 #include "project/FaultsOnBar.h"
+#include "project/FlagScope.h"
 #include "project/InteractiveSynchronisation.h"
 #include "project/ProjectForm.h"
 #include "project/SolveForWorkflow.h"
@@ -40,25 +45,22 @@ RecalculationTriggers::RecalculationTriggers(ProjectForm& form, ctrlStormwaterRe
       workflow_(workflow),
       interactive_(interactive),
       modeChange_(form, chart, binding, workflow, interactive),
+      outOfDate_(form, binding),
+      missing_(form, chart, binding),
       entries_(EntriesOf(form)) {
   for (Entry& entry : entries_) Watch(entry);
-  // The normalized numbers can be typed in the interactive mode: Enter places the hotspot by them.
-  for (const FieldDesign& design : Fields()) {
-    if (design.kind != FieldKind::Normalized) continue;
-    ctrlMyTextBox& field = form_.Box(design.id);
-    OnEnter(field, [this, &field] {
-      if (field.Locked()) return;
-      ShowFaultsOnBar(form_.txtErrMsg, [this] { PlacePoint(); });
-    });
-  }
-  form_.cmbClimateStation->OnClick = [this] {
-    ShowFaultsOnBar(form_.txtErrMsg, [this] { ChangeStation(); });
+  WatchNormalized();
+  WatchDescription();
+  WatchLists();
+  workflow_.OnRecalculated = [this] {
+    ForgetChanges();
+    outOfDate_.TakeCalculated();
+    Settle();
   };
-  form_.cmbSolveFor->OnClick = [this] {
-    ShowFaultsOnBar(form_.txtErrMsg, [this] { ChangeMode(); });
-  };
-  workflow_.OnRecalculated = [this] { ForgetChanges(); };
+  interactive_.OnPointShown = [this] { AnswerPointShown(); };
 }
+
+// --- What is watched ---
 
 std::vector<RecalculationTriggers::Entry> RecalculationTriggers::EntriesOf(ProjectForm& form) {
   std::vector<Entry> entries;
@@ -71,20 +73,95 @@ std::vector<RecalculationTriggers::Entry> RecalculationTriggers::EntriesOf(Proje
 }
 
 void RecalculationTriggers::Watch(Entry& entry) {
-  entry.field.OnChange = [this, &entry] {
-    entry.changed = !entry.field.Locked();  // a locked field shows results; nobody typed there
-    if (entry.definesEIA) workflow_.UpdateEquivalentImperviousArea();
-  };
-  OnEnter(entry.field, [this, &entry] { Process(entry); });
+  entry.field.OnChange = [this, &entry] { AnswerTyping(entry); };
+  OnEnter(entry.field, [this, &entry] {
+    Process(entry);
+    missing_.Say();
+  });
   entry.field.OnLeave = [this, &entry] {
     if (entry.changed) Process(entry);
   };
 }
 
+// The normalized numbers can be typed in the interactive mode: Enter places the hotspot by them.
+void RecalculationTriggers::WatchNormalized() {
+  for (const FieldDesign& design : Fields()) {
+    if (design.kind != FieldKind::Normalized) continue;
+    ctrlMyTextBox& field = form_.Box(design.id);
+    field.OnChange = [this, &field] {
+      if (!binding_.IsShowing() && !field.Locked()) isPointTyped_ = true;
+      AnswerEdit();
+    };
+    OnEnter(field, [this, &field, id = design.id] {
+      if (field.Locked()) return;
+      ShowFaultsOnBar(form_.txtErrMsg, [this, id] { PlacePointBy(id); });
+    });
+  }
+}
+
+void RecalculationTriggers::WatchDescription() {
+  for (const FieldDesign& field : Fields()) {
+    if (field.IsDescription()) form_.Box(field.id).OnChange = [this] { AnswerEdit(); };
+  }
+}
+
+void RecalculationTriggers::WatchLists() {
+  form_.cmbClimateStation->OnClick = [this] {
+    AnswerChoice(&RecalculationTriggers::ChangeStation);
+  };
+  form_.cmbSolveFor->OnClick = [this] { AnswerChoice(&RecalculationTriggers::ChangeMode); };
+}
+
+// A choice writes many fields; only what they show at its end makes sense.
+void RecalculationTriggers::AnswerChoice(void (RecalculationTriggers::*change)()) {
+  {
+    const FlagScope changing(isChoosing_);
+    ShowFaultsOnBar(form_.txtErrMsg, [&] { (this->*change)(); });
+  }
+  AnswerEdit();
+}
+
+void RecalculationTriggers::AnswerTyping(Entry& entry) {
+  entry.changed = !entry.field.Locked();  // a locked field shows results; nobody typed there
+  if (entry.definesEIA && workflow_.UpdateEquivalentImperviousArea()) outOfDate_.TakeEIA();
+  AnswerEdit();
+}
+
+void RecalculationTriggers::AnswerEdit() {
+  if (binding_.IsShowing() || isChoosing_) return;
+  TakeBackNotTaken();
+  outOfDate_.Refresh();
+  missing_.Refresh();
+  if (OnEdited) OnEdited();
+}
+
+void RecalculationTriggers::AnswerPointShown() {
+  isPointTyped_ = false;
+  outOfDate_.TakePoint();
+  Settle();
+  if (OnEdited && !isChoosing_) OnEdited();
+}
+
+void RecalculationTriggers::Settle() {
+  TakeBackNotTaken();
+  missing_.Refresh();
+  if (OnSettled) OnSettled();
+}
+
+void RecalculationTriggers::TakeReplaced() {
+  ForgetChanges();
+  outOfDate_.Refresh();
+  missing_.TakeBack();
+  TakeBackNotTaken();
+}
+
+// --- What is done ---
+
 void RecalculationTriggers::ProcessChanges() {
   for (Entry& entry : entries_) {
     if (entry.changed) Process(entry);
   }
+  if (isPointTyped_) ShowFaultsOnBar(form_.txtErrMsg, [this] { PlacePoint(); });
 }
 
 // The mark goes first: a message on the way may take the focus out of the field, which must not
@@ -100,6 +177,45 @@ void RecalculationTriggers::Process_CR() {
   } else {
     ResetSolution();
   }
+}
+
+void RecalculationTriggers::PlacePointBy(Field typed) {
+  const std::string text = form_.Box(typed).Text();
+  PlacePoint();
+  if (!SayIfNotTaken(typed, text)) missing_.Say();
+}
+
+// A number that places no point is overwritten by the point's own, or stays without one; the user
+// is told. What the curves do not reach is told on the message bar.
+bool RecalculationTriggers::SayIfNotTaken(Field typed, const std::string& text) {
+  const std::string_view given = Trim(text);
+  const std::string message = form_.txtErrMsg.Text();
+  const bool isRefused = form_.txtErrMsg.IsSet() && message != Sentence({MessageId::MissingData});
+  if (given.empty() || isRefused || !chart_.IsLoaded() || IsTaken(typed, text)) return false;
+  const std::string now = form_.Box(typed).Text();
+  const std::string caption = PlainCaption(typed);
+  missing_.TakeBack();
+  const Hint overwritten{HintId::NumberNotTaken, {caption, std::string(given), now}};
+  const Hint unused{HintId::NumberNotPlaced, {caption, std::string(given)}};
+  const bool isOverwritten = !now.empty() && now != text;
+  form_.hints.Show(HintSource::Input, {isOverwritten ? overwritten : unused});
+  saysNotTaken_ = true;
+  return true;
+}
+
+// The point shows the number, which it has through single precision.
+bool RecalculationTriggers::IsTaken(Field typed, const std::string& text) const {
+  constexpr double kSinglePrecision = 1e-6;
+  const std::string now = form_.Box(typed).Text();
+  if (!interactive_.HotspotShowsNumbers() || !IsDefinedNumber(text)) return false;
+  const double given = ParseNumber(text);
+  return std::fabs(ParseNumber(now) - given) <= kSinglePrecision * std::fabs(given);
+}
+
+void RecalculationTriggers::TakeBackNotTaken() {
+  if (!saysNotTaken_) return;
+  saysNotTaken_ = false;
+  form_.hints.Clear(HintSource::Input);
 }
 
 // The numbers place the point also where the site is not known yet; then only they show it.
@@ -123,6 +239,7 @@ void RecalculationTriggers::ResetSolution() {
     binding_.Empty({Field::R, Field::E, Field::V});
   }
   ForgetChanges();
+  Settle();
 }
 
 // In the interactive mode the design point keeps its R and V on the curves of the other station,
@@ -159,7 +276,9 @@ void RecalculationTriggers::ChangeMode() {
   ForgetChanges();
 }
 
+// What stands in the fields was not typed there: leaving them calls for nothing.
 void RecalculationTriggers::ForgetChanges() {
+  isPointTyped_ = false;
   for (Entry& entry : entries_) entry.changed = false;
 }
 

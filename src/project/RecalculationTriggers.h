@@ -2,14 +2,20 @@
 // another mode.
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <string>
 #include <vector>
 
+#include "project/MissingInputMarks.h"
 #include "project/ModeChange.h"
+#include "project/OutOfDateMarks.h"
 
 namespace orvik {
 
 class Desktop;
 class FormBinding;
+enum class Field : std::uint8_t;
 class InteractiveSynchronisation;
 class SolveForWorkflow;
 class ctrlMyTextBox;
@@ -33,11 +39,19 @@ class RecalculationTriggers {
   // longer that of the fields.
   void Process_CR();
 
-  // What stands in the fields was not typed there: leaving them calls for nothing.
-  void ForgetChanges();
+  // The fields hold another project, or what could be read of one: nothing there was typed, and
+  // what was said of the one before is taken back.
+  void TakeReplaced();
 
-  // What leaving the fields would do for those that were changed since the last recalculation.
+  // What leaving the fields would do for those that were changed since the last recalculation, and
+  // Enter in R, E and V: what is printed or handed over then belongs together.
   void ProcessChanges();
+
+  // Some result that the fields show is not that of the other fields.
+  bool IsAnyOutOfDate() const { return outOfDate_.AreAny(); }
+
+  std::function<void()> OnEdited;   // a field was typed in, something chosen, the point moved
+  std::function<void()> OnSettled;  // a result was written, or taken away
 
  private:
   // A field whose change calls for a recalculation.
@@ -48,9 +62,23 @@ class RecalculationTriggers {
   };
 
   static std::vector<Entry> EntriesOf(ProjectForm& form);
+  void WatchEntries();
+  void WatchNormalized();
+  void WatchDescription();
+  void WatchLists();
   void Watch(Entry& entry);
+  void AnswerTyping(Entry& entry);
+  void AnswerEdit();
+  void AnswerChoice(void (RecalculationTriggers::*change)());
   void Process(Entry& entry);
+  void PlacePointBy(Field typed);
   void PlacePoint();
+  bool SayIfNotTaken(Field typed, const std::string& text);
+  bool IsTaken(Field typed, const std::string& text) const;
+  void TakeBackNotTaken();
+  void AnswerPointShown();
+  void Settle();
+  void ForgetChanges();
   void ChangeStation();
   void LoadCurves();
   void ChangeMode();
@@ -63,6 +91,11 @@ class RecalculationTriggers {
   SolveForWorkflow& workflow_;
   InteractiveSynchronisation& interactive_;
   ModeChange modeChange_;
+  OutOfDateMarks outOfDate_;
+  MissingInputMarks missing_;
+  bool isChoosing_ = false;     // a station or a mode, which has not settled yet
+  bool isPointTyped_ = false;   // in R, E or V, and not entered
+  bool saysNotTaken_ = false;   // of a number for the point
   std::vector<Entry> entries_;  // never grows: the fields' events refer to them
 };
 

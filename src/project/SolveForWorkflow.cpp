@@ -16,11 +16,14 @@ bool SolveForWorkflow::IsDataDefined() const {
   return orvik::IsDataDefined(binding_.Snapshot(), chart_.IsLoaded());
 }
 
-void SolveForWorkflow::UpdateEquivalentImperviousArea() {
-  ShowFaultsOnBar(form_.txtErrMsg, [this] {
+bool SolveForWorkflow::UpdateEquivalentImperviousArea() {
+  bool isWritten = false;
+  ShowFaultsOnBar(form_.txtErrMsg, [&] {
     const auto EIA = EquivalentImperviousArea(binding_.Snapshot());
     if (EIA) form_.Box(Field::EquivalentImperviousArea).Text(*EIA);
+    isWritten = EIA.has_value();
   });
+  return isWritten;
 }
 
 }  // namespace orvik

@@ -25,8 +25,8 @@ class SolveForWorkflow {
   bool IsDataDefined() const;
 
   // Writes the EIA where both the basin area and the runoff coefficient are numbers; otherwise
-  // leaves it as it is. No range check: the user may be in the middle of typing.
-  void UpdateEquivalentImperviousArea();
+  // leaves it as it is: false. No range check: the user may be in the middle of typing.
+  bool UpdateEquivalentImperviousArea();
 
  private:
   ProjectForm& form_;

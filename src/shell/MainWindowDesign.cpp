@@ -1,5 +1,6 @@
 #include "shell/MainWindowDesign.h"
 
+#include "design/Fields.h"
 #include "shell/MainWindowLayout.h"
 #include "shell/MainWindowTable.h"
 
@@ -7,6 +8,11 @@ namespace orvik {
 
 std::span<const WidgetDesign> MainWindowDesign::Widgets() const {
   return MainWindowWidgets();
+}
+
+// The window opens on the data page.
+std::string_view MainWindowDesign::FirstFocus() const {
+  return DesignOf(ListField::ClimateStation).control;
 }
 
 Size MainWindowDesign::MinimumSize(const TextMeasures& measures) const {

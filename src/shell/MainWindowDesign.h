@@ -8,6 +8,7 @@ namespace orvik {
 class MainWindowDesign final : public FormDesign {
  public:
   std::span<const WidgetDesign> Widgets() const override;
+  std::string_view FirstFocus() const override;
   Size MinimumSize(const TextMeasures& measures) const override;
   Size InitialSize(const TextMeasures& measures) const override;
   std::vector<Placement> LayOut(Size inner, const TextMeasures& measures) const override;

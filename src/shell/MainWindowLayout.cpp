@@ -3,16 +3,19 @@
 #include <algorithm>
 #include <string>
 
+#include "controls/ctrlHintBar.h"
 #include "design/SolveFor.h"
 #include "engine/ClimateStations.h"
 #include "shell/MainWindowTable.h"
 #include "shell/Paddings.h"
+#include "shell/StatusLine.h"
 
 namespace orvik {
 namespace {
 
 // Lengths for 96 dots per inch.
 constexpr int kMargin = 12;         // round each page and between its columns
+constexpr int kMarkLeft = 3;        // of the mark in the margin beside a field
 constexpr int kGap = 6;             // between widgets that belong together
 constexpr int kToolbarPadding = 6;  // above and below the toolbar's buttons
 constexpr int kNumberWidth = 104;   // of a field for a number
@@ -22,6 +25,9 @@ constexpr int kRowGapLeast = 2;
 constexpr int kRowGapMost = 8;
 constexpr int kGroupGap = 10;  // above a heading, besides the row gap
 constexpr int kDescriptionLines = 5;
+constexpr int kHintLines = 2;
+constexpr int kHintPadding = 4;    // of the strip above and below its lines
+constexpr int kStatusPadding = 4;  // of the status line above and below its text
 constexpr int kChartLeastWidth = 420;
 constexpr int kChartComfortWidth = 800;
 constexpr int kChartComfortHeight = 560;
@@ -56,17 +62,20 @@ class Layout {
   std::vector<Placement> Run() {
     LayOutToolbar();
     const int top = ToolbarHeight();
-    Place("picProject", {0, top, inner_.width, inner_.height});
-    Place("picData", {0, top, inner_.width, inner_.height});
+    const int bottom = inner_.height - FootHeight();
+    Place("picProject", {0, top, inner_.width, bottom});
+    Place("picData", {0, top, inner_.width, bottom});
     LayOutProject();
-    LayOutData({inner_.width, inner_.height - top});
+    LayOutData({inner_.width, bottom - top});
+    LayOutHint(bottom);
+    LayOutStatus(inner_.height - StatusHeight());
     return std::move(places_);
   }
 
   Size Minimum() const {
     const int page = S(kMargin) + RowsHeight(S(kRowGapLeast)) + BarHeight();
     return {std::max(ToolbarWidth(), ColumnRight() + S(kMargin) + S(kChartLeastWidth) + S(kMargin)),
-            ToolbarHeight() + std::max(page, ProjectHeight())};
+            ToolbarHeight() + std::max(page, ProjectHeight()) + FootHeight()};
   }
 
   Size Comfortable() const {
@@ -74,7 +83,7 @@ class Layout {
         S(kMargin) + std::max(S(kChartComfortHeight), RowsHeight(S(kRowGapMost))) + BarHeight();
     return {
         std::max(ToolbarWidth(), ColumnRight() + S(kMargin) + S(kChartComfortWidth) + S(kMargin)),
-        ToolbarHeight() + page};
+        ToolbarHeight() + page + FootHeight()};
   }
 
  private:
@@ -226,6 +235,37 @@ class Layout {
     Place("cmdErrorHelp", {right - button, top, right, top + FieldHeight()});
   }
 
+  // --- Below the pages ---
+
+  int HintHeight() const { return kHintLines * m_.lineHeight + 2 * S(kHintPadding); }
+  int StatusHeight() const { return m_.lineHeight + 2 * S(kStatusPadding); }
+  int FootHeight() const { return HintHeight() + S(kGap) + StatusHeight(); }
+
+  // The strip's symbol takes a square at its left.
+  void LayOutHint(int top) {
+    const Size strip{inner_.width - 2 * S(kMargin), HintHeight()};
+    Place("picHint", {S(kMargin), top, S(kMargin) + strip.width, top + strip.height});
+    const int caption = strip.height;
+    const int text = caption + m_.width(ctrlHintBar::kCaption) + S(kMargin);
+    const int first = S(kHintPadding);
+    Place("lblHint", {caption, first, text - S(kGap), first + m_.lineHeight});
+    Place("txtHint", {text, first, strip.width - S(kGap), first + kHintLines * m_.lineHeight});
+  }
+
+  void LayOutStatus(int top) {
+    Place("picStatus", {0, top, inner_.width, top + StatusHeight()});
+    const auto text = [&](std::string_view name, int left, int right) {
+      Place(name, {left, S(kStatusPadding), right, S(kStatusPadding) + m_.lineHeight});
+    };
+    const int saved =
+        S(kMargin) + std::max(m_.width(StatusText::kUnsaved), m_.width(StatusText::kSavedExample));
+    const int right = inner_.width - S(kMargin);
+    const int outOfDate = right - m_.width(StatusText::kOutOfDate);
+    text("lblSaved", S(kMargin), saved);
+    text("lblFile", saved + 2 * S(kMargin), outOfDate - S(kMargin));
+    text("lblOutOfDate", outOfDate, right);
+  }
+
   void LayOutRows(int rowGap) {
     int top = S(kMargin);
     for (const FieldGroup& group : DataGroups()) {
@@ -246,6 +286,7 @@ class Layout {
     if (!row.unit.name.empty()) {
       PlaceText(row.unit.name, fieldRight + S(kGap), ColumnRight(), top);
     }
+    if (!row.mark.empty()) PlaceText(row.mark, S(kMarkLeft), S(kMargin), top);
   }
 
   // As large as the room allows in a shape in which its height is the limit.

@@ -11,12 +11,16 @@ FieldRow RowOf(Field id) {
   const FieldDesign& field = DesignOf(id);
   FieldRow row{{field.label, field.caption}, field.control, field.kind};
   if (!field.unit.empty()) row.unit = {field.unitLabel, field.unit};
+  if (field.CanBeNeeded()) row.mark = field.markLabel;
   return row;
 }
 
 FieldRow RowOf(ListField id) {
   const ListDesign& list = DesignOf(id);
-  return {.label = {list.label, list.caption}, .field = list.control, .isList = true};
+  return {.label = {list.label, list.caption},
+          .field = list.control,
+          .isList = true,
+          .mark = list.markLabel};
 }
 
 std::vector<FieldRow> MakeProjectRows() {
@@ -77,12 +81,25 @@ constexpr std::array kToolbar = {
     WidgetDesign{"cmdDiscardExit", "picToolbar"},
 };
 
+// Below both pages: what is said beside the messages, and the state of the project.
+constexpr std::array kFoot = {
+    WidgetDesign{"picHint", ""},
+    WidgetDesign{"lblHint", "picHint", WidgetStyle::Notice},
+    WidgetDesign{"txtHint", "picHint", WidgetStyle::Notice},
+    WidgetDesign{"picStatus", ""},
+    WidgetDesign{"lblSaved", "picStatus"},
+    WidgetDesign{"lblFile", "picStatus"},
+    WidgetDesign{"lblOutOfDate", "picStatus"},
+};
+
 constexpr std::array kMenus = {
     WidgetDesign{"mnuFile", ""},
     WidgetDesign{"mnuFile_New", "mnuFile"},
     WidgetDesign{"mnuFile_Open", "mnuFile"},
     WidgetDesign{"mnuFile_Save", "mnuFile", WidgetStyle::Separated},
     WidgetDesign{"mnuFile_SaveAs", "mnuFile"},
+    WidgetDesign{"mnuFile_Restore", "mnuFile", WidgetStyle::Separated},
+    WidgetDesign{"mnuFile_DiscardKept", "mnuFile"},
     WidgetDesign{"mnuFile_Print", "mnuFile", WidgetStyle::Separated},
     WidgetDesign{"mnuReturn", ""},
     WidgetDesign{"mnuReturn_Save", "mnuReturn"},
@@ -97,6 +114,15 @@ constexpr std::array kMenus = {
     WidgetDesign{"mnuHelp_About", "mnuHelp", WidgetStyle::Separated},
 };
 
+// Last on the page: a label before a field would name it.
+void AddMarks(std::vector<WidgetDesign>& widgets) {
+  for (const FieldGroup& group : DataGroups()) {
+    for (const FieldRow& row : group.rows) {
+      if (!row.mark.empty()) widgets.push_back({row.mark, "picData", WidgetStyle::Heading});
+    }
+  }
+}
+
 std::vector<WidgetDesign> MakeWidgets() {
   std::vector<WidgetDesign> widgets(kToolbar.begin(), kToolbar.end());
   widgets.push_back({"picProject", ""});
@@ -110,6 +136,8 @@ std::vector<WidgetDesign> MakeWidgets() {
   widgets.push_back({"ctrlStormwaterReuse1", "picData"});
   AddRow(widgets, "picData", kMessageRow);
   widgets.push_back({"cmdErrorHelp", "picData"});
+  AddMarks(widgets);
+  widgets.insert(widgets.end(), kFoot.begin(), kFoot.end());
   widgets.insert(widgets.end(), kMenus.begin(), kMenus.end());
   return widgets;
 }

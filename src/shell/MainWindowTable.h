@@ -24,6 +24,7 @@ struct FieldRow {
   FieldKind kind = FieldKind::Text;
   LabelDesign unit = {};
   bool isList = false;
+  std::string_view mark = {};  // the label at its left while the field is still needed
 };
 
 // The project page, from top to bottom.

@@ -64,6 +64,101 @@ TEST_F(Form1Test, TheTitleShowsTheVersionWithFourDigitsOfBuildNumber) {
             "KAV - ORVIK 3.3 Stormwater Harvesting Module (Ver 3.3.0001)");
 }
 
+// --- The status line ---
+
+TEST_F(Form1Test, TheStatusLineTellsOfUnsavedChangesAndOfSaving) {
+  const auto saved = [this] { return toolkit_.Caption("lblSaved"); };
+  const auto file = [this] { return toolkit_.Caption("lblFile"); };
+  EXPECT_EQ(saved(), "");
+  EXPECT_EQ(file(), "untitled");
+  Type("txtProjectName", "Lake");
+  EXPECT_EQ(saved(), "Unsaved changes");
+  desktop_.Now({{2026, 3, 9}, 14, 5, 0});
+  ASSERT_TRUE(form_->Files().SaveFile(folder_ / "Lake.kav"));
+  EXPECT_EQ(saved(), "Saved 14:05");
+  EXPECT_EQ(file(), "Lake.kav");
+  Choose("cmbClimateStation", "Tampa");
+  EXPECT_EQ(saved(), "Unsaved changes");
+  form_->Files().OpenProject(folder_ / "Lake.kav");
+  EXPECT_EQ(saved(), "") << "it was not saved since it was opened";
+  EXPECT_EQ(file(), "Lake.kav");
+}
+
+TEST_F(Form1Test, TheStatusLineCountsAMovedPointAsAChange) {
+  TypeSite();
+  Enter("txtBasinArea");
+  ASSERT_TRUE(form_->Files().SaveFile(folder_ / "Lake.kav"));
+  auto& chart = form_->Chart();
+  chart.MouseDown(1, chart.Geometry().XPlotToXFrame(3), chart.Geometry().YPlotToYFrame(0.12));
+  chart.MouseUp();
+  EXPECT_EQ(toolkit_.Caption("lblSaved"), "Unsaved changes");
+}
+
+TEST_F(Form1Test, AHostsProjectHasNoFile) {
+  form_->Mode(2);
+  EXPECT_EQ(toolkit_.Caption("lblFile"), "");
+}
+
+// --- What leaves the window belongs together ---
+
+// R = 4 and V = 5: E = 50 + 10 (4 + ln 5 - 4) = 66.09438; before, with R = 3, it was 56.09438.
+class TypedPoint : public Form1Test {
+ protected:
+  TypedPoint() {
+    TypeSite("Orlando");
+    Type("txtR", "3");
+    TypeAndEnter("txtV", "5");
+    EXPECT_NEAR(Number("txtE"), 56.09438, 0.06) << "to the pixel";
+    Type("txtR", "4");
+  }
+};
+
+TEST_F(TypedPoint, IsPlacedBeforePrinting) {
+  form_->PrintCurrentProject();
+  EXPECT_NEAR(Number("txtE"), 66.09438, 0.06);
+  EXPECT_NEAR(Number("txtSolveFor(1)"), 4 * 7, 1e-4) << "inches per week";
+}
+
+TEST_F(TypedPoint, IsPlacedBeforeTheHostGetsTheProject) {
+  std::string project;
+  ASSERT_TRUE(form_->Files().SaveText(project));
+  EXPECT_NEAR(ParseNumber(form_->Efficiency()), 66.09438, 0.06);
+  EXPECT_NE(project.find("\r\n4\r\n5\r\n"), std::string::npos) << project;
+}
+
+// 30 acres: EIA 15, V = 1.25 x 12 / 15 = 1 in, R = 5 x 0.875 / 15 / 7 = 0.0416667 in/day, which is
+// below the curve of 50 %: a message, and no efficiency.
+TEST_F(Form1Test, ATypedBasinIsCalculatedBeforePrinting) {
+  SolveForEfficiency();
+  Type("txtBasinArea", "30");
+  form_->PrintCurrentProject();
+  EXPECT_EQ(Text("txtV"), "1");
+  EXPECT_EQ(Text("txtE"), "");
+  EXPECT_NE(Message(), "");
+}
+
+// The EIA of the basin before would stand beside it.
+TEST_F(Form1Test, WhatCannotBeCalculatedIsNotPrintedOutOfDate) {
+  SolveForEfficiency();
+  Type("txtBasinArea", "abc");
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "5");
+  form_->PrintCurrentProject();
+  EXPECT_EQ(Text("txtEquivalentImperviousArea"), "");
+  EXPECT_EQ(Message(), "The basin area is not numeric.");
+}
+
+TEST_F(Form1Test, TheChartSaysThatItsPointIsOutOfDate) {
+  SolveForEfficiency();
+  const auto value = [this] {
+    return toolkit_.Find<ControlHost>("ctrlStormwaterReuse1").Announcement().value;
+  };
+  const std::string solved = value();
+  Type("txtBasinArea", "30");
+  EXPECT_EQ(value(), solved + ", out of date");
+  Type("txtBasinArea", "10");
+  EXPECT_EQ(value(), solved);
+}
+
 // --- Leaving ---
 
 TEST_F(Form1Test, SaveExitAndDiscardExitHideTheWindow) {

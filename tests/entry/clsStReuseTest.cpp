@@ -46,7 +46,18 @@ class clsStReuseTest : public testing::Test {
   test::TempFolder folder_;
   test::AnsweringDesktop desktop_;
   test::UserToolkit toolkit_;
-  ReuseModule module_{folder_.Path(), desktop_, [this] { return toolkit_.ForAnotherWindow(); }};
+  // Runs the work on a thread of its own, which has ended for the module too when this returns.
+  void OnAnotherThread(const std::function<void()>& work) {
+    std::thread([&] {
+      work();
+      *runs_ = false;
+    }).join();
+    runs_ = std::make_shared<bool>(true);
+  }
+
+  std::shared_ptr<bool> runs_ = std::make_shared<bool>(true);  // the thread that is watched next
+  ReuseModule module_{folder_.Path(), desktop_, [this] { return toolkit_.ForAnotherWindow(); },
+                      [this] { return [runs = runs_] { return *runs; }; }};
   clsStReuse entry_{module_};
   bool wasShown_ = false;
   std::string p1_ = "host's own";
@@ -320,11 +331,48 @@ TEST_F(clsStReuseTest, AnotherThreadIsRefusedTheWindow) {
 
 TEST_F(clsStReuseTest, AnIdleWindowIsUnloadedByItsOwnThreadOnly) {
   module_.Window();
-  std::thread([this] { module_.UnloadIdleWindow(); }).join();
+  std::thread([this] { module_.LetGoOfWindow(this); }).join();
   EXPECT_TRUE(module_.HasWindow());
-  module_.UnloadIdleWindow();
+  module_.LetGoOfWindow(this);
   EXPECT_FALSE(module_.HasWindow());
-  EXPECT_EQ(Show(2, [this] { module_.UnloadIdleWindow(); }), 0) << "it is not idle while it shows";
+  EXPECT_EQ(Show(2, [this] { module_.LetGoOfWindow(this); }), 0) << "it is not idle while it shows";
+}
+
+TEST_F(clsStReuseTest, AWindowOfAThreadThatHasEndedBlocksNobody) {
+  OnAnotherThread([this] {
+    RecordingPrinter printer;
+    entry_.Print_Remote(&printer, 2, "", ProjectText());
+  });
+  ASSERT_TRUE(module_.HasWindow()) << "left loaded, and nobody let go of it";
+  RecordingPrinter printer;
+  EXPECT_NO_THROW(entry_.Print_Remote(&printer, 2, "", ProjectText()));
+  EXPECT_TRUE(printer.HasEnded());
+  EXPECT_EQ(ShowAndSave(), 1);
+}
+
+// The operation never ends: its thread does, in the midst of it.
+TEST_F(clsStReuseTest, AnOperationWhoseThreadHasEndedBlocksNobody) {
+  std::unique_ptr<ReuseModule::Use> neverEnding;
+  OnAnotherThread([&] {
+    neverEnding = std::make_unique<ReuseModule::Use>(module_);
+    module_.Window();
+  });
+  RecordingPrinter printer;
+  EXPECT_NO_THROW(entry_.Print_Remote(&printer, 2, "", ProjectText()));
+  EXPECT_TRUE(printer.HasEnded());
+}
+
+TEST_F(clsStReuseTest, AWindowStaysUntilEveryObjectThatPrintedFromItIsGone) {
+  RecordingPrinter printer;
+  auto first = std::make_unique<clsStReuse>(module_);
+  auto second = std::make_unique<clsStReuse>(module_);
+  first->Print_Remote(&printer, 2, "", ProjectText());
+  second->Print_Remote(&printer, 2, "", ProjectText());
+  { const clsStReuse idle(module_); }
+  first.reset();
+  EXPECT_TRUE(module_.HasWindow()) << "the second object printed from it";
+  second.reset();
+  EXPECT_FALSE(module_.HasWindow());
 }
 
 // --- Remote printing ---

@@ -14,7 +14,8 @@ TEST(SystemColours, AnOrdinaryColourHasTheOrderOfItsBytesReversed) {
 
 TEST(SystemColours, EachOneThatIsNamedIsKnown) {
   for (const Colour colour : {kWindowBackground, kWindowText, kButtonFace, kButtonShadow,
-                              kButtonText, k3DHighlight, k3DDarkShadow, k3DLight}) {
+                              kButtonText, k3DHighlight, k3DDarkShadow, k3DLight, kHighlight,
+                              kHighlightText, kGreyText, kInfoText, kInfoBackground}) {
     EXPECT_NO_THROW(RedGreenBlue(colour)) << std::hex << colour;
   }
   EXPECT_EQ(RedGreenBlue(kWindowText), RedGreenBlue(kBlack));
@@ -22,7 +23,7 @@ TEST(SystemColours, EachOneThatIsNamedIsKnown) {
 }
 
 TEST(SystemColours, AnUnknownOneIsRefused) {
-  EXPECT_THROW(RedGreenBlue(0x8000000D), std::invalid_argument);  // COLOR_HIGHLIGHT
+  EXPECT_THROW(RedGreenBlue(0x8000001E), std::invalid_argument);  // COLOR_MENUBAR
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "engine/ClimateStations.h"
 #include "shell/MainWindowLayout.h"
 #include "shell/MainWindowTable.h"
+#include "shell/StatusLine.h"
 #include "support/EvenLetters.h"
 
 namespace orvik {
@@ -97,15 +98,45 @@ TEST(MainWindowLayout, NothingOverlapsOnAPage) {
   }
 }
 
-TEST(MainWindowLayout, ThePagesShareTheAreaBelowTheToolbar) {
+TEST(MainWindowLayout, ThePagesShareTheAreaBetweenToolbarAndHint) {
   for (const Screen& screen : Screens()) {
     const auto places = Places(screen);
     const Area& toolbar = places.at("picToolbar");
-    const Area expected{0, toolbar.bottom, screen.inner.width, screen.inner.height};
+    const Area expected{0, toolbar.bottom, screen.inner.width, places.at("picHint").top};
     EXPECT_EQ(toolbar.top, 0);
     EXPECT_EQ(toolbar.right, screen.inner.width);
     EXPECT_EQ(places.at("picProject"), expected) << Name(screen);
     EXPECT_EQ(places.at("picData"), expected) << Name(screen);
+  }
+}
+
+// So the chart cannot move under the mouse when a hint comes or goes: it never has their room.
+TEST(MainWindowLayout, HintAndStatusLineLieBelowEachOtherAtTheFootOfTheWindow) {
+  for (const Screen& screen : Screens()) {
+    const auto places = Places(screen);
+    const Area& hint = places.at("picHint");
+    const Area& status = places.at("picStatus");
+    EXPECT_LT(hint.bottom, status.top) << Name(screen);
+    EXPECT_EQ(status.bottom, screen.inner.height) << Name(screen);
+    EXPECT_EQ(status.right, screen.inner.width) << Name(screen);
+    const TextMeasures measures = test::EvenLetters(screen.dpi);
+    const Area& text = places.at("txtHint");
+    EXPECT_GE(text.bottom - text.top, 2 * measures.lineHeight) << Name(screen);
+    EXPECT_GE(text.right - text.left, measures.Scale(500)) << Name(screen);
+  }
+}
+
+TEST(MainWindowLayout, TheTextsOfTheStatusLineAreNotCutOff) {
+  for (const Screen& screen : Screens()) {
+    const auto places = Places(screen);
+    const TextMeasures measures = test::EvenLetters(screen.dpi);
+    const auto width = [&](const char* name) {
+      return places.at(name).right - places.at(name).left;
+    };
+    EXPECT_GE(width("lblSaved"), measures.width("Unsaved changes")) << Name(screen);
+    EXPECT_GE(width("lblSaved"), measures.width("Saved 14:05")) << Name(screen);
+    EXPECT_GE(width("lblFile"), measures.Scale(200)) << Name(screen);
+    EXPECT_GE(width("lblOutOfDate"), measures.width(StatusText::kOutOfDate)) << Name(screen);
   }
 }
 

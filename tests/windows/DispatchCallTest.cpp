@@ -95,5 +95,26 @@ TEST_F(DispatchCallTest, AFailedMethodChangesNoArgument) {
   ::SysFreeString(exception.bstrHelpFile);
 }
 
+TEST_F(DispatchCallTest, AnArgumentThatRefersToItselfIsRefused) {
+  EXCEPINFO exception{};
+  VARIANT itself{};
+  itself = Reference(itself);
+  EXPECT_EQ(CallFailing(1, itself, exception), E_INVALIDARG);
+  VARIANT other = Reference(itself);
+  itself = Reference(other);
+  EXPECT_EQ(CallFailing(1, itself, exception), E_INVALIDARG) << "by way of another one";
+}
+
+TEST_F(DispatchCallTest, AReferenceToAReferenceIsFollowed) {
+  EXCEPINFO exception{};
+  VARIANT value = Given(VT_R4, 3.0F);
+  VARIANT first = Reference(value);
+  VARIANT second = Reference(first);
+  EXPECT_EQ(CallFailing(1, Reference(second), exception), DISP_E_EXCEPTION) << "it was called";
+  ::SysFreeString(exception.bstrDescription);
+  ::SysFreeString(exception.bstrSource);
+  ::SysFreeString(exception.bstrHelpFile);
+}
+
 }  // namespace
 }  // namespace orvik::test

@@ -105,8 +105,8 @@ class Events {
  public:
   Events(HWND window, DWORD thread) : window_(window) {
     heard_ = this;
-    hook_ = ::SetWinEventHook(EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_VALUECHANGE, nullptr, &Hear, 0,
-                              thread, WINEVENT_OUTOFCONTEXT);
+    hook_ = ::SetWinEventHook(EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr,
+                              &Hear, 0, thread, WINEVENT_OUTOFCONTEXT);
   }
   Events(const Events&) = delete;
   Events& operator=(const Events&) = delete;
@@ -146,6 +146,39 @@ TEST_F(MainWindowListeners, AChangeOfTheChartIsHeard) {
   form_->Press({VK_RETURN, {}});
   EXPECT_TRUE(until(EVENT_OBJECT_VALUECHANGE, before + 1)) << "the design point";
   EXPECT_EQ(events.Count(EVENT_OBJECT_NAMECHANGE), 1);
+}
+
+// --- What is said beside the messages ---
+
+TEST_F(MainWindowListeners, AHintIsAnnouncedWhereverTheKeyboardIs) {
+  Open(1);
+  const Events events(form_->Find("txtHint"), form_->Thread());
+  form_->Choose("cmbClimateStation", "Tampa");
+  form_->Type("txtBasinArea", "10");
+  form_->Press({VK_RETURN, {}});
+  const std::string hint = "Still needed for a result: Runoff coefficient, Irrigation area.";
+  ASSERT_TRUE(form_->UntilText("txtHint", hint));
+  EXPECT_TRUE(form_->Until([&] {
+    test::HandleMessages();
+    return events.Count(EVENT_OBJECT_LIVEREGIONCHANGED) > 0;
+  }));
+  EXPECT_EQ(Hear("txtHint").Name(), "Hint");
+  EXPECT_EQ(Hear("txtHint").Value(), hint);
+  EXPECT_EQ(form_->Focus(), "txtBasinArea");
+}
+
+// Wine keeps no descriptions; that there is another one can be heard.
+TEST_F(MainWindowListeners, AResultOutOfDateIsHeard) {
+  Open(1);
+  TypeProject(*form_);
+  form_->Press({VK_RETURN, {}});
+  ASSERT_TRUE(form_->UntilText("txtE", "63.97224"));
+  const Events events(form_->Find("txtE"), form_->Thread());
+  form_->Type("txtSolveFor(2)", "1.05");
+  EXPECT_TRUE(form_->Until([&] {
+    test::HandleMessages();
+    return events.Count(EVENT_OBJECT_DESCRIPTIONCHANGE) > 0;
+  }));
 }
 
 // --- Buttons ---

@@ -6,6 +6,7 @@
 
 #include "FormOnScreen.h"
 #include "ParentWindow.h"
+#include "shell/StatusLine.h"
 
 namespace orvik {
 namespace {
@@ -51,6 +52,27 @@ TEST(MainWindow, LeavingAChangedFieldSolvesAgain) {
   EXPECT_EQ(form.Text("txtV"), "3");
   form.Press({VK_TAB, {}});
   EXPECT_TRUE(form.UntilText("txtV", "6"));
+}
+
+TEST(MainWindow, TypingUndoingAndPastingMarkTheResultsOutOfDate) {
+  FormOnScreen form(1);
+  SolveForEfficiency(form);
+  ASSERT_TRUE(form.UntilText("txtE", "63.97224"));
+  const std::string outOfDate(StatusText::kOutOfDate);
+  EXPECT_EQ(form.Text("lblOutOfDate"), "");
+  form.Type("txtSolveFor(2)", "0.98");
+  EXPECT_TRUE(form.UntilText("lblOutOfDate", outOfDate));
+  form.Press({VK_RETURN, {}});
+  EXPECT_TRUE(form.UntilText("lblOutOfDate", ""));
+  form.Press({'Z', {VK_CONTROL}});
+  EXPECT_TRUE(form.UntilText("lblOutOfDate", outOfDate)) << "undone";
+  form.Press({VK_RETURN, {}});
+  EXPECT_TRUE(form.UntilText("lblOutOfDate", ""));
+  form.Press({'A', {VK_CONTROL}});
+  form.Press({'X', {VK_CONTROL}});
+  EXPECT_TRUE(form.UntilText("lblOutOfDate", outOfDate)) << "cut";
+  form.Press({'V', {VK_CONTROL}});
+  EXPECT_TRUE(form.UntilText("lblOutOfDate", "")) << "what was cut is pasted again";
 }
 
 TEST(MainWindow, TheFirstFaultIsShownOnTheBar) {

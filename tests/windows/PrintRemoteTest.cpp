@@ -8,7 +8,9 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 #include <thread>
+#include <utility>
 
 #include "entry/com/Bstr.h"
 #include "entry/com/Variant.h"
@@ -186,6 +188,62 @@ TEST_F(PrintRemote, WorksBeforeAndAfterShow) {
   EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report - Before", 1));
   EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report - After", 1));
   EXPECT_FALSE(watch.HasSeenAWindow());
+}
+
+// --- Threads ---
+
+// A host's worker thread ends without letting go of the object that it printed with.
+TEST_F(PrintRemote, AThreadThatIsGoneBlocksNoOther) {
+  ASSERT_TRUE(reuse_);
+  HRESULT printed = E_FAIL;
+  std::thread([&] {
+    const Apartment apartment;
+    printed = Print(Project("Of a thread that is gone", "1", {"1.25", "0.875"}));
+  }).join();
+  EXPECT_EQ(printed, S_OK);
+  EXPECT_EQ(Print(Project("Of the next thread", "1", {"1.25", "0.875"})), S_OK);
+  EXPECT_EQ(ShowAndClose(), S_OK);
+  EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report - Of a thread that is gone", 1));
+  EXPECT_TRUE(ArePrintedSoon("Stormwater Harvesting Report - Of the next thread", 1));
+}
+
+TEST_F(PrintRemote, AThreadThatStillRunsKeepsItsWindow) {
+  ASSERT_TRUE(reuse_);
+  EXPECT_EQ(Print(Project("Of this thread", "1", {"1.25", "0.875"})), S_OK);
+  HRESULT refused = S_OK;
+  std::thread([&] {
+    const Apartment apartment;
+    refused = Print(Project("Of another thread", "1", {"1.25", "0.875"}));
+  }).join();
+  EXPECT_EQ(refused, RPC_E_WRONG_THREAD);
+}
+
+// This thread's window that no one can see, which the reports are printed from.
+HWND HiddenForm() {
+  HWND found = nullptr;
+  ::EnumThreadWindows(
+      ::GetCurrentThreadId(),
+      [](HWND window, LPARAM place) -> BOOL {
+        wchar_t name[64] = L"";
+        ::GetClassNameW(window, name, 64);
+        if (std::wstring_view(name) == L"OrvikForm") *reinterpret_cast<HWND*>(place) = window;
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+TEST_F(PrintRemote, AnObjectThatGoesLeavesTheWindowToTheOtherThatPrintedFromIt) {
+  ASSERT_TRUE(reuse_);
+  EXPECT_EQ(Print(Project("First object", "1", {"1.25", "0.875"})), S_OK);
+  auto first = std::exchange(reuse_, Create());
+  EXPECT_EQ(Print(Project("Second object", "1", {"1.25", "0.875"})), S_OK);
+  const HWND window = HiddenForm();
+  ASSERT_NE(window, nullptr);
+  first.Reset();
+  EXPECT_EQ(HiddenForm(), window);
+  reuse_.Reset();
+  EXPECT_EQ(HiddenForm(), nullptr);
 }
 
 }  // namespace

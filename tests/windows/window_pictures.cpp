@@ -78,6 +78,24 @@ void TakeSmallestWithAFault(const Camera& camera) {
   camera.Take(form, "small-fault");
 }
 
+// A result out of date beside what is missing, at the usual size and at twice that.
+void TakeHintAndMarks(const Camera& camera) {
+  FormOnScreen form(1, Opened(camera, "efficiency"));
+  const auto take = [&](int dpi, SIZE size, const std::string& name) {
+    ComeToScaling(form.Window(), dpi, size);
+    camera.Take(form, name + "-" + Percent(dpi));
+  };
+  form.Type("txtBasinArea", "30");
+  take(96, {1140, 760}, "out-of-date");
+  form.Type("txtIrrigationArea", "ten");
+  form.Type("txtSolveFor(1)", "");
+  form.Press({VK_RETURN, {}});
+  Require(form.Until([&] { return !form.Text("txtHint").empty(); }), "There is no hint.");
+  take(96, {1140, 760}, "hint");
+  take(96, {900, 600}, "hint-small");
+  take(192, {2280, 1500}, "hint");
+}
+
 // A small window at two scalings.
 void TakeSmallWindow(const Camera& camera, const FormUser& user, const std::string& name) {
   RECT outer{};
@@ -117,6 +135,7 @@ void TakeAll(const Camera& camera) {
     TakeMainWindow(camera, sample);
   }
   TakeSmallestWithAFault(camera);
+  TakeHintAndMarks(camera);
   TakeMapAndAboutBox(camera);
 }
 

@@ -64,10 +64,16 @@ void Convert(Variant& to, const VARIANT& from, VARTYPE type, LCID locale) {
         "The argument is not of the right type.");
 }
 
+// Script hosts nest two or three references. A chain without an end refers to itself.
+constexpr int kMostReferences = 16;
+
 // Follows references to VARIANTs down to the variable itself.
 VARIANTARG* FindVariable(VARIANTARG& given) {
   VARIANTARG* variable = &given;
-  while (variable && variable->vt == (VT_BYREF | VT_VARIANT)) variable = variable->pvarVal;
+  for (int depth = 0; variable && variable->vt == (VT_BYREF | VT_VARIANT); ++depth) {
+    if (depth == kMostReferences) throw ComError(E_INVALIDARG, "An argument refers to itself.");
+    variable = variable->pvarVal;
+  }
   Require(variable, "passed by reference");
   if (variable->vt & VT_BYREF) Require(variable->byref, "passed by reference");
   return variable;

@@ -24,7 +24,7 @@ class DispatchArgument {
  public:
   // Throws ComError: DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW when the value cannot become the
   // parameter's type, DISP_E_PARAMNOTOPTIONAL for an omitted argument, E_POINTER for a reference
-  // to nothing.
+  // to nothing, E_INVALIDARG for one that ends nowhere.
   DispatchArgument(VARIANTARG& given, ParameterType parameter, LCID locale);
 
   // The argument as the method takes it; it points into this object where it is a reference.

@@ -15,8 +15,6 @@ namespace {
 
 using namespace orvik::com;
 
-constexpr const wchar_t* kSource = L"StReuse";
-
 RegistrationScope ScopeOf(std::wstring_view commandLine) {
   if (commandLine == L"user") return RegistrationScope::User;
   if (commandLine == L"machine") return RegistrationScope::Machine;
@@ -43,17 +41,17 @@ STDAPI DllCanUnloadNow() {
 }
 
 STDAPI DllRegisterServer() {
-  return Wall(GUID_NULL, kSource, [] { RegisterServer(DefaultScope()); });
+  return Wall(GUID_NULL, kModuleSource, [] { RegisterServer(DefaultScope()); });
 }
 
 STDAPI DllUnregisterServer() {
-  return Wall(GUID_NULL, kSource, [] { UnregisterServerEverywhere(); });
+  return Wall(GUID_NULL, kModuleSource, [] { UnregisterServerEverywhere(); });
 }
 
 // regsvr32 /n /i:user registers for the present user, /i:machine for all; /u with them takes it
 // back.
 STDAPI DllInstall(BOOL install, LPCWSTR commandLine) {
-  return Wall(GUID_NULL, kSource, [&] {
+  return Wall(GUID_NULL, kModuleSource, [&] {
     const RegistrationScope scope = ScopeOf(commandLine ? commandLine : L"");
     if (install) {
       RegisterServer(scope);

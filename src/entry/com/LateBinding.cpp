@@ -8,8 +8,6 @@
 namespace orvik::com {
 namespace {
 
-constexpr const wchar_t* kSource = L"StReuse";
-
 void RequireReserved(REFIID reserved) {
   if (reserved != IID_NULL) {
     throw ComError(DISP_E_UNKNOWNINTERFACE, "The reserved interface identifier is not null.");
@@ -24,14 +22,14 @@ ITypeInfo& LateBinding::Type() {
 }
 
 HRESULT LateBinding::GetTypeInfoCount(UINT* count) const {
-  return Wall(iid_, kSource, [&] {
+  return Wall(iid_, kModuleSource, [&] {
     Require(count, "pctinfo");
     *count = 1;
   });
 }
 
 HRESULT LateBinding::GetTypeInfo(UINT index, ITypeInfo** type) {
-  return Wall(iid_, kSource, [&] {
+  return Wall(iid_, kModuleSource, [&] {
     Require(type, "ppTInfo");
     *type = nullptr;
     if (index != 0) throw ComError(DISP_E_BADINDEX, "The object has one type description.");
@@ -41,7 +39,7 @@ HRESULT LateBinding::GetTypeInfo(UINT index, ITypeInfo** type) {
 }
 
 HRESULT LateBinding::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, DISPID* ids) {
-  return Wall(iid_, kSource, [&] {
+  return Wall(iid_, kModuleSource, [&] {
     Require(names, "rgszNames");
     Require(ids, "rgDispId");
     RequireReserved(reserved);
@@ -50,7 +48,7 @@ HRESULT LateBinding::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count,
 }
 
 HRESULT LateBinding::Invoke(REFIID reserved, void* object, const DispatchCall& call) {
-  return Wall(iid_, kSource, [&] {
+  return Wall(iid_, kModuleSource, [&] {
     RequireReserved(reserved);
     CallByType(Type(), object, call);
   });

@@ -12,7 +12,7 @@
 namespace orvik::com {
 namespace {
 
-constexpr const wchar_t* kSource = L"StReuse.clsStReuse";
+constexpr const wchar_t* kReuseSource = L"StReuse.clsStReuse";
 
 // A text that goes in and comes back.
 class InOutText {
@@ -54,15 +54,10 @@ void WithWindow(Operation&& operation) {
 
 ReuseObject::ReuseObject() : entry_(LoadedReuseModule()) {}
 
-// A window that a report was printed from has no one left to show it.
-ReuseObject::~ReuseObject() {
-  LoadedReuseModule().UnloadIdleWindow();
-}
-
 STDMETHODIMP ReuseObject::Show(short Mode, BSTR* ParamString1, BSTR* ParamString2,
                                BSTR* ParamString3, short* Result) {
   const ComPtr<IclsStReuse> self(this);  // a host may let go of the object while the window is open
-  return Wall(__uuidof(IclsStReuse), kSource, [&] {
+  return Wall(__uuidof(IclsStReuse), kReuseSource, [&] {
     Require(Result, "Result");
     *Result = 0;
     InOutText p1(ParamString1, "ParamString1");
@@ -77,7 +72,7 @@ STDMETHODIMP ReuseObject::Show(short Mode, BSTR* ParamString1, BSTR* ParamString
 STDMETHODIMP ReuseObject::Print_Remote(VARIANT MyPrinter, short Mode, BSTR ParamString1,
                                        BSTR ParamString2) {
   const ComPtr<IclsStReuse> self(this);
-  return Wall(__uuidof(IclsStReuse), kSource, [&] {
+  return Wall(__uuidof(IclsStReuse), kReuseSource, [&] {
     const auto printer = MakePrinter(MyPrinter);
     WithWindow([&] {
       entry_.Print_Remote(printer.get(), Mode, Utf8FromBstr(ParamString1),
@@ -87,7 +82,7 @@ STDMETHODIMP ReuseObject::Print_Remote(VARIANT MyPrinter, short Mode, BSTR Param
 }
 
 STDMETHODIMP ReuseObject::MakeDirectory(BSTR Path, VARIANT_BOOL* Result) {
-  return Wall(__uuidof(IclsStReuse), kSource, [&] {
+  return Wall(__uuidof(IclsStReuse), kReuseSource, [&] {
     Require(Result, "Result");
     *Result = VARIANT_FALSE;
     *Result = entry_.MakeDirectory(Utf8FromBstr(Path)) ? VARIANT_TRUE : VARIANT_FALSE;

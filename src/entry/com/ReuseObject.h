@@ -22,7 +22,7 @@ class ReuseObject final : public DispatchObject<IclsStReuse> {
   STDMETHODIMP MakeDirectory(BSTR Path, VARIANT_BOOL* Result) override;
 
  private:
-  ~ReuseObject() override;
+  ~ReuseObject() override = default;
 
   orvik::clsStReuse entry_;
 };

@@ -10,7 +10,7 @@
 namespace orvik::com {
 namespace {
 
-constexpr const wchar_t* kSource = L"StReuse.clsIOStream";
+constexpr const wchar_t* kStreamSource = L"StReuse.clsIOStream";
 
 VARIANT_BOOL ToVariantBool(bool value) {
   return value ? VARIANT_TRUE : VARIANT_FALSE;
@@ -28,7 +28,7 @@ orvik::enumIOStreamMode ToMode(::enumIOStreamMode mode) {
 
 template <class Operation>
 HRESULT StreamObject::Answer(VARIANT_BOOL* Result, Operation&& operation) noexcept {
-  return Wall(__uuidof(IclsIOStream), kSource, [&] {
+  return Wall(__uuidof(IclsIOStream), kStreamSource, [&] {
     Require(Result, "Result");
     *Result = VARIANT_FALSE;
     *Result = ToVariantBool(operation());
@@ -37,7 +37,7 @@ HRESULT StreamObject::Answer(VARIANT_BOOL* Result, Operation&& operation) noexce
 
 template <class Operation>
 HRESULT StreamObject::AnswerText(BSTR* Result, Operation&& operation) noexcept {
-  return Wall(__uuidof(IclsIOStream), kSource, [&] {
+  return Wall(__uuidof(IclsIOStream), kStreamSource, [&] {
     Require(Result, "Result");
     *Result = nullptr;
     *Result = Bstr(operation()).Release();

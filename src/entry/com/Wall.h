@@ -5,6 +5,9 @@
 
 namespace orvik::com {
 
+// The origin of an error that belongs to no class.
+inline constexpr const wchar_t* kModuleSource = L"StReuse";
+
 // Maps the exception that is being handled to an HRESULT and leaves its sentence as the thread's
 // error information, with `source` (a ProgID) as the origin and `iid` as the interface.
 //   ComError            its own code

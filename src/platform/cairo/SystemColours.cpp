@@ -9,7 +9,14 @@ std::uint32_t OfSystem(Colour colour) {
   switch (colour) {
     case kWindowBackground:
     case k3DHighlight:
+    case kHighlightText:
       return 0xFFFFFF;
+    case kHighlight:
+      return 0x0078D7;
+    case kInfoBackground:
+      return 0xFFFFE1;
+    case kGreyText:
+      return 0x6D6D6D;
     case kButtonFace:
       return 0xF0F0F0;
     case kButtonShadow:
@@ -20,6 +27,7 @@ std::uint32_t OfSystem(Colour colour) {
       return 0xE3E3E3;
     case kWindowText:
     case kButtonText:
+    case kInfoText:
       return 0x000000;
     default:
       throw std::invalid_argument("There is no such system colour.");

@@ -34,9 +34,12 @@ class HeadlessTextBox : public HeadlessWidget<TextBox> {
   void ForeColor(Colour colour) override { foreColor_ = colour; }
   Colour BackColor() const override { return backColor_; }
   void BackColor(Colour colour) override { backColor_ = colour; }
+  std::string Description() const override { return description_; }
+  void Description(std::string_view description) override { description_ = description; }
 
  private:
   std::string text_;
+  std::string description_;
   bool locked_ = false;
   Colour foreColor_ = kWindowText;
   Colour backColor_ = kWindowBackground;

@@ -1,6 +1,7 @@
 #include "platform/win32/NativeTextBox.h"
 
 #include "base/Text.h"
+#include "platform/win32/Annotation.h"
 #include "platform/win32/GdiSurface.h"
 #include "platform/win32/Reflection.h"
 #include "platform/win32/WideText.h"
@@ -10,18 +11,27 @@ namespace {
 
 constexpr WPARAM kSelectAll = 1;  // Ctrl+A as a character
 
+bool IsWrapped(WidgetStyle style) {
+  return style == WidgetStyle::Wrapped || style == WidgetStyle::Notice;
+}
+
+bool IsBare(WidgetStyle style) {
+  return style == WidgetStyle::Bare || style == WidgetStyle::Notice;
+}
+
 ChildStyle ChildStyleOf(WidgetStyle style) {
-  const bool isWrapped = style == WidgetStyle::Wrapped;
-  const DWORD lines = isWrapped ? ES_MULTILINE | ES_AUTOVSCROLL : ES_AUTOHSCROLL;
-  return {L"EDIT", WS_TABSTOP | lines, style == WidgetStyle::Bare ? 0U : DWORD{WS_EX_CLIENTEDGE}};
+  const DWORD lines = IsWrapped(style) ? ES_MULTILINE | ES_AUTOVSCROLL : ES_AUTOHSCROLL;
+  return {L"EDIT", WS_TABSTOP | lines, IsBare(style) ? 0U : DWORD{WS_EX_CLIENTEDGE}};
 }
 
 }  // namespace
 
 NativeTextBox::NativeTextBox(HINSTANCE module, HWND parent, WidgetStyle style)
     : NativeWidget(module, parent, ChildStyleOf(style)),
-      wrapped_(style == WidgetStyle::Wrapped),
-      bare_(style == WidgetStyle::Bare) {
+      wrapped_(IsWrapped(style)),
+      bare_(IsBare(style)),
+      announced_(style == WidgetStyle::Notice) {
+  if (announced_) AnnounceChanges(Handle());
   ::SendMessageW(Handle(), EM_SETLIMITTEXT, 0, 0);  // as much as the control can hold
   BackColor(backColor_);
 }
@@ -38,6 +48,7 @@ void NativeTextBox::Text(std::string_view text) {
   WindowText(text);
   isSetting_ = false;
   if (wrapped_) ShowScrollBarAsNeeded();
+  if (announced_) Announce(Handle());
   if (OnChange) OnChange();
 }
 
@@ -74,6 +85,12 @@ void NativeTextBox::BackColor(Colour colour) {
   backColor_ = colour;
   background_.reset(::CreateSolidBrush(DeviceColour(colour)));
   Repaint();
+}
+
+void NativeTextBox::Description(std::string_view description) {
+  if (description == description_) return;
+  description_ = description;
+  Describe(Handle(), description);
 }
 
 void NativeTextBox::Repaint() const {

@@ -11,7 +11,7 @@ namespace orvik {
 class NativeTextBox final : public NativeWidget<TextBox> {
  public:
   // Wrapped: the line of text runs over several lines of the screen; line ends that are pasted
-  // become blanks. Bare: without a frame. Any other style has the frame of a field.
+  // become blanks. Bare: without a frame. Notice: both. Any other style has the frame of a field.
   NativeTextBox(HINSTANCE module, HWND parent, WidgetStyle style);
 
   std::string Text() const override;
@@ -22,6 +22,8 @@ class NativeTextBox final : public NativeWidget<TextBox> {
   void ForeColor(Colour colour) override;
   Colour BackColor() const override { return backColor_; }
   void BackColor(Colour colour) override;
+  std::string Description() const override { return description_; }
+  void Description(std::string_view description) override;
 
  protected:
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -47,6 +49,8 @@ class NativeTextBox final : public NativeWidget<TextBox> {
   GdiObject<HBRUSH> background_;
   bool wrapped_;
   bool bare_;
+  bool announced_;  // each new text is
+  std::string description_;
   bool isSetting_ = false;  // the text is being assigned: the control's own notification is ignored
 };
 

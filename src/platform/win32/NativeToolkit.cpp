@@ -66,7 +66,7 @@ std::unique_ptr<ComboBox> NativeToolkit::MakeComboBox(std::string_view name) {
 }
 
 std::unique_ptr<Label> NativeToolkit::MakeLabel(std::string_view name) {
-  return MakeControl<NativeLabel>(name);
+  return MakeControl<NativeLabel>(name, StyleOf(CurrentWindow().Design(), name));
 }
 
 std::unique_ptr<Panel> NativeToolkit::MakePanel(std::string_view name) {
