@@ -284,7 +284,7 @@ std::vector<Hint> Form1::HintsOf(HintSource source) const {
     case HintSource::Save:
       return Joined(files_.SavingHints(), unsaved_ ? unsaved_->Trouble() : std::nullopt);
     case HintSource::File:
-      return Joined(Joined(ownHints_, file_.ReadingHints()), HintOfPoint());
+      return Joined(Joined(ownHints_, file_.Hints()), HintOfPoint());
     case HintSource::Curves:
       return ctrlStormwaterReuse1_.LoadHints();
     case HintSource::Recovery:

@@ -110,10 +110,6 @@ bool FileCommands::ReadUnsaved(std::string_view text, std::string_view formerPat
   return isRead;
 }
 
-std::vector<Hint> FileCommands::Hints() const {
-  return file_.Hints();
-}
-
 bool FileCommands::ReadFile(std::string_view text) {
   const std::string project(text);
   if (project.empty()) {

@@ -99,10 +99,6 @@ class FileCommands {
   // Raised when the fields hold another project, or what could be read of one.
   std::function<void()> OnProjectReplaced;
 
-  // What is to be said of the project that was opened last (see ProjectFile): known once it is
-  // opened, or once that failed.
-  std::vector<Hint> Hints() const;
-
   const std::string& CurrentPath() const { return currentPath_; }  // empty: untitled
 
  private:

@@ -66,12 +66,6 @@ void ProjectFile::TakeOverTexts(const ProjectReading& reading,
   }
 }
 
-std::vector<Hint> ProjectFile::Hints() const {
-  std::vector<Hint> hints = hints_;
-  hints.insert(hints.end(), chart_.LoadHints().begin(), chart_.LoadHints().end());
-  return hints;
-}
-
 void ProjectFile::ClearData() {
   hints_.clear();
   const auto empty = [this](bool description) {

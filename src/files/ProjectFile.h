@@ -36,12 +36,9 @@ class ProjectFile {
   // list chooses nothing.
   bool ReadDataFromBuffer(clsIOStream& stream);
 
-  // What is to be said of the project that was read last and of the station's curves as they are
-  // now. Of a stream on a text rather than a file, only its content is spoken of.
-  std::vector<Hint> Hints() const;
-
-  // The first part of them, and that it is answered.
-  const std::vector<Hint>& ReadingHints() const { return hints_; }
+  // What is to be said of the project that was read last, until it is answered. Of a stream on a
+  // text rather than a file, only its content is spoken of.
+  const std::vector<Hint>& Hints() const { return hints_; }
   void ForgetHints() { hints_.clear(); }
 
   // Whether the project that was read last had a kept point; see design/KeptPoint.

@@ -11,8 +11,8 @@ namespace {
 
 using test::ProjectText;
 using testing::Contains;
-
 using testing::IsEmpty;
+using testing::StartsWith;
 
 class UnsavedWorkTest : public test::FormFixture {
  protected:
@@ -32,6 +32,8 @@ class UnsavedWorkTest : public test::FormFixture {
     form_->KeepRecoveryCopies(copies_);
   }
   std::vector<RecoveryOffer> Offers() { return form_->Unsaved()->Offers(); }
+  // On the hint line.
+  std::string Said() { return toolkit_.Text("txtHint"); }
   std::string NameIn(const RecoveryOffer& offer) { return test::Lines(offer.text).at(2); }
 
   std::string copies_ = WithEndingSeparator(folder_ / "Recovery");
@@ -138,6 +140,7 @@ TEST_F(UnsavedWorkTest, AfterASaveThatFailedClosingKeepsTheWork) {
   EXPECT_THAT(form_->Hints(),
               Contains(Hint{HintId::SaveFailed,
                             {folder_ / "no such folder/Lake.kav", "its folder does not exist"}}));
+  EXPECT_THAT(Said(), StartsWith("The project was not saved: "));
   toolkit_.CloseByFrame("Form1");
   StartAgain();
   ASSERT_EQ(Offers().size(), 1U);
@@ -200,6 +203,31 @@ TEST_F(UnsavedWorkTest, RestoringKeepsTheWorkThatIsInTheWay) {
   ASSERT_TRUE(form_->Unsaved()->Restore(Offers().at(0).id));
   ASSERT_EQ(Offers().size(), 1U);
   EXPECT_EQ(NameIn(Offers()[0]), "Pond");
+}
+
+TEST_F(UnsavedWorkTest, TheFileMenuRestoresTheNewestWork) {
+  EXPECT_FALSE(toolkit_.IsVisible("mnuFile_Restore")) << "there is nothing to restore";
+  Type("txtProjectName", "Lake");
+  StartAgain();
+  EXPECT_TRUE(toolkit_.IsVisible("mnuFile_Restore"));
+  Click("mnuFile_Restore");
+  EXPECT_EQ(Text("txtProjectName"), "L");
+  EXPECT_EQ(toolkit_.Caption("lblSaved"), "Unsaved changes");
+  EXPECT_FALSE(toolkit_.IsVisible("mnuFile_Restore"));
+  EXPECT_THAT(Said(), IsEmpty());
+}
+
+TEST_F(UnsavedWorkTest, TheFileMenuDiscardsKeptWorkOnlyAfterAQuestion) {
+  Type("txtProjectName", "Lake");
+  StartAgain();
+  desktop_.AnswerYes(false);
+  Click("mnuFile_DiscardKept");
+  EXPECT_EQ(Offers().size(), 1U);
+  desktop_.AnswerYes(true);
+  Click("mnuFile_DiscardKept");
+  EXPECT_THAT(Offers(), IsEmpty());
+  EXPECT_FALSE(toolkit_.IsVisible("mnuFile_DiscardKept"));
+  EXPECT_THAT(Said(), IsEmpty());
 }
 
 TEST_F(UnsavedWorkTest, WhatIsGoneIsNotRestoredAndChangesNothing) {

@@ -18,6 +18,7 @@ using test::ProjectLines;
 using test::ProjectText;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAreArray;
 
 class ProjectHints : public test::FormFixture {
  protected:
@@ -26,12 +27,12 @@ class ProjectHints : public test::FormFixture {
     folder_.Write("Pond.kav", bytes);
     opened_ = OpenProjectFile(path_, folder_.Path());
     form_->Files().OpenProject(path_);
-    EXPECT_EQ(form_->Files().Hints(), opened_.hints);
+    EXPECT_THAT(form_->Hints(), UnorderedElementsAreArray(opened_.hints));
     return opened_.hints;
   }
   std::vector<Hint> HintsOfText(const std::string& text) {
     form_->Files().ReadFile(text);
-    return form_->Files().Hints();
+    return form_->Hints();
   }
   static std::string With(std::size_t line, const std::string& text) {
     auto lines = ProjectLines();
@@ -128,10 +129,25 @@ TEST_F(ProjectHints, CurvesThatAreMissingAreSaidWithTheirPath) {
   EXPECT_THAT(HintsOf(ProjectText(lines)), ElementsAre(Hint{HintId::CurveFileMissing, {file}}));
 }
 
+TEST_F(ProjectHints, TheHintLineShowsThemUntilTheProjectIsSaved) {
+  HintsOf(With(kStationNameLine, "My place"));
+  EXPECT_NE(Text("txtHint").find("\"My place\""), std::string::npos);
+  form_->Files().SaveFile(folder_ / "Other.kav");
+  EXPECT_EQ(Text("txtHint"), "") << "name and number agree in what was saved";
+}
+
+TEST_F(ProjectHints, TheHintLineSaysWhyThereAreNoCurvesAsLongAsThereAreNone) {
+  Choose("cmbClimateStation", "Key West");
+  EXPECT_THAT(Text("txtHint"),
+              testing::StartsWith("No design curves are loaded: there is no file"));
+  Choose("cmbClimateStation", "Tampa");
+  EXPECT_EQ(Text("txtHint"), "");
+}
+
 TEST_F(ProjectHints, ANewProjectHasNone) {
   HintsOf(With(kStationNameLine, "My place"));
   form_->Files().New();
-  EXPECT_THAT(form_->Files().Hints(), IsEmpty());
+  EXPECT_THAT(form_->Hints(), IsEmpty());
 }
 
 }  // namespace
