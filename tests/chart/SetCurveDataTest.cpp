@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "ChartFixture.h"
+#include "base/Paths.h"
 #include "base/RuntimeErrors.h"
 #include "engine/ClimateStations.h"
 #include "engine/CurveLoading.h"
@@ -43,7 +44,8 @@ TEST_F(SetCurveData, SaysWhyNothingIsLoaded) {
   EXPECT_EQ(chart_.LoadHints()[0].id, HintId::CurveFolderMissing);
   Load(LogarithmicCurves());
   EXPECT_TRUE(chart_.LoadHints().empty());
-  const std::string path = folder_.Write("KAV Data/Tampa.crv", "cut off");
+  folder_.Write("KAV Data/Tampa.crv", "cut off");
+  const std::string path = folder_ / "KAV Data" + kPathSeparator + "Tampa.crv";
   chart_.SetCurveData(kTampa);
   EXPECT_EQ(chart_.LoadHints(), (std::vector<Hint>{{HintId::CurveFileEndsBeforeCurves, {path}}}));
   chart_.Clear();

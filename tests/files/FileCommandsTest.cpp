@@ -188,10 +188,12 @@ TEST_F(FileMenu, AFailedSaveIsSaidWithItsReason) {
 // --- A file that Open could not read whole ---
 
 TEST_F(FileMenu, AForeignFileIsKeptBesideItBeforeASaveOverwritesIt) {
-  const std::string path = folder_.Write("Letters/letter.txt", "Dear Sir,\r\n");
+  folder_.Write("Letters/letter.txt", "Dear Sir,\r\n");
+  const std::string letters = folder_ / "Letters" + kPathSeparator;
+  const std::string path = letters + "letter.txt";
   Open(path);
   Click("mnuFile_Save");
-  const std::string kept = folder_ / "Letters/letter (kept).txt";
+  const std::string kept = letters + "letter (kept).txt";
   EXPECT_EQ(ReadBytes(kept), "Dear Sir,\r\n");
   EXPECT_EQ(test::Lines(ReadBytes(path)).front(), "KAV3.3.01");
   EXPECT_THAT(SavingHints(), ElementsAre(Hint{HintId::ForeignFileKept, {path, kept}}));

@@ -12,7 +12,7 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-Font Arial(int height) {
+Font ArialOf(int height) {
   Font font;
   font.pixelHeight = height;
   return font;
@@ -68,8 +68,8 @@ TEST(SvgSurface, HasSizeAndTitle) {
 // "0" at 20 pixels is 11.1 wide, 12 whole pixels; the baseline lies 0.9053 of 20 below the top.
 TEST(SvgSurface, WritesTextAsText) {
   const std::string svg = Svg([](Surface& surface) {
-    surface.WriteText({10, 20}, "0", Arial(20), 0x0000FF);
-    Font upwards = Arial(20);
+    surface.WriteText({10, 20}, "0", ArialOf(20), 0x0000FF);
+    Font upwards = ArialOf(20);
     upwards.escapement = 900;
     upwards.bold = true;
     surface.WriteText({30, 40}, "a<b & \"c\"\x01", upwards, kBlack);

@@ -1,4 +1,5 @@
 // The window with its real controls and the command line agree on every field of a project.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -30,10 +31,15 @@ class SameFields : public testing::Test {
     const auto run = test::RunKavWith({"calc", path, "--json"}, kDataFolder);
     const auto fields = nlohmann::json::parse(run.out);
     for (const auto& [name, value] : fields.items()) {
-      if (name == "helpTopic") continue;
+      if (name == "helpTopic" || name == "hints") continue;
       EXPECT_EQ(InWindow(name), value.get<std::string>()) << name << " of " << path;
     }
     EXPECT_EQ(form_.Fields().txtErrMsg.ExtendedHelpTopic(), fields["helpTopic"]);
+    std::vector<std::string> said;
+    for (const Hint& hint : form_.Hints()) said.push_back(Sentence(hint));
+    EXPECT_THAT(fields["hints"].get<std::vector<std::string>>(),
+                testing::UnorderedElementsAreArray(said))
+        << path;
   }
 
   std::string InWindow(const std::string& name) {

@@ -11,7 +11,7 @@ namespace orvik {
 namespace {
 
 constexpr int kMostTries = 10;
-constexpr mode_t kPrivateMode = 0600;
+constexpr mode_t kLockMode = 0600;
 
 // False where somebody has removed the file since it was opened: others see another one, or none.
 bool IsStillThere(int file, const std::string& path) {
@@ -26,7 +26,7 @@ bool IsStillThere(int file, const std::string& path) {
 std::unique_ptr<FileLock> FileLock::Take(const std::string& path) {
   if (!IsWholeName(path)) return nullptr;
   for (int i = 0; i < kMostTries; ++i) {
-    const int file = open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kPrivateMode);
+    const int file = open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kLockMode);
     if (file < 0) return nullptr;
     const bool isMine = flock(file, LOCK_EX | LOCK_NB) == 0;
     if (isMine && IsStillThere(file, path)) {

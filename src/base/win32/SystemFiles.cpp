@@ -58,6 +58,13 @@ std::uint64_t TicksOf(const FILETIME& time) {
   return std::uint64_t{time.dwHighDateTime} << 32U | time.dwLowDateTime;
 }
 
+bool IsOlderThan(std::chrono::seconds age, const FILETIME& written) {
+  FILETIME now{};
+  GetSystemTimeAsFileTime(&now);
+  const std::uint64_t ticks = static_cast<std::uint64_t>(age.count()) * kTicksPerSecond;
+  return TicksOf(now) >= TicksOf(written) + ticks;
+}
+
 // Other reparse points (files kept in a cloud, for example) are files of this folder.
 bool IsSymbolicLink(const fs::path& path) {
   WIN32_FIND_DATAW found{};
@@ -117,16 +124,15 @@ OverwriteOutcome OverwriteFile(const fs::path& path, std::string_view bytes) {
   return file.Close() && isWritten ? OverwriteOutcome::Written : OverwriteOutcome::Broken;
 }
 
-// A file that is being written is shared with nobody: it cannot be opened here.
+// A file that is being written is shared with nobody: it cannot be opened here. A young one is not
+// even opened: its writer is about to rename it, which an open file would not let him.
 void RemoveAbandoned(const fs::path& path, std::chrono::seconds age) {
-  const FileHandle file(CreateFileW(path.c_str(), DELETE | FILE_READ_ATTRIBUTES, 0, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
-  FILETIME written{};
-  if (!file.IsOpen() || !GetFileTime(file.Get(), nullptr, nullptr, &written)) return;
-  FILETIME now{};
-  GetSystemTimeAsFileTime(&now);
-  const std::uint64_t ticks = static_cast<std::uint64_t>(age.count()) * kTicksPerSecond;
-  if (TicksOf(now) < TicksOf(written) + ticks) return;
+  WIN32_FILE_ATTRIBUTE_DATA found{};
+  if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &found)) return;
+  if (!IsOlderThan(age, found.ftLastWriteTime)) return;
+  const FileHandle file(CreateFileW(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+  if (!file.IsOpen()) return;
   FILE_DISPOSITION_INFO remove{TRUE};
   SetFileInformationByHandle(file.Get(), FileDispositionInfo, &remove, sizeof(remove));
 }

@@ -9,7 +9,7 @@ namespace orvik {
 namespace {
 
 constexpr int kResolution = 1200;  // pixels per inch
-constexpr double kPointsPerPixel = 72.0 / kResolution;
+constexpr double kPointsPerPrinterPixel = 72.0 / kResolution;
 constexpr int kUnprintable = kResolution / 4;  // a quarter of an inch, as on common printers
 
 Size PixelsOf(PaperFormat paper) {
@@ -30,12 +30,13 @@ std::string IsoText(const ClockTime& time) {
 
 CairoPrinter::CairoPrinter(std::string& bytes, PaperFormat paper, const ClockTime& date)
     : paper_(PixelsOf(paper)),
-      pdf_(cairo_pdf_surface_create_for_stream(AppendBytes, &bytes, paper_.width * kPointsPerPixel,
-                                               paper_.height * kPointsPerPixel)) {
+      pdf_(cairo_pdf_surface_create_for_stream(AppendBytes, &bytes,
+                                               paper_.width * kPointsPerPrinterPixel,
+                                               paper_.height * kPointsPerPrinterPixel)) {
   CheckCairo(pdf_.get());
   cairo_pdf_surface_set_metadata(pdf_.get(), CAIRO_PDF_METADATA_CREATE_DATE, IsoText(date).c_str());
   surface_ = std::make_unique<CairoSurface>(pdf_.get());
-  cairo_scale(surface_->Context(), kPointsPerPixel, kPointsPerPixel);
+  cairo_scale(surface_->Context(), kPointsPerPrinterPixel, kPointsPerPrinterPixel);
 }
 
 int CairoPrinter::Resolution() const {
