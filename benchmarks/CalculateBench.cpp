@@ -44,7 +44,7 @@ Project ProjectWith(const Given& given) {
 void BM_Calculate(benchmark::State& state, const Given& given) {
   const FramedCurves curves = TampasCurves();
   const Project project = ProjectWith(given);
-  for (auto _ : state) {
+  for ([[maybe_unused]] const auto _ : state) {
     Result result = Calculate(project, &curves);
     if (!result.messages.empty()) state.SkipWithError("not solved");
     benchmark::DoNotOptimize(result);
@@ -62,7 +62,7 @@ void BM_ThroughTheForm(benchmark::State& state, const Given& given) {
   for (const FieldDesign& field : Fields()) fields.Box(field.id).Text(project.Text(field.id));
   FormBinding binding(fields, form.Chart());
   SolveForWorkflow workflow(fields, form.Chart(), binding);
-  for (auto _ : state) workflow.ReCalc();
+  for ([[maybe_unused]] const auto _ : state) workflow.ReCalc();
   if (!fields.txtErrMsg.Text().empty()) state.SkipWithError("not solved");
 }
 

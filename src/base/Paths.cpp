@@ -1,5 +1,7 @@
 #include "base/Paths.h"
 
+#include <type_traits>
+
 namespace orvik {
 
 bool IsWholeName(std::string_view path) {
@@ -8,6 +10,17 @@ bool IsWholeName(std::string_view path) {
 
 std::filesystem::path PathFromUtf8(std::string_view text) {
   return {std::u8string(text.begin(), text.end())};
+}
+
+std::string AsciiOf(const std::filesystem::path& path) {
+  constexpr unsigned kLastAscii = 0x7F;
+  std::string text;
+  for (const auto unit : path.native()) {
+    if (static_cast<std::make_unsigned_t<std::filesystem::path::value_type>>(unit) > kLastAscii)
+      return {};
+    text += static_cast<char>(unit);
+  }
+  return text;
 }
 
 std::string PathToUtf8(const std::filesystem::path& path) {

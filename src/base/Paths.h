@@ -13,6 +13,10 @@ inline constexpr char kPathSeparator = std::filesystem::path::preferred_separato
 std::filesystem::path PathFromUtf8(std::string_view text);
 std::string PathToUtf8(const std::filesystem::path& path);
 
+// The path as text where it consists of ASCII alone, else empty: for names of any files, which on
+// Windows need not be text at all. Never throws where PathToUtf8 would.
+std::string AsciiOf(const std::filesystem::path& path);
+
 // False for a path with a NUL inside: the system would cut the path there and use another file.
 bool IsWholeName(std::string_view path);
 

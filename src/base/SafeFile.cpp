@@ -77,7 +77,7 @@ void RemoveAbandonedFrom(const fs::path& folder) {
   std::error_code error;
   fs::directory_iterator file(folder.empty() ? fs::path(".") : folder, error);
   for (; !error && file != fs::directory_iterator(); file.increment(error)) {
-    if (IsRandomName(PathToUtf8(file->path().filename()))) {
+    if (IsRandomName(AsciiOf(file->path().filename()))) {
       RemoveAbandoned(file->path(), kAbandonedAfter);
     }
   }

@@ -39,8 +39,8 @@ struct WriteOutcome {
 // Writes the bytes to a new file beside `path`, under a random name that is opened exclusively, so
 // that two programs that write into one folder never share a file; flushes it; and renames it over
 // `path`, or over what `path` links to, whether or not it exists yet. The file keeps its
-// permissions and its owner. After a fault the old file is unchanged and nothing new is left
-// behind.
+// permissions and its owner; on Windows it has those that its folder gives. After a fault the old
+// file is unchanged and nothing new is left behind.
 //
 // Where the file cannot be replaced but can be written (another program holds it open; it belongs
 // to somebody else), a copy of it is laid beside it, and then it is written itself. If that fails

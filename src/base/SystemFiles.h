@@ -28,8 +28,9 @@ enum class Owner : std::uint8_t {
 
 // Makes a file that did not exist before, opened exclusively so that no other program can write
 // into it and locked while it is written, and writes the bytes through to the disk. Where there is
-// a file at `like`, the new one gets its permissions and its owner; at no time can more people read
-// it than that. Unless it is Written, nothing is left behind.
+// a file at `like`, the new one gets its permissions and its owner, and at no time can more people
+// read it than that; on Windows it gets the permissions that its folder gives. Unless it is
+// Written, nothing is left behind.
 NewFileOutcome WriteNewFile(const std::filesystem::path& path, std::string_view bytes,
                             const std::filesystem::path& like, Owner owner = Owner::MustBeKept);
 

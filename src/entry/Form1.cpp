@@ -26,7 +26,7 @@ constexpr std::array kOwnSources{HintSource::Save, HintSource::File, HintSource:
 
 constexpr std::string_view kDiscardQuestion =
     "Projects that were not saved are kept and can be restored. Discard them all? They cannot be "
-    "brought back then.";
+    "brought back afterwards.";
 constexpr std::int16_t kInHostProject = 2;
 constexpr std::int16_t kSave = 1;
 constexpr std::int16_t kDiscard = 0;
@@ -85,6 +85,8 @@ Form1::Form1(Toolkit& toolkit, Desktop& desktop, const std::string& dataFolder)
 void Form1::FollowProject() {
   files_.OnSaving = [this] {
     triggers_.ProcessChanges();
+    const bool givesResults = mode_ == kInHostProject;
+    if (givesResults && triggers_.IsAnyOutOfDate()) workflow_.ReCalc();
     interactive_.PlaceAsStored();
   };
   files_.OnSaved = [this] { AnswerSaved(); };
@@ -103,6 +105,7 @@ void Form1::FollowProject() {
 // What was remarkable about the file that was read is not so of the one that is written.
 void Form1::AnswerSaved() {
   savedAt_ = desktop_.Now();
+  ownHints_.clear();
   file_.ForgetHints();
   if (unsaved_) unsaved_->AnswerSaved();
   ShowState();

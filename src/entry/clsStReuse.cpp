@@ -51,7 +51,7 @@ std::int16_t clsStReuse::Show(std::int16_t Mode, std::string&, std::string& Para
   const bool isLeftOver = module_.HasWindow();
   Form1& window = module_.Window();
   const UnloadAtEnd unload(module_);
-  if (isLeftOver) window.Files().ClearData();  // it holds the project that was printed
+  if (isLeftOver) window.Files().New();  // it holds the project that was printed
   window.Files().DefaultFolder(startFolder);
   window.Mode(Mode);
   Load(window, ParamString2, ParamString3);

@@ -163,7 +163,8 @@ bool FileCommands::SaveFile(const std::string& path) {
 bool FileCommands::WriteTo(const std::string& path, const std::string& text) {
   const auto fault = FindTargetFault(path);
   if (fault) return Say({HintId::SaveFailed, {path, std::string(ReasonOf(*fault))}});
-  if (isForeign_ && IsSameFile(path, currentPath_) && !KeepForeignFile(path)) return false;
+  const bool isForeign = isForeign_ && IsSameFile(path, currentPath_) && FileExists(path);
+  if (isForeign && !KeepForeignFile(path)) return false;
   const WriteOutcome outcome = WriteFileSafely(path, text);
   if (outcome.IsWritten()) {
     if (!outcome.oldCopy.empty()) Say({HintId::SavedButCopyLeft, {outcome.oldCopy}});

@@ -17,7 +17,6 @@ class Desktop;
 class ProjectFile;
 class SolveForWorkflow;
 struct FileDialog;
-struct Hint;
 struct ProjectForm;
 
 class FileCommands {

@@ -13,6 +13,13 @@
 #include "stream/clsIOStream.h"
 
 namespace orvik {
+namespace {
+
+bool IsOfStation(const Hint& hint) {
+  return hint.id == HintId::StationContradiction || hint.id == HintId::StationNumberUnknown;
+}
+
+}  // namespace
 
 bool ProjectFile::SaveDataInBuffer(clsIOStream& stream) const {
   return WriteProject(stream, binding_.Snapshot());
@@ -27,6 +34,7 @@ bool ProjectFile::ReadDataFromBuffer(clsIOStream& stream) {
     return false;
   }
   TakeOver(reading);
+  stationRead_ = form_.cmbClimateStation->ListIndex();
   if (!reading.isWhole) return false;
   workflow_.ReCalc();
   form_.keptPoint = PointToKeep(binding_.Snapshot(), reading.OwnPoint());
@@ -64,6 +72,12 @@ void ProjectFile::TakeOverTexts(const ProjectReading& reading,
       form_.Box(field.id).Text(*text);
     }
   }
+}
+
+std::vector<Hint> ProjectFile::Hints() const {
+  std::vector<Hint> hints = hints_;
+  if (form_.cmbClimateStation->ListIndex() != stationRead_) std::erase_if(hints, IsOfStation);
+  return hints;
 }
 
 void ProjectFile::ClearData() {

@@ -11,7 +11,6 @@ namespace orvik {
 
 class Desktop;
 class FormBinding;
-class SolveForWorkflow;
 class clsIOStream;
 class ctrlStormwaterReuse;
 enum class FieldKind : std::uint8_t;
@@ -36,9 +35,10 @@ class ProjectFile {
   // list chooses nothing.
   bool ReadDataFromBuffer(clsIOStream& stream);
 
-  // What is to be said of the project that was read last, until it is answered. Of a stream on a
-  // text rather than a file, only its content is spoken of.
-  const std::vector<Hint>& Hints() const { return hints_; }
+  // What is to be said of the project that was read last, until it is answered: of its station,
+  // until another one is chosen. Of a stream on a text rather than a file, only its content is
+  // spoken of.
+  std::vector<Hint> Hints() const;
   void ForgetHints() { hints_.clear(); }
 
   // Whether the project that was read last had a kept point; see design/KeptPoint.
@@ -57,6 +57,7 @@ class ProjectFile {
   SolveForWorkflow& workflow_;
   Desktop& desktop_;
   std::vector<Hint> hints_;
+  std::int16_t stationRead_ = -1;  // the list's index
   bool hadKeptPoint_ = false;
 };
 

@@ -149,7 +149,7 @@ std::vector<std::string> RecoveryCopy::Ids() const {
   std::error_code error;
   fs::directory_iterator file(PathFromUtf8(folder_), error);
   for (; !error && file != fs::directory_iterator(); file.increment(error)) {
-    std::string id = PathToUtf8(file->path().stem());
+    std::string id = AsciiOf(file->path().stem());
     if (file->path().extension() == ".kav" && IsId(id)) ids.push_back(std::move(id));
   }
   return ids;

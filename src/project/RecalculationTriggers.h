@@ -62,7 +62,6 @@ class RecalculationTriggers {
   };
 
   static std::vector<Entry> EntriesOf(ProjectForm& form);
-  void WatchEntries();
   void WatchNormalized();
   void WatchDescription();
   void WatchLists();

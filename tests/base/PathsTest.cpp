@@ -24,5 +24,17 @@ TEST(Paths, FileNameAndFolderOfAPath) {
   }
 }
 
+TEST(AsciiOf, IsEmptyWhereTheNameIsMoreThanAscii) {
+  EXPECT_EQ(AsciiOf("~kav-0f.tmp"), "~kav-0f.tmp");
+  EXPECT_EQ(AsciiOf(PathFromUtf8("~kav-é.tmp")), "");
+}
+
+#ifdef _WIN32
+// Names of files on Windows can have half of a character outside of the basic plane.
+TEST(AsciiOf, TakesNamesThatAreNoText) {
+  EXPECT_EQ(AsciiOf(std::filesystem::path(L"a\xD800")), "");
+}
+#endif
+
 }  // namespace
 }  // namespace orvik

@@ -130,8 +130,8 @@ TEST_F(Calc, AHintStandsBesideTheResult) {
   const KavRun run = Calculate(ProjectText(lines), true);
   EXPECT_EQ(run.exitCode, 0);
   const std::string hint =
-      "The station's number 22 in the project is Tampa, but its name there is \"My place\". The "
-      "number counts: the curves are those of Tampa. Choose the station again if that is wrong.";
+      "Station number 22 is Tampa, but the project names it \"My place\". The number counts: the "
+      "curves are those of Tampa. Choose the station again if that is wrong.";
   EXPECT_EQ(run.err, "hint: " + hint + "\n");
   const auto fields = nlohmann::json::parse(run.out);
   EXPECT_THAT(fields["hints"], testing::ElementsAre(hint));

@@ -5,6 +5,8 @@
 namespace orvik {
 namespace {
 
+constexpr std::int16_t kRightArrow = 39;
+
 using test::FormFixture;
 
 class Form1Test : public FormFixture {};
@@ -144,6 +146,23 @@ TEST_F(Form1Test, WhatCannotBeCalculatedIsNotPrintedOutOfDate) {
   EXPECT_EQ(Text("txtEquivalentImperviousArea"), "5");
   form_->PrintCurrentProject();
   EXPECT_EQ(Text("txtEquivalentImperviousArea"), "");
+  EXPECT_EQ(Message(), "The basin area is not numeric.");
+}
+
+// The EIA is that of the basin before, and with it the site values of a point that is moved.
+TEST_F(Form1Test, AHostGetsNoResultsThatAreOutOfDate) {
+  form_->Mode(2);
+  TypeSite("Orlando");
+  Type("txtR", "3");
+  Type("txtV", "5");
+  Enter("txtV");
+  Type("txtBasinArea", "abc");
+  Enter("txtBasinArea");
+  form_->Chart().KeyDown(kRightArrow);
+  ASSERT_NE(Text("txtSolveFor(1)"), "");
+  std::string text;
+  EXPECT_TRUE(form_->Files().SaveText(text));
+  EXPECT_EQ(Text("txtSolveFor(1)"), "");
   EXPECT_EQ(Message(), "The basin area is not numeric.");
 }
 

@@ -187,6 +187,16 @@ TEST_F(FileMenu, AFailedSaveIsSaidWithItsReason) {
 
 // --- A file that Open could not read whole ---
 
+TEST_F(FileMenu, AForeignFileThatIsGoneNeedsNoKeeping) {
+  const std::string path = folder_.Write("letter.txt", "Dear Sir,\r\n");
+  Open(path);
+  std::filesystem::remove(PathFromUtf8(path));
+  desktop_.AnswerFile(path);
+  Click("mnuFile_Save");
+  EXPECT_EQ(test::Lines(ReadBytes(path)).front(), "KAV3.3.01");
+  EXPECT_THAT(SavingHints(), ElementsAre());
+}
+
 TEST_F(FileMenu, AForeignFileIsKeptBesideItBeforeASaveOverwritesIt) {
   folder_.Write("Letters/letter.txt", "Dear Sir,\r\n");
   const std::string letters = folder_ / "Letters" + kPathSeparator;

@@ -144,6 +144,14 @@ TEST_F(ProjectHints, TheHintLineSaysWhyThereAreNoCurvesAsLongAsThereAreNone) {
   EXPECT_EQ(Text("txtHint"), "");
 }
 
+TEST_F(ProjectHints, WhatIsSaidOfTheStationEndsWithTheChoiceOfAnother) {
+  HintsOf(With(kStationNameLine, "My place"));
+  Choose("cmbClimateStation", "Orlando");
+  EXPECT_THAT(
+      form_->Hints(),
+      testing::Not(testing::Contains(testing::Field(&Hint::id, HintId::StationContradiction))));
+}
+
 TEST_F(ProjectHints, ANewProjectHasNone) {
   HintsOf(With(kStationNameLine, "My place"));
   form_->Files().New();
