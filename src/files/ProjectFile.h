@@ -44,6 +44,9 @@ class ProjectFile {
   // Whether the project that was read last had a kept point; see design/KeptPoint.
   bool HadKeptPoint() const { return hadKeptPoint_; }
 
+  // Whether the file of that project may have lost what follows its lines: see ProjectReading.
+  bool BlockEndedEarly() const { return blockEndedEarly_; }
+
   // Every field to its empty default: an empty project.
   void ClearData();
 
@@ -58,6 +61,7 @@ class ProjectFile {
   Desktop& desktop_;
   std::vector<Hint> hints_;
   bool hadKeptPoint_ = false;
+  bool blockEndedEarly_ = false;
 };
 
 }  // namespace orvik
