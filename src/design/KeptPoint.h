@@ -9,8 +9,9 @@
 
 namespace orvik {
 
-// The point that the project has to keep: the one that its file holds, unless it is shown. Nothing
-// where the file's texts are no numbers.
+// The point that the project has to keep: the one that its file holds, unless it is shown. A text
+// counts for the number that it begins with, as where the curves are there: "0.15x" is kept as
+// 0.15. Nothing where a text begins with none, or with one that is too large.
 std::optional<StoredPoint> PointToKeep(const Project& project,
                                        const std::optional<StoredPoint>& stored);
 

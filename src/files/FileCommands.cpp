@@ -86,7 +86,7 @@ bool FileCommands::LoadFile(std::string_view path) {
     stream.CloseFile();
     currentPath_ = name;
     currentFolder_ = FolderOf(name);
-    isForeign_ = !isRead;
+    isForeign_ = !isRead || file_.BlockEndedEarly();
     ShowFileName(name);
     return isRead;
   });

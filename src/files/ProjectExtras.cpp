@@ -1,6 +1,7 @@
 #include "files/ProjectExtras.h"
 
 #include <string_view>
+#include <utility>
 
 #include "base/Text.h"
 #include "stream/clsIOStream.h"
@@ -27,19 +28,19 @@ bool WriteExtras(clsIOStream& stream, const ProjectExtras& extras) {
 }
 
 // A file never reports a failed read; so the end is asked for first.
-ProjectExtras ReadExtras(clsIOStream& stream) {
+ExtrasReading ReadExtras(clsIOStream& stream) {
   ProjectExtras extras;
   std::string line;
   if (stream.EndOfFile() || !stream.ScanString(line) || Trim(line) != kHeading) return {};
   while (!stream.EndOfFile() && stream.ScanString(line)) {
-    if (Trim(line) == kClosing) return extras;
+    if (Trim(line) == kClosing) return {std::move(extras)};
     const auto separator = line.find(kSeparator);
     if (separator == std::string::npos) continue;
     const std::string_view text = std::string_view(line).substr(separator + 1);
     extras.insert_or_assign(std::string(Trim(std::string_view(line).substr(0, separator))),
                             std::string(Trim(text)));
   }
-  return {};
+  return {{}, false};
 }
 
 }  // namespace orvik

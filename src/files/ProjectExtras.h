@@ -17,8 +17,13 @@ using ProjectExtras = std::map<std::string, std::string, std::less<>>;
 // False at the first failed write.
 bool WriteExtras(clsIOStream& stream, const ProjectExtras& extras);
 
+struct ExtrasReading {
+  ProjectExtras entries;
+  bool isWhole = true;  // false where a heading has no closing line
+};
+
 // The entries that follow in the stream. None where something else follows, or where they have no
 // closing line: half of them could be half a number.
-ProjectExtras ReadExtras(clsIOStream& stream);
+ExtrasReading ReadExtras(clsIOStream& stream);
 
 }  // namespace orvik

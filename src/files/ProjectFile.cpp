@@ -29,6 +29,7 @@ bool ProjectFile::ReadDataFromBuffer(clsIOStream& stream) {
   const ProjectReading reading = ReadProject(stream);
   hints_ = HintsOf(reading, stream.FileName());
   hadKeptPoint_ = reading.keptPoint.has_value();
+  blockEndedEarly_ = reading.blockEndsEarly;
   if (reading.refusal.id != MessageId::None) {
     desktop_.ShowError(Sentence(reading.refusal));
     return false;

@@ -44,6 +44,9 @@ class ProjectFile {
   // Whether the project that was read last had a kept point; see design/KeptPoint.
   bool HadKeptPoint() const { return hadKeptPoint_; }
 
+  // Whether the file of that project may have lost what follows its lines: see ProjectReading.
+  bool BlockEndedEarly() const { return blockEndedEarly_; }
+
   // Every field to its empty default: an empty project.
   void ClearData();
 
@@ -59,6 +62,7 @@ class ProjectFile {
   std::vector<Hint> hints_;
   std::int16_t stationRead_ = -1;  // the list's index
   bool hadKeptPoint_ = false;
+  bool blockEndedEarly_ = false;
 };
 
 }  // namespace orvik

@@ -56,6 +56,7 @@ std::vector<Hint> HintsOf(const ProjectReading& reading, const std::string& path
     if (!reading.isWhole) add(WhyUnreadable(reading, path));
     if (reading.isWhole && reading.endsWithinLine)
       hints.push_back({HintId::PossiblyCutShort, {path}});
+    if (reading.blockEndsEarly) hints.push_back({HintId::BlockEndsEarly, {path}});
     if (reading.lineFeedLine && reading.refusal.id == MessageId::None) {
       hints.push_back({HintId::LoneLineFeed, {std::to_string(*reading.lineFeedLine), path}});
     }

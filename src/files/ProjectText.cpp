@@ -164,10 +164,11 @@ class Reader {
   }
 
   void ReadKeptPoint() {
-    const ProjectExtras extras = ReadExtras(stream_);
-    const auto R = extras.find(kKeptR);
-    const auto V = extras.find(kKeptV);
-    if (R == extras.end() || V == extras.end()) return;
+    const ExtrasReading extras = ReadExtras(stream_);
+    reading_.blockEndsEarly = !extras.isWhole;
+    const auto R = extras.entries.find(kKeptR);
+    const auto V = extras.entries.find(kKeptV);
+    if (R == extras.entries.end() || V == extras.entries.end()) return;
     if (!IsNumericText(R->second) || !IsNumericText(V->second)) return;
     reading_.keptPoint = StoredPoint{R->second, V->second};
   }

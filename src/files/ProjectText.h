@@ -31,8 +31,9 @@ struct ProjectReading {
   std::optional<std::int16_t> mode;                       // the list index, any number
   std::optional<StoredPoint> point;
   std::optional<StoredPoint> keptPoint;
-  Message refusal;  // why the first line is not that of a project file of this version
-  bool isWhole = false;
+  Message refusal;              // why the first line is not that of a project file of this version
+  bool isWhole = false;         // every line was read
+  bool blockEndsEarly = false;  // what follows the lines has no closing line, and was not read
 
   // What a hint may say of it.
   std::string firstLine;

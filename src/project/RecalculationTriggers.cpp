@@ -1,6 +1,7 @@
 #include "project/RecalculationTriggers.h"
 
 #include <cmath>
+#include <utility>
 
 #include "base/NumberText.h"
 #include "base/Text.h"
@@ -52,11 +53,7 @@ RecalculationTriggers::RecalculationTriggers(ProjectForm& form, ctrlStormwaterRe
   WatchNormalized();
   WatchDescription();
   WatchLists();
-  workflow_.OnRecalculated = [this] {
-    ForgetChanges();
-    outOfDate_.TakeCalculated();
-    Settle();
-  };
+  workflow_.OnRecalculated = [this] { AnswerRecalculated(); };
   interactive_.OnPointShown = [this] { AnswerPointShown(); };
 }
 
@@ -76,7 +73,7 @@ void RecalculationTriggers::Watch(Entry& entry) {
   entry.field.OnChange = [this, &entry] { AnswerTyping(entry); };
   OnEnter(entry.field, [this, &entry] {
     Process(entry);
-    missing_.Say();
+    SayMissing();
   });
   entry.field.OnLeave = [this, &entry] {
     if (entry.changed) Process(entry);
@@ -88,8 +85,8 @@ void RecalculationTriggers::WatchNormalized() {
   for (const FieldDesign& design : Fields()) {
     if (design.kind != FieldKind::Normalized) continue;
     ctrlMyTextBox& field = form_.Box(design.id);
-    field.OnChange = [this, &field] {
-      if (!binding_.IsShowing() && !field.Locked()) isPointTyped_ = true;
+    field.OnChange = [this, &field, id = design.id] {
+      if (!binding_.IsShowing() && !field.Locked()) NoteTyped(id);
       AnswerEdit();
     };
     OnEnter(field, [this, &field, id = design.id] {
@@ -114,11 +111,12 @@ void RecalculationTriggers::WatchLists() {
 
 // A choice writes many fields; only what they show at its end makes sense.
 void RecalculationTriggers::AnswerChoice(void (RecalculationTriggers::*change)()) {
+  TakeBackNotTaken();
   {
     const FlagScope changing(isChoosing_);
     ShowFaultsOnBar(form_.txtErrMsg, [&] { (this->*change)(); });
   }
-  AnswerEdit();
+  TellEdited();
 }
 
 void RecalculationTriggers::AnswerTyping(Entry& entry) {
@@ -130,13 +128,25 @@ void RecalculationTriggers::AnswerTyping(Entry& entry) {
 void RecalculationTriggers::AnswerEdit() {
   if (binding_.IsShowing() || isChoosing_) return;
   TakeBackNotTaken();
+  TellEdited();
+}
+
+void RecalculationTriggers::TellEdited() {
   outOfDate_.Refresh();
   missing_.Refresh();
   if (OnEdited) OnEdited();
 }
 
+void RecalculationTriggers::AnswerRecalculated() {
+  const std::vector<TypedNumber> typed = std::exchange(typed_, {});
+  ForgetChanges();
+  outOfDate_.TakeCalculated();
+  Settle();
+  SayNotTaken(typed);
+}
+
 void RecalculationTriggers::AnswerPointShown() {
-  isPointTyped_ = false;
+  typed_.clear();
   outOfDate_.TakePoint();
   Settle();
   if (OnEdited && !isChoosing_) OnEdited();
@@ -161,7 +171,7 @@ void RecalculationTriggers::ProcessChanges() {
   for (Entry& entry : entries_) {
     if (entry.changed) Process(entry);
   }
-  if (isPointTyped_) ShowFaultsOnBar(form_.txtErrMsg, [this] { PlacePoint(); });
+  if (!typed_.empty()) ShowFaultsOnBar(form_.txtErrMsg, [this] { PlacePoint(); });
 }
 
 // The mark goes first: a message on the way may take the focus out of the field, which must not
@@ -180,36 +190,54 @@ void RecalculationTriggers::Process_CR() {
 }
 
 void RecalculationTriggers::PlacePointBy(Field typed) {
-  const std::string text = form_.Box(typed).Text();
+  NoteTyped(typed);
   PlacePoint();
-  if (!SayIfNotTaken(typed, text)) missing_.Say();
+  SayMissing();
+}
+
+void RecalculationTriggers::NoteTyped(Field field) {
+  std::erase_if(typed_, [field](const TypedNumber& number) { return number.field == field; });
+  typed_.push_back({field, form_.Box(field).Text()});
 }
 
 // A number that places no point is overwritten by the point's own, or stays without one; the user
 // is told. What the curves do not reach is told on the message bar.
-bool RecalculationTriggers::SayIfNotTaken(Field typed, const std::string& text) {
-  const std::string_view given = Trim(text);
+void RecalculationTriggers::SayNotTaken(const std::vector<TypedNumber>& typed) {
   const std::string message = form_.txtErrMsg.Text();
   const bool isRefused = form_.txtErrMsg.IsSet() && message != Sentence({MessageId::MissingData});
-  if (given.empty() || isRefused || !chart_.IsLoaded() || IsTaken(typed, text)) return false;
-  const std::string now = form_.Box(typed).Text();
-  const std::string caption = PlainCaption(typed);
+  const bool areResults = form_.Mode() != SolveFor::Interactive;
+  if (isRefused || areResults || !chart_.IsLoaded()) return;
+  std::vector<Hint> hints;
+  for (const TypedNumber& number : typed) {
+    if (!Trim(number.text).empty() && !IsTaken(number)) hints.push_back(HintOfNotTaken(number));
+  }
+  if (hints.empty()) return;
   missing_.TakeBack();
-  const Hint overwritten{HintId::NumberNotTaken, {caption, std::string(given), now}};
-  const Hint unused{HintId::NumberNotPlaced, {caption, std::string(given)}};
-  const bool isOverwritten = !now.empty() && now != text;
-  form_.hints.Show(HintSource::Input, {isOverwritten ? overwritten : unused});
+  form_.hints.Show(HintSource::Input, std::move(hints));
   saysNotTaken_ = true;
-  return true;
+}
+
+Hint RecalculationTriggers::HintOfNotTaken(const TypedNumber& number) const {
+  const std::string now = form_.Box(number.field).Text();
+  const std::string caption = PlainCaption(number.field);
+  const std::string given(Trim(number.text));
+  const bool isOverwritten = !now.empty() && now != number.text;
+  if (isOverwritten) return {HintId::NumberNotTaken, {caption, given, now}};
+  return {HintId::NumberNotPlaced, {caption, given}};
 }
 
 // The point shows the number, which it has through single precision.
-bool RecalculationTriggers::IsTaken(Field typed, const std::string& text) const {
+bool RecalculationTriggers::IsTaken(const TypedNumber& number) const {
   constexpr double kSinglePrecision = 1e-6;
-  const std::string now = form_.Box(typed).Text();
-  if (!interactive_.HotspotShowsNumbers() || !IsDefinedNumber(text)) return false;
-  const double given = ParseNumber(text);
-  return std::fabs(ParseNumber(now) - given) <= kSinglePrecision * std::fabs(given);
+  if (!interactive_.HotspotShowsNumbers() || !IsDefinedNumber(number.text)) return false;
+  const double given = ParseNumber(number.text);
+  const double now = ParseNumber(form_.Box(number.field).Text());
+  return std::fabs(now - given) <= kSinglePrecision * std::fabs(given);
+}
+
+// What a result still needs; a number that was not taken comes first.
+void RecalculationTriggers::SayMissing() {
+  if (!saysNotTaken_) missing_.Say();
 }
 
 void RecalculationTriggers::TakeBackNotTaken() {
@@ -220,15 +248,18 @@ void RecalculationTriggers::TakeBackNotTaken() {
 
 // The numbers place the point also where the site is not known yet; then only they show it.
 void RecalculationTriggers::PlacePoint() {
+  const std::vector<TypedNumber> typed = typed_;
   if (!workflow_.IsDataDefined() && interactive_.PlaceHotspotByNumbers()) {
     interactive_.AnswerChange();
   } else {
     Process_CR();
   }
+  SayNotTaken(typed);
 }
 
 // In the interactive mode the hotspot is the user's own point, not a solution: it stays, and only
-// the site values go.
+// the site values go. What was typed for it still stands in its fields, and is placed or told of
+// later.
 void RecalculationTriggers::ResetSolution() {
   form_.txtErrMsg.Clear();
   binding_.Empty({Field::SolveFor3});
@@ -238,7 +269,7 @@ void RecalculationTriggers::ResetSolution() {
     chart_.HideHotSpot();
     binding_.Empty({Field::R, Field::E, Field::V});
   }
-  ForgetChanges();
+  ForgetChangedEntries();
   Settle();
 }
 
@@ -278,7 +309,11 @@ void RecalculationTriggers::ChangeMode() {
 
 // What stands in the fields was not typed there: leaving them calls for nothing.
 void RecalculationTriggers::ForgetChanges() {
-  isPointTyped_ = false;
+  typed_.clear();
+  ForgetChangedEntries();
+}
+
+void RecalculationTriggers::ForgetChangedEntries() {
   for (Entry& entry : entries_) entry.changed = false;
 }
 

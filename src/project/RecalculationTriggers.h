@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "design/Hints.h"
 #include "project/MissingInputMarks.h"
 #include "project/ModeChange.h"
 #include "project/OutOfDateMarks.h"
@@ -61,6 +62,12 @@ class RecalculationTriggers {
     bool changed = false;  // since the last recalculation
   };
 
+  // What was typed in R, E or V; the field itself may show the point's own number by now.
+  struct TypedNumber {
+    Field field;
+    std::string text;
+  };
+
   static std::vector<Entry> EntriesOf(ProjectForm& form);
   void WatchNormalized();
   void WatchDescription();
@@ -68,16 +75,22 @@ class RecalculationTriggers {
   void Watch(Entry& entry);
   void AnswerTyping(Entry& entry);
   void AnswerEdit();
+  void TellEdited();
   void AnswerChoice(void (RecalculationTriggers::*change)());
   void Process(Entry& entry);
   void PlacePointBy(Field typed);
   void PlacePoint();
-  bool SayIfNotTaken(Field typed, const std::string& text);
-  bool IsTaken(Field typed, const std::string& text) const;
+  void NoteTyped(Field field);
+  void SayNotTaken(const std::vector<TypedNumber>& typed);
+  Hint HintOfNotTaken(const TypedNumber& number) const;
+  bool IsTaken(const TypedNumber& number) const;
   void TakeBackNotTaken();
+  void SayMissing();
+  void AnswerRecalculated();
   void AnswerPointShown();
   void Settle();
   void ForgetChanges();
+  void ForgetChangedEntries();
   void ChangeStation();
   void LoadCurves();
   void ChangeMode();
@@ -92,10 +105,10 @@ class RecalculationTriggers {
   ModeChange modeChange_;
   OutOfDateMarks outOfDate_;
   MissingInputMarks missing_;
-  bool isChoosing_ = false;     // a station or a mode, which has not settled yet
-  bool isPointTyped_ = false;   // in R, E or V, and not entered
-  bool saysNotTaken_ = false;   // of a number for the point
-  std::vector<Entry> entries_;  // never grows: the fields' events refer to them
+  bool isChoosing_ = false;         // a station or a mode, which has not settled yet
+  std::vector<TypedNumber> typed_;  // for the point, and not processed; the last typed comes last
+  bool saysNotTaken_ = false;       // of numbers for the point
+  std::vector<Entry> entries_;      // never grows: the fields' events refer to them
 };
 
 }  // namespace orvik

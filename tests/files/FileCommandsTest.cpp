@@ -221,6 +221,17 @@ TEST_F(FileMenu, AProjectThatIsCutShortIsKeptToo) {
   EXPECT_EQ(ReadBytes(folder_ / "Cut/Pond (kept).kav"), ProjectText(lines));
 }
 
+// Its lines are whole, but a save would write nothing of the block that follows them.
+TEST_F(FileMenu, AProjectWhoseBlockIsCutShortIsKeptToo) {
+  const std::string text = ProjectText(test::ProjectLines("0", {"0", "[ORVIK]", "point.R=0.125"}));
+  const std::string path = folder_.Write("Cut/Pond.kav", text);
+  Open(path);
+  Click("mnuFile_Save");
+  const std::string kept = folder_ / "Cut" + kPathSeparator + "Pond (kept).kav";
+  EXPECT_EQ(ReadBytes(kept), text);
+  EXPECT_THAT(SavingHints(), ElementsAre(Hint{HintId::ForeignFileKept, {path, kept}}));
+}
+
 TEST_F(FileMenu, SavingUnderAnotherNameLeavesTheForeignFileAsItIs) {
   const std::string path = folder_.Write("Letters/letter.txt", "Dear Sir,\r\n");
   Open(path);

@@ -70,6 +70,26 @@ TEST_F(KeptPoint, APointOutsideTheAxesIsKept) {
   EXPECT_EQ(KeptHint(), (Hint{HintId::PointKeptOffChart, {"0.125", "30"}}));
 }
 
+// Where the curves answer, the number that a line begins with places the point.
+TEST_F(KeptPoint, ALineIsKeptForTheNumberThatItBeginsWith) {
+  const struct {
+    const char* R;
+    const char* kept;  // null: the line begins with no number
+  } rows[] = {{"0.15x", "0.15"}, {" .25 in", "0.25"}, {"0x", "0"},
+              {"-1e1e", "-10"},  {"x", nullptr},      {"", nullptr},
+              {".", nullptr},    {"-.e5", nullptr},   {"1e999", nullptr}};
+  for (const auto& row : rows) {
+    auto lines = WithoutCurves();
+    lines[kTailLine + 1] = row.R;
+    ASSERT_TRUE(Open(lines));
+    if (row.kept) {
+      EXPECT_EQ(form_->Fields().keptPoint, (StoredPoint{row.kept, "3"})) << row.R;
+    } else {
+      EXPECT_EQ(form_->Fields().keptPoint, std::nullopt) << row.R;
+    }
+  }
+}
+
 TEST_F(KeptPoint, AProjectWhosePointIsShownHasNoBlock) {
   ASSERT_TRUE(Open(LinesWithPoint()));
   EXPECT_THAT(SavedTail(), ElementsAre("1", "0.125", "3"));

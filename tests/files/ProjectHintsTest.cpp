@@ -65,6 +65,21 @@ TEST_F(ProjectHints, ALastLineThatIsNotReadMayBeCutShortToo) {
               ElementsAre(Hint{HintId::PossiblyCutShort, {path_}}));
 }
 
+// Cut at a line end every line of it looks whole.
+TEST_F(ProjectHints, ABlockWithoutItsClosingLineIsSaidToEndEarly) {
+  std::vector<std::string> tail{"0", "[ORVIK]", "point.R=0.125", "point.V=3"};
+  for (; tail.size() > 1; tail.pop_back()) {
+    const std::string text = ProjectText(ProjectLines("0", tail));
+    EXPECT_THAT(HintsOf(text), ElementsAre(Hint{HintId::BlockEndsEarly, {path_}})) << text;
+    EXPECT_TRUE(opened_.isRead);
+    EXPECT_THAT(HintsOfText(text), IsEmpty()) << "only files are cut short";
+  }
+  EXPECT_THAT(HintsOf(ProjectText(ProjectLines("0", tail))), IsEmpty()) << "no block at all";
+  EXPECT_THAT(HintsOf(ProjectText(
+                  ProjectLines("0", {"0", "[ORVIK]", "point.R=0.125", "point.V=3", "[end]"}))),
+              IsEmpty());
+}
+
 TEST_F(ProjectHints, AFileThatEndsEarlyIsSaidToEndThere) {
   auto lines = ProjectLines();
   lines.pop_back();

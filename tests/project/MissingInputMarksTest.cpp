@@ -113,6 +113,106 @@ TEST_F(MissingInputMarksTest, ANumberThatThePointDoesNotTakeIsSaid) {
   EXPECT_EQ(Hint(), "") << "until the next keystroke";
 }
 
+// As above, where the number is processed by something other than Enter in its field.
+class NotTakenNumber : public MissingInputMarksTest {
+ protected:
+  NotTakenNumber() {
+    TypeSite("Orlando");
+    Type("txtR", "3");
+    TypeAndEnter("txtV", "5");
+    Type("txtR", "0.2");
+  }
+  void ExpectItIsSaid() const {
+    EXPECT_EQ(Text("txtR"), "3");
+    EXPECT_EQ(Hint(),
+              "Reuse rate R 0.2 was not taken; it is 3 again. Move the point on the chart instead, "
+              "or choose what to solve for and give two values of the site.");
+  }
+};
+
+TEST_F(NotTakenNumber, IsSaidByTheButtonRecalculate) {
+  PressReCalc();
+  ExpectItIsSaid();
+  PressReCalc();
+  EXPECT_EQ(Hint(), "") << "it was typed once";
+}
+
+TEST_F(NotTakenNumber, IsSaidByEnterInAnotherFieldAndByLeavingAChangedOne) {
+  Enter("txtBasinArea");
+  ExpectItIsSaid();
+  Type("txtR", "0.2");
+  Type("txtBasinArea", "12");
+  toolkit_.Leave("txtBasinArea");
+  ExpectItIsSaid();
+}
+
+TEST_F(NotTakenNumber, IsSaidByEnterInAnotherFieldOfThePoint) {
+  Enter("txtV");
+  ExpectItIsSaid();
+}
+
+TEST_F(NotTakenNumber, IsSaidBySaving) {
+  form_->Files().SaveFile(folder_ / "Pond.kav");
+  ExpectItIsSaid();
+}
+
+TEST_F(NotTakenNumber, IsSaidByPrinting) {
+  form_->PrintCurrentProject();
+  ExpectItIsSaid();
+}
+
+TEST_F(NotTakenNumber, IsSaidByAnotherStation) {
+  folder_.Write("KAV Data/Grady.crv", test::WideCurves().Text());
+  Choose("cmbClimateStation", "Grady");
+  ExpectItIsSaid();
+}
+
+TEST_F(NotTakenNumber, IsNotSaidOfAPointThatTheMouseMoves) {
+  const auto& geometry = form_->Chart().Geometry();
+  form_->Chart().MouseDown(1, geometry.XPlotToXFrame(6), geometry.YPlotToYFrame(4));
+  form_->Chart().MouseUp();
+  EXPECT_EQ(Hint(), "");
+}
+
+TEST_F(NotTakenNumber, IsNotSaidWhereAnotherModeMakesItAResult) {
+  Choose("cmbSolveFor", "Efficiency");
+  EXPECT_EQ(Hint().find("not taken"), std::string::npos) << Hint();
+}
+
+// It stays in its field while the site is incomplete, and is put back when the site is whole again.
+TEST_F(NotTakenNumber, IsSaidWhenAnIncompleteSiteBecomesWhole) {
+  TypeAndEnter("txtIrrigationArea", "");
+  EXPECT_EQ(Text("txtR"), "0.2");
+  TypeAndEnter("txtIrrigationArea", "5");
+  ExpectItIsSaid();
+}
+
+// E = 0.3 rounds to 0 like R, so no pair is left.
+TEST_F(NotTakenNumber, IsSaidTogetherWithAnother) {
+  Type("txtE", "0.3");
+  PressReCalc();
+  EXPECT_NE(Hint().find("Reuse rate R 0.2 was not taken"), std::string::npos) << Hint();
+  EXPECT_NE(Hint().find("0.3 was not taken"), std::string::npos) << Hint();
+}
+
+// E = 60 and V = 5 share a binary digit and place the point: only R is left out.
+TEST_F(NotTakenNumber, IsSaidWhereTheNumbersTypedAfterItPlaceThePoint) {
+  Type("txtE", "60");
+  Enter("txtE");
+  EXPECT_EQ(Text("txtE"), "60");
+  EXPECT_EQ(Hint().find("60 was not taken"), std::string::npos) << Hint();
+  EXPECT_NE(Hint().find("Reuse rate R 0.2 was not taken"), std::string::npos) << Hint();
+}
+
+TEST_F(MissingInputMarksTest, NumbersThatPlaceThePointAreNotSaidByARecalculation) {
+  TypeSite("Orlando");
+  Type("txtR", "3");
+  Type("txtV", "5");
+  PressReCalc();
+  EXPECT_EQ(Text("txtR"), "3");
+  EXPECT_EQ(Hint(), "");
+}
+
 TEST_F(MissingInputMarksTest, ANumberThatPlacesNoPointIsSaid) {
   TypeSite("Orlando");
   TypeAndEnter("txtR", "0.2");
