@@ -116,7 +116,7 @@ void RecalculationTriggers::AnswerChoice(void (RecalculationTriggers::*change)()
     const FlagScope changing(isChoosing_);
     ShowFaultsOnBar(form_.txtErrMsg, [&] { (this->*change)(); });
   }
-  TellEdited();
+  RaiseEdited();
 }
 
 void RecalculationTriggers::AnswerTyping(Entry& entry) {
@@ -128,10 +128,10 @@ void RecalculationTriggers::AnswerTyping(Entry& entry) {
 void RecalculationTriggers::AnswerEdit() {
   if (binding_.IsShowing() || isChoosing_) return;
   TakeBackNotTaken();
-  TellEdited();
+  RaiseEdited();
 }
 
-void RecalculationTriggers::TellEdited() {
+void RecalculationTriggers::RaiseEdited() {
   outOfDate_.Refresh();
   missing_.Refresh();
   if (OnEdited) OnEdited();
@@ -201,7 +201,7 @@ void RecalculationTriggers::NoteTyped(Field field) {
 }
 
 // A number that places no point is overwritten by the point's own, or stays without one; the user
-// is told. What the curves do not reach is told on the message bar.
+// reads so on the hint line. What the curves do not reach, the message bar says.
 void RecalculationTriggers::SayNotTaken(const std::vector<TypedNumber>& typed) {
   const std::string message = form_.txtErrMsg.Text();
   const bool isRefused = form_.txtErrMsg.IsSet() && message != Sentence({MessageId::MissingData});

@@ -75,7 +75,7 @@ class RecalculationTriggers {
   void Watch(Entry& entry);
   void AnswerTyping(Entry& entry);
   void AnswerEdit();
-  void TellEdited();
+  void RaiseEdited();
   void AnswerChoice(void (RecalculationTriggers::*change)());
   void Process(Entry& entry);
   void PlacePointBy(Field typed);
